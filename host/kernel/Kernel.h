@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+namespace vantrix::kernel {
+
+class ApplicationLock;
+class Document;
+class FrontEnd;
+class MouseModes;
+class StateChanges;
+class StyleStore;
+class UndoStack;
+
+/*
+ * The running plot: owns everything that the function interface reaches. The interface has no handle for it, so there
+ * is one in a process.
+ */
+class Kernel
+{
+public:
+    /* The kernel of this process, made on first use with one page and one empty frame. */
+    static Kernel& instance();
+
+    ~Kernel();
+
+    /* The front end in use; one that shows nothing and answers yes until another is set. Not owned; null resets. */
+    FrontEnd& frontEnd() const;
+    void setFrontEnd(FrontEnd* frontEnd);
+
+    ApplicationLock& lock() const { return *m_lock; }
+    Document& document() const { return *m_document; }
+    MouseModes& mouseModes() const { return *m_mouseModes; }
+    StateChanges& stateChanges() const { return *m_stateChanges; }
+    StyleStore& style() const { return *m_style; }
+    UndoStack& undoStack() const { return *m_undo; }
+
+    /* The text of the last failure; see VtxUtilGetLastErrorString(). */
+    const std::string& lastError() const { return m_lastError; }
+    void setLastError(std::string text) { m_lastError = std::move(text); }
+
+    /* Back to one page with one empty frame, default style, no history. Sends `StateChange_NewLayout`. */
+    void reset();
+
+private:
+    Kernel();
+
+    std::unique_ptr<StateChanges> m_stateChanges;
+    std::unique_ptr<UndoStack> m_undo;
+    std::unique_ptr<ApplicationLock> m_lock;
+    std::unique_ptr<StyleStore> m_style;
+    std::unique_ptr<Document> m_document;
+    std::unique_ptr<MouseModes> m_mouseModes;
+    std::unique_ptr<FrontEnd> m_noFrontEnd;
+    FrontEnd* m_frontEnd = nullptr;
+    std::string m_lastError;
+};
+
+} // namespace vantrix::kernel

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vantrix::kernel {
+
+/* One reversible change. It is recorded after it was made. */
+class UndoableChange
+{
+public:
+    virtual ~UndoableChange() = default;
+
+    /* Puts back, or makes again, and sends the state changes that tell of it. */
+    virtual void undo() = 0;
+    virtual void redo() = 0;
+
+    /* Bytes that only this change keeps in memory. */
+    virtual std::size_t memory() const = 0;
+};
+
+/*
+ * Steps that can be undone and redone. Changes recorded between beginStep() and endStep() are one step; a step without
+ * changes leaves no trace. The oldest steps are dropped when all together keep more than the memory bound.
+ */
+class UndoStack
+{
+public:
+    void beginStep();
+    void endStep();
+    bool isInStep() const { return m_current != nullptr; }
+
+    /* Names the step under way; the first name given stays. */
+    void nameStep(const std::string& name);
+
+    /* Adds a change to the step under way, or makes a step of it alone, and forgets what could be redone. */
+    void record(std::unique_ptr<UndoableChange> change);
+
+    bool canUndo() const { return !m_undo.empty(); }
+    bool canRedo() const { return !m_redo.empty(); }
+    std::string undoName() const;
+    std::string redoName() const;
+
+    /* False when there is no such step or one is under way. */
+    bool undo();
+    bool redo();
+
+    void clear();
+    void setMemoryBound(std::size_t bytes);
+
+    /* A number that differs after every change of the history; tells a menu or a title when to look again. */
+    unsigned long revision() const { return m_revision; }
+
+private:
+    struct Step
+    {
+        std::string name;
+        std::vector<std::unique_ptr<UndoableChange>> changes;
+        std::size_t memory() const;
+    };
+    void trim();
+
+    std::deque<Step> m_undo;
+    std::deque<Step> m_redo;
+    std::unique_ptr<Step> m_current;
+    std::size_t m_memoryBound = std::size_t{2} << 30;
+    unsigned long m_revision = 0;
+    bool m_replaying = false; /* changes made by an undo are not recorded again */
+};
+
+} // namespace vantrix::kernel
