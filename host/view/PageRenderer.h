@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+
+#include <memory>
+#include <optional>
+
+class QPainter;
+
+namespace vantrix::kernel {
+class Frame;
+class Kernel;
+struct Page;
+} // namespace vantrix::kernel
+
+namespace vantrix::view {
+
+class FramePlot;
+
+/*
+ * Paints a page, or one frame of it, with any QPainter: the work area, an image, a printer.
+ *
+ * Places on a page are in inches from the upper left corner of its paper, Y pointing down. What was rendered for a
+ * frame is kept and used again until the frame's style, its data set or the size in pixels changed. Field plots need a
+ * graphics display; everything else paints without one.
+ */
+class PageRenderer
+{
+public:
+    explicit PageRenderer(kernel::Kernel& kernel);
+    ~PageRenderer();
+    PageRenderer(const PageRenderer&) = delete;
+    PageRenderer& operator=(const PageRenderer&) = delete;
+
+    /* The paper in its orientation. */
+    QSizeF paperSize(const kernel::Page& page) const;
+    bool isPaperShown(const kernel::Page& page) const;
+    QColor paperColor(const kernel::Page& page) const;
+
+    QRectF frameRect(const kernel::Frame& frame) const;
+
+    /*
+     * Paints paper and frames, or one frame. `inch` is the length of an inch in the painter's logical units; the point
+     * (0, 0) of the painter is the paper's (or the frame's) upper left corner. Images are rendered at the resolution of
+     * the painter's device, its device pixel ratio included.
+     */
+    void paintPage(QPainter& painter, const kernel::Page& page, double inch);
+    void paintFrame(QPainter& painter, const kernel::Frame& frame, double inch);
+
+    /* The same into an image of that width in pixels; the height follows from paper or frame. At least one pixel. */
+    QImage pageImage(const kernel::Page& page, int width);
+    QImage frameImage(const kernel::Frame& frame, int width);
+
+    /*
+     * Renders field plots of large data sets coarsely while a view is being dragged; the next painting after it is set
+     * back is in full detail.
+     */
+    void setCoarse(bool coarse);
+
+    /* The plot of a frame as it was painted last; null when it was never painted. */
+    const FramePlot* plot(long frameId) const;
+
+    /* How often a field plot was rendered since this object was made. */
+    long renderCount() const;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace vantrix::view
