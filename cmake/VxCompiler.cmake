@@ -11,7 +11,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 find_program(VX_CCACHE ccache)
 if(VX_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${VX_CCACHE} sloppiness=pch_defines,time_macros,include_file_mtime,include_file_ctime)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${VX_CCACHE})
 endif()
 find_program(VX_MOLD mold)
 if(VX_MOLD)
