@@ -31,6 +31,10 @@ class UndoStack
 public:
     void beginStep();
     void endStep();
+
+    /* Undoes the changes recorded in the step under way so far, last one first; the step goes on, empty. */
+    void rollBackStep();
+
     bool isInStep() const { return m_current != nullptr; }
 
     /* Names the step under way; the first name given stays. */
