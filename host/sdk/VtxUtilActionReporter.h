@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace vantrix::sdk {
+
+/// Tells the user how an action ended: a failure in an error message that waits for the user, a success in the status
+/// line, so that doing a thing many times needs no extra click.
+class VtxUtilActionReporter
+{
+public:
+    /// @param result       whether the action succeeded
+    /// @param failureText  shown, as it stands, when it did not
+    /// @param successText  shown when it did; empty shows nothing
+    void reportResult(bool result, std::string const& failureText, std::string const& successText = {}) const;
+};
+
+} // namespace vantrix::sdk
