@@ -1,0 +1,39 @@
+#pragma once
+
+#include "propertymanager/generated/UIKernelStylePropertiesInterface.h"
+
+#include <vector>
+
+namespace vantrix::sdk::ui::propertymanager {
+
+/// What every generated property set shares. Sets live on the thread of the user interface; a nested set lives in the
+/// set that it is nested in.
+class UIKernelStylePropertiesAbstract : public virtual UIKernelStylePropertiesInterface
+{
+public:
+    UIKernelStylePropertiesAbstract* parent() const override { return m_parent; }
+    void init() override;
+    bool isModal() const override { return m_modal; }
+    void submit() override;
+    void setCollectionOffset(int const& offset) override;
+    int collectionOffset() const override { return m_collectionOffset; }
+    void parentSubmitted() override;
+
+protected:
+    explicit UIKernelStylePropertiesAbstract(bool modal);
+    /// A nested set is modal when the one around it is.
+    explicit UIKernelStylePropertiesAbstract(UIKernelStylePropertiesAbstract* parent);
+
+    /// What init() aims the members at again.
+    void rememberOffset(int first, int second);
+
+private:
+    UIKernelStylePropertiesAbstract* m_parent = nullptr;
+    std::vector<UIKernelStylePropertiesAbstract*> m_nested;
+    bool m_modal;
+    int m_collectionOffset = -1;
+    int m_firstOffset = -1;
+    int m_secondOffset = -1;
+};
+
+} // namespace vantrix::sdk::ui::propertymanager
