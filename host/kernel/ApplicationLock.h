@@ -15,9 +15,13 @@ public:
         : m_undo(undo)
     {}
 
+    /* `record` counts for the outermost lock only: whether the step is one command of a recorded macro. */
     void start(bool record);
+
+    /* Without a lock to finish it changes nothing and counts as a violation. */
     void finish();
     bool isOn() const { return m_depth > 0; }
+    bool isRecorded() const { return m_depth > 0 && m_isRecorded; }
 
     /* Called by whatever changes state; counts the calls made without the lock. */
     void expectLocked();
@@ -27,6 +31,7 @@ private:
     UndoStack& m_undo;
     long m_depth = 0;
     long m_violations = 0;
+    bool m_isRecorded = false;
 };
 
 } // namespace vantrix::kernel

@@ -29,6 +29,10 @@ public:
     FrontEnd& frontEnd() const;
     void setFrontEnd(FrontEnd* frontEnd);
 
+    /* Shows and hides the busy indicator of the front end; calls nest. */
+    void beginWait();
+    void endWait();
+
     ApplicationLock& lock() const { return *m_lock; }
     Document& document() const { return *m_document; }
     MouseModes& mouseModes() const { return *m_mouseModes; }
@@ -39,6 +43,9 @@ public:
     /* The text of the last failure; see VtxUtilGetLastErrorString(). */
     const std::string& lastError() const { return m_lastError; }
     void setLastError(std::string text) { m_lastError = std::move(text); }
+
+    /* Whether commands are being recorded into a macro. */
+    bool isRecordingMacro() const { return m_isRecordingMacro; }
 
     /* Back to one page with one empty frame, default style, no history. Sends `StateChange_NewLayout`. */
     void reset();
@@ -55,6 +62,8 @@ private:
     std::unique_ptr<FrontEnd> m_noFrontEnd;
     FrontEnd* m_frontEnd = nullptr;
     std::string m_lastError;
+    long m_waits = 0;
+    bool m_isRecordingMacro = false;
 };
 
 } // namespace vantrix::kernel

@@ -1,17 +1,24 @@
 #pragma once
 
-#include "api/VtxEnumerations.h"
+#include "api/VtxUtilState.h"
 
 namespace vantrix::kernel {
 
 class Document;
 class StateChanges;
+class StyleStore;
 
-/* What the mouse does over the work area. */
+/*
+ * What the mouse does over the work area. When the plot changes so that the present mode is not valid any more, the
+ * selector takes its place.
+ */
 class MouseModes
 {
 public:
-    MouseModes(const Document& document, StateChanges& changes);
+    MouseModes(const Document& document, const StyleStore& style, StateChanges& changes);
+    ~MouseModes();
+    MouseModes(const MouseModes&) = delete;
+    MouseModes& operator=(const MouseModes&) = delete;
 
     MouseMode_e current() const { return m_mode; }
 
@@ -22,8 +29,12 @@ public:
     bool set(MouseMode_e mode);
 
 private:
+    static void stateChanged(VtxStateChangeHandle change, void* modes);
+
     const Document& m_document;
+    const StyleStore& m_style;
     StateChanges& m_changes;
+    long m_plotType;
     MouseMode_e m_mode = MouseMode_Selector;
 };
 

@@ -18,7 +18,7 @@ namespace vantrix::kernel {
 
 /*
  * Sends state changes to whoever listens (VtxUtilStateChangeAddListener). A change that is sent while another is being
- * handed out waits until that one has reached everybody.
+ * handed out waits until that one has reached everybody. Listeners must not throw.
  */
 class StateChanges
 {

@@ -2,7 +2,10 @@
 
 #include "api/VtxEnumerations.h"
 
+#include <functional>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -20,28 +23,46 @@ using StyleData = std::variant<long, double, std::string>;
  *
  * What values there are is the vocabulary written from style/ (see StyleVocabulary.h). An entry is found once by its
  * path and is then a number. A value that was never set has the default of its description. `offset1` and `offset2` are
- * -1 where the entry has none.
+ * -1 where the entry has none. A scope is the identifier of a page or frame, or `processScope`.
  */
 class StyleStore
 {
 public:
+    static constexpr long processScope = 0;
+
     StyleStore(UndoStack& undo, StateChanges& changes);
     ~StyleStore();
 
     /* The store asks the document which page and frame are active. Set once, before the first access. */
     void setDocument(const Document& document);
 
-    /* The entry of a path ("FrameLayout", "Width"); -1 when there is none. */
+    /* The entry of a path, {"FrameLayout", "Width"} or "FrameLayout/Width"; -1 when there is none. */
     long entry(const std::vector<std::string>& path) const;
+    long entry(std::string_view path) const;
 
     GetValueReturnCode_e get(long entry, long offset1, long offset2, StyleData& value) const;
 
-    /* Checks, stores, records for undo and sends `StateChange_Style`; a value equal to the present one does nothing. */
+    /*
+     * Checks, stores, records for undo and sends `StateChange_Style` (and the kind that the description of the value
+     * announces besides); a value equal to the present one does nothing.
+     */
     SetValueReturnCode_e set(long entry, long offset1, long offset2, const StyleData& value);
+
+    /* The same for many first offsets: all are checked before the first is written; one state change for all. */
+    SetValueReturnCode_e setMany(long entry, const std::vector<long>& offsets1, long offset2, const StyleData& value);
 
     /* The same for one frame or page, whichever is active; for the view, which draws all of them. */
     GetValueReturnCode_e getOf(long scopeId, long entry, long offset1, long offset2, StyleData& value) const;
     SetValueReturnCode_e setOf(long scopeId, long entry, long offset1, long offset2, const StyleData& value);
+
+    /*
+     * Reads of which the caller knows that they are right: the value, or the default of the description where the
+     * offsets address nothing. Each throws std::logic_error, with the path, for an entry of another type or none.
+     */
+    bool flag(long scopeId, long entry, long offset1 = -1, long offset2 = -1) const;
+    long integer(long scopeId, long entry, long offset1 = -1, long offset2 = -1) const;
+    double real(long scopeId, long entry, long offset1 = -1, long offset2 = -1) const;
+    std::string text(long scopeId, long entry, long offset1 = -1, long offset2 = -1) const;
 
     /* See VtxUtilStyleGetChangeStamp(). */
     unsigned long changeStamp(long entry) const;
@@ -49,16 +70,33 @@ public:
     /* Changes whenever any value of that frame or page changed; tells the view when to draw again. */
     unsigned long scopeStamp(long scopeId) const;
 
-    /* Values of a scope are dropped with their frame or page, or copied for a new one. */
+    /*
+     * A further check of new values of one entry: returns why a value is refused in the present state of the plot, or
+     * an empty text. One rule an entry.
+     */
+    using Rule = std::function<std::string(long scopeId, const StyleData& value)>;
+    void setRule(long entry, Rule rule);
+
+    /* Gives every foreground colour of a frame that is `from` the value `to`. Undone as part of the step. */
+    void replaceForegroundColors(long scopeId, long from, long to);
+
+    /* Values of zones with these numbers are dropped and those behind move down. Undone as part of the step. */
+    void removeZones(long scopeId, const std::vector<long>& zones);
+
+    /* Values of a scope are dropped with their frame or page, or copied for a new one. Not recorded. */
     void removeScope(long scopeId);
     void copyScope(long from, long to);
 
+    /* Drops every value that was set. Not recorded, sends nothing. */
+    void clear();
+
     /* The text of the last access that failed. */
     const std::string& lastError() const;
+    void setLastError(std::string text) const;
 
 private:
-    struct Impl;
-    Impl* m_impl;
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace vantrix::kernel

@@ -22,6 +22,8 @@ public:
     virtual std::size_t memory() const = 0;
 };
 
+class StateChanges;
+
 /*
  * Steps that can be undone and redone. Changes recorded between beginStep() and endStep() are one step; a step without
  * changes leaves no trace. The oldest steps are dropped when all together keep more than the memory bound.
@@ -29,6 +31,10 @@ public:
 class UndoStack
 {
 public:
+    explicit UndoStack(StateChanges& changes)
+        : m_changes(changes)
+    {}
+
     void beginStep();
     void endStep();
 
@@ -43,12 +49,18 @@ public:
     /* Adds a change to the step under way, or makes a step of it alone, and forgets what could be redone. */
     void record(std::unique_ptr<UndoableChange> change);
 
+    /* The change recorded last in the step under way, into which the same kind of change may be merged; or null. */
+    UndoableChange* lastOfStep() const;
+
     bool canUndo() const { return !m_undo.empty(); }
     bool canRedo() const { return !m_redo.empty(); }
     std::string undoName() const;
     std::string redoName() const;
 
-    /* False when there is no such step or one is under way. */
+    /*
+     * False when there is no such step or one is under way. Sends what the changes of the step send, then
+     * `StateChange_HistoryStep`.
+     */
     bool undo();
     bool redo();
 
@@ -65,7 +77,11 @@ private:
         std::vector<std::unique_ptr<UndoableChange>> changes;
         std::size_t memory() const;
     };
+
     void trim();
+    bool replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo);
+
+    StateChanges& m_changes;
 
     std::deque<Step> m_undo;
     std::deque<Step> m_redo;

@@ -1,0 +1,33 @@
+#include "kernel/ApplicationLock.h"
+
+#include "kernel/UndoStack.h"
+
+namespace vantrix::kernel {
+
+void ApplicationLock::start(bool record)
+{
+    if (m_depth++ == 0) {
+        m_isRecorded = record;
+        m_undo.beginStep();
+    }
+}
+
+void ApplicationLock::finish()
+{
+    if (m_depth == 0) {
+        ++m_violations;
+        return;
+    }
+    if (--m_depth == 0) {
+        m_undo.endStep();
+    }
+}
+
+void ApplicationLock::expectLocked()
+{
+    if (m_depth == 0) {
+        ++m_violations;
+    }
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,178 @@
+#include "kernel/UndoStack.h"
+
+#include "kernel/StateChanges.h"
+
+#include <ranges>
+
+namespace vantrix::kernel {
+
+namespace {
+
+/* Sets a flag for as long as it lives. */
+class FlagScope
+{
+public:
+    explicit FlagScope(bool& flag)
+        : m_flag(flag)
+    {
+        m_flag = true;
+    }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+private:
+    bool& m_flag;
+};
+
+} // namespace
+
+std::size_t UndoStack::Step::memory() const
+{
+    std::size_t bytes = 0;
+    for (const auto& change : changes) {
+        bytes += change->memory();
+    }
+    return bytes;
+}
+
+void UndoStack::beginStep()
+{
+    if (!m_current) {
+        m_current = std::make_unique<Step>();
+    }
+}
+
+void UndoStack::endStep()
+{
+    if (!m_current) {
+        return;
+    }
+    const std::unique_ptr<Step> step = std::move(m_current);
+    if (step->changes.empty()) {
+        return;
+    }
+    m_redo.clear();
+    m_undo.push_back(std::move(*step));
+    ++m_revision;
+    trim();
+}
+
+void UndoStack::rollBackStep()
+{
+    if (!m_current || m_replaying) {
+        return;
+    }
+    const FlagScope replaying(m_replaying);
+    while (!m_current->changes.empty()) {
+        const std::unique_ptr<UndoableChange> change = std::move(m_current->changes.back());
+        m_current->changes.pop_back();
+        change->undo();
+    }
+    ++m_revision;
+}
+
+void UndoStack::nameStep(const std::string& name)
+{
+    if (m_current && m_current->name.empty()) {
+        m_current->name = name;
+    }
+}
+
+void UndoStack::record(std::unique_ptr<UndoableChange> change)
+{
+    if (m_replaying) {
+        return;
+    }
+    const bool isStepOfItsOwn = !m_current;
+    beginStep();
+    m_current->changes.push_back(std::move(change));
+    if (isStepOfItsOwn) {
+        endStep();
+    }
+}
+
+UndoableChange* UndoStack::lastOfStep() const
+{
+    return m_current && !m_current->changes.empty() && !m_replaying ? m_current->changes.back().get() : nullptr;
+}
+
+std::string UndoStack::undoName() const
+{
+    return m_undo.empty() ? std::string() : m_undo.back().name;
+}
+
+std::string UndoStack::redoName() const
+{
+    return m_redo.empty() ? std::string() : m_redo.back().name;
+}
+
+bool UndoStack::undo()
+{
+    return replay(m_undo, m_redo, true);
+}
+
+bool UndoStack::redo()
+{
+    return replay(m_redo, m_undo, false);
+}
+
+bool UndoStack::replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo)
+{
+    if (from.empty() || m_current || m_replaying) {
+        return false;
+    }
+    {
+        const FlagScope replaying(m_replaying);
+        to.push_back(std::move(from.back()));
+        from.pop_back();
+        const auto& changes = to.back().changes;
+        if (isUndo) {
+            for (const auto& change : std::views::reverse(changes)) {
+                change->undo();
+            }
+        } else {
+            for (const auto& change : changes) {
+                change->redo();
+            }
+        }
+    }
+    ++m_revision;
+    m_changes.send(StateChange_HistoryStep);
+    return true;
+}
+
+void UndoStack::clear()
+{
+    m_undo.clear();
+    m_redo.clear();
+    if (m_current) {
+        m_current->changes.clear();
+    }
+    ++m_revision;
+}
+
+void UndoStack::setMemoryBound(std::size_t bytes)
+{
+    m_memoryBound = bytes;
+    trim();
+}
+
+void UndoStack::trim()
+{
+    std::size_t total = 0;
+    std::size_t kept = 0;
+    while (kept < m_undo.size()) {
+        total += m_undo[m_undo.size() - 1 - kept].memory();
+        if (total > m_memoryBound) {
+            break;
+        }
+        ++kept;
+    }
+    if (kept < m_undo.size()) {
+        m_undo.erase(m_undo.begin(), m_undo.end() - static_cast<std::ptrdiff_t>(kept));
+        ++m_revision;
+    }
+}
+
+} // namespace vantrix::kernel

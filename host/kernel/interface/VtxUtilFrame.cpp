@@ -1,0 +1,139 @@
+#include "api/VtxUtilFrame.h"
+
+#include "kernel/Document.h"
+#include "kernel/FrontEnd.h"
+#include "kernel/MouseModes.h"
+#include "kernel/PaperSizes.h"
+#include "kernel/StyleStore.h"
+#include "kernel/interface/Boundary.h"
+
+using namespace vantrix::kernel;
+
+namespace {
+
+const Document& document()
+{
+    return Kernel::instance().document();
+}
+
+StyleStore& style()
+{
+    return Kernel::instance().style();
+}
+
+SetValueReturnCode_e report(SetValueReturnCode_e code)
+{
+    if (code != SetValueReturnCode_Ok) {
+        boundary::fail(style().lastError());
+    }
+    return code;
+}
+
+bool setIfNotNull(double* target, double value)
+{
+    if (target) {
+        *target = value;
+    }
+    return true;
+}
+
+bool answer(const PaperDimensions& dimensions, double* width, double* height)
+{
+    return setIfNotNull(width, dimensions.width) && setIfNotNull(height, dimensions.height);
+}
+
+} // namespace
+
+long VtxUtilPageGetCount(void)
+{
+    return static_cast<long>(document().pages().size());
+}
+
+long VtxUtilFrameGetCount(void)
+{
+    const Page* page = document().activePage();
+    return page ? static_cast<long>(page->frames.size()) : 0;
+}
+
+long VtxUtilFrameGetUniqueID(void)
+{
+    const Frame* frame = document().activeFrame();
+    return frame ? frame->id() : 0;
+}
+
+PlotType_e VtxUtilFrameGetPlotType(void)
+{
+    return boundary::guarded(PlotType_Sketch, [] {
+        static const long entry = style().entry("PlotType");
+        const Frame* frame = document().activeFrame();
+        return frame ? static_cast<PlotType_e>(style().integer(frame->id(), entry)) : PlotType_Sketch;
+    });
+}
+
+bool VtxUtilFrameSetPlotType(PlotType_e plotType)
+{
+    return boundary::guarded(false, [&] {
+        boundary::expectLocked();
+        return report(style().set(style().entry("PlotType"), -1, -1, static_cast<long>(plotType))) ==
+               SetValueReturnCode_Ok;
+    });
+}
+
+SetValueReturnCode_e VtxUtilFrameSetBackgroundColor(long color)
+{
+    return boundary::guarded(SetValueReturnCode_Refused, [&] {
+        boundary::expectLocked();
+        const SetValueReturnCode_e code =
+            report(style().set(style().entry("FrameLayout/BackgroundColor"), -1, -1, color));
+        if (code == SetValueReturnCode_Ok) {
+            constexpr long black = 0;
+            constexpr long white = 7;
+            style().replaceForegroundColors(document().activeFrame()->id(), color, color == black ? white : black);
+        }
+        return code;
+    });
+}
+
+bool VtxUtilPaperGetDimensions(double* width, double* height)
+{
+    return boundary::guarded(false, [&] {
+        const Page* page = document().activePage();
+        return page ? answer(paperDimensions(style(), page->id), width, height) : boundary::fail("There is no page.");
+    });
+}
+
+bool VtxUtilPaperGetDimensionsBySize(PaperSize_e size, bool portrait, double* width, double* height)
+{
+    return boundary::guarded(false, [&] {
+        const Page* page = document().activePage();
+        return page ? answer(paperDimensions(style(), page->id, size, portrait), width, height)
+                    : boundary::fail("There is no page.");
+    });
+}
+
+bool VtxUtilWorkViewFitPaper(void)
+{
+    return boundary::guarded(false, [] {
+        Kernel::instance().frontEnd().fitPaperToWorkArea();
+        return true;
+    });
+}
+
+MouseMode_e VtxUtilMouseGetCurrentMode(void)
+{
+    return Kernel::instance().mouseModes().current();
+}
+
+bool VtxUtilMouseIsValidMode(MouseMode_e mode)
+{
+    return boundary::guarded(false, [&] { return Kernel::instance().mouseModes().isValid(mode); });
+}
+
+bool VtxUtilMouseSetMode(MouseMode_e mode)
+{
+    return boundary::guarded(false, [&] {
+        boundary::expectLocked();
+        return Kernel::instance().mouseModes().set(mode) ||
+               boundary::fail("Mouse mode " + std::to_string(mode) + " is not valid for the present plot.");
+    });
+}

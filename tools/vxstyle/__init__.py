@@ -1,0 +1,1 @@
+"""Style descriptions and what is written from them."""
