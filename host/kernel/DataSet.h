@@ -39,12 +39,15 @@ public:
     long variableCount() const { return static_cast<long>(variables.size()); }
     long zoneCount() const { return static_cast<long>(zones.size()); }
 
-    /* By number from 1. Null, or an empty array, for a number out of range. */
+    /* By number from 1. Null for a number out of range. */
     const Zone* zone(long number) const;
     const FieldArray* field(long zone, long variable) const;
 
     /* The number of the variable with that name (case counts), 0 when there is none. */
     long variableNumber(const std::string& name) const;
+
+    /* At the end, enabled. */
+    void addZone(Zone zone);
 
 private:
     long m_id;

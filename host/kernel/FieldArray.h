@@ -26,6 +26,9 @@ struct FieldArray
 
     bool isLoaded() const { return values != nullptr; }
     bool isAvailable() const { return values != nullptr || loader != nullptr; }
+
+    /* The values, brought into memory for the caller where they are not; null when the zone does not have them. */
+    vtkSmartPointer<vtkDataArray> load() const { return values || !loader ? values : loader(); }
 };
 
 } // namespace vantrix::kernel

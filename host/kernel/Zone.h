@@ -2,6 +2,7 @@
 
 #include "api/VtxEnumerations.h"
 #include "kernel/FieldArray.h"
+#include "kernel/ZoneGridCache.h"
 
 #include <vtkCellArray.h>
 #include <vtkSmartPointer.h>
@@ -56,6 +57,9 @@ public:
 
     double solutionTime = 0.0;
 
+    /* What zoneGrid() keeps of this zone; freed with it. */
+    ZoneGridCache& grids() const { return m_grids; }
+
 private:
     Zone() = default;
 
@@ -63,6 +67,7 @@ private:
     ZoneType_e m_type = ZoneType_Ordered;
     std::array<long, 3> m_dimensions{1, 1, 1};
     vtkSmartPointer<vtkCellArray> m_cells;
+    mutable ZoneGridCache m_grids;
 };
 
 } // namespace vantrix::kernel
