@@ -1,7 +1,7 @@
 # The two products. The dialogs library is linked against nothing of the kernel: its VtxUtil symbols are found in the
 # process that loads it.
 
-set(VX_DIALOG_LAYERS vx_property vx_toolbox vx_sdk vx_styleproperties vx_propertymanager vx_propertybindings vx_ui vx_managers
+set(VX_DIALOG_LAYERS vx_property vx_toolbox vx_sdk vx_styleproperties vx_propertymanager vx_propertysets vx_propertybindings vx_ui vx_managers
     vx_dialogs)
 
 # vx_add_shared(name LAYERS layer... PUBLIC target... PRIVATE target...)

@@ -25,3 +25,19 @@ add_custom_target(style_reference
         --enumerations ${VX_STYLE_ENUMERATIONS} --output ${PROJECT_SOURCE_DIR}/docs/style-reference.md
     COMMENT "Writing docs/style-reference.md"
     VERBATIM)
+
+# The property sets are written while configuring, because which files there are follows from the descriptions.
+# Headers are then included as "propertymanager/generated/FrameEditPropertiesGenerated.h".
+set(VX_GENERATED_ROOT ${PROJECT_BINARY_DIR}/generated)
+set(VX_PROPERTY_SETS ${VX_GENERATED_ROOT}/propertymanager/generated/PropertySets.cpp)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${VX_STYLE_DEPENDS})
+foreach(written "sets;propertymanager/generated" "walk;tests/PropertySetWalk.h")
+  list(GET written 0 what)
+  list(GET written 1 output)
+  execute_process(COMMAND ${Python3_EXECUTABLE} -B ${VX_STYLE_GENERATOR} ${what} --style ${PROJECT_SOURCE_DIR}/style
+          --enumerations ${VX_STYLE_ENUMERATIONS} --output ${VX_GENERATED_ROOT}/${output}
+      RESULT_VARIABLE failed)
+  if(failed)
+    message(FATAL_ERROR "The style descriptions in style/ are wrong, see above")
+  endif()
+endforeach()

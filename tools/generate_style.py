@@ -3,6 +3,8 @@
 
     generate_style.py vocabulary --style DIR --enumerations FILE --output FILE.cpp
     generate_style.py reference  --style DIR --enumerations FILE --output FILE.md
+    generate_style.py sets       --style DIR --enumerations FILE --output DIR
+    generate_style.py walk       --style DIR --enumerations FILE --output FILE.h
 
 A wrong description ends the program with status 1 and one line for each fault: file, node, key, what is wrong, what would
 be right. A file that would not change is left alone, so that nothing is built again for it.
@@ -12,10 +14,16 @@ import argparse
 import sys
 from pathlib import Path
 
-from vxstyle import reference, vocabulary
+from vxstyle import property_sets, reference, vocabulary
 from vxstyle.description import DescriptionError, load
 
-WRITERS = {"vocabulary": vocabulary.write, "reference": reference.write}
+# Each gives the text of a file, or for a folder the texts by file name.
+WRITERS = {
+    "vocabulary": vocabulary.write,
+    "reference": reference.write,
+    "sets": property_sets.write,
+    "walk": property_sets.write_walk,
+}
 
 
 def write_if_changed(path: Path, text: str) -> None:
@@ -33,11 +41,15 @@ def main(arguments: list[str]) -> int:
     parser.add_argument("--output", type=Path, required=True)
     options = parser.parse_args(arguments)
     try:
-        style = load(options.style, options.enumerations)
+        written = WRITERS[options.what](load(options.style, options.enumerations))
     except DescriptionError as error:
         print(error, file=sys.stderr)
         return 1
-    write_if_changed(options.output, WRITERS[options.what](style))
+    if isinstance(written, str):
+        write_if_changed(options.output, written)
+    else:
+        for name, text in written.items():
+            write_if_changed(options.output / name, text)
     return 0
 
 

@@ -1,10 +1,11 @@
 """Loads and checks the style descriptions.
 
-style/*.toml hold three kinds of tables:
+style/*.toml hold four kinds of tables:
 
     [offset.NAME]  what an offset counts: `limit` (the highest number) or `count = "zones"`, `help`
     [node.NAME]    values that belong together: `help`, `members`, optionally `base` (a node whose members come first; a
                    member with the same key replaces the base's) and `set = true` when a property set is written for it
+    [set.NAME]     a property set of values from several places, see sets.py
     [[place]]      where nodes stand in the style: `path`, `node`, `scope` (process, page, frame), optionally `offset`
 
 A member of a node is one table:
@@ -120,6 +121,7 @@ class Style:
     places: list[Place] = field(default_factory=list)
     entries: list[Entry] = field(default_factory=list)
     enumerations: dict[str, Enumeration] = field(default_factory=dict)
+    chosen_sets: list[tuple[str, str, dict]] = field(default_factory=list)  # file, name and table of each [set.NAME]
     helps: dict[str, str] = field(default_factory=dict)  # a file's first comment: what the area is
 
     def all_members(self, node: Node) -> list[Member]:
@@ -152,14 +154,15 @@ class _Loader:
         self.style.helps[path.stem] = " ".join(
             line.lstrip("# ") for line in re.match(r"(#.*\n)*", text).group().splitlines()
         )
-        for key in content.keys() - {"offset", "node", "place"}:
-            self.fault(path.name, f'"{key}" is unknown; a file holds [offset.NAME], [node.NAME] and [[place]]')
+        for key in content.keys() - {"offset", "node", "place", "set"}:
+            self.fault(path.name, f'"{key}" is unknown; a file holds [offset.NAME], [node.NAME], [set.NAME] and [[place]]')
         for name, table in content.get("offset", {}).items():
             self.read_offset(path.name, name, table)
         for name, table in content.get("node", {}).items():
             self.read_node(path.name, name, table)
         for table in content.get("place", []):
             self.read_place(path.name, table)
+        self.style.chosen_sets += [(path.name, name, table) for name, table in content.get("set", {}).items()]
 
     def read_offset(self, file: str, name: str, table: dict) -> None:
         where = f'offset "{name}"'

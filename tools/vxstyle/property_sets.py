@@ -1,13 +1,14 @@
-"""Writes the property sets of the dialogs library: one header a node with `set = true`, one source for all of them."""
+"""Writes the property sets of the dialogs library: one header a set, one source for all of them."""
 
-from .description import INTEGER_TYPES, Member, Node, Style
+from .description import INTEGER_TYPES, Member, Style
+from .sets import PropertySet, load_sets
 
 NAMESPACE = "vantrix::sdk::ui::propertymanager"
 NOTICE = "/* Written from style/ by tools/generate_style.py. Do not edit. */"
 
 
-def class_name(node: Node) -> str:
-    return f"{node.name}PropertiesGenerated"
+def nested_class(member: Member) -> str:
+    return f"{member.node}PropertiesGenerated"
 
 
 def cpp_type(member: Member) -> str:
@@ -28,10 +29,6 @@ def path(member: Member) -> str:
     return " + ".join(["basePath", *(f'"{name}"' for name in member.key)])
 
 
-def set_members(style: Style, node: Node) -> list[Member]:
-    return [member for member in style.all_members(node) if member.in_set]
-
-
 def contract(member: Member) -> str:
     """The comment of a getter: what the value is, its unit and range."""
     facts = [member.help]
@@ -44,9 +41,9 @@ def contract(member: Member) -> str:
     return " ".join(facts)
 
 
-def accessors(style: Style, member: Member) -> list[str]:
+def accessors(member: Member) -> list[str]:
     if member.node:
-        nested = class_name(style.nodes[member.node])
+        nested = nested_class(member)
         return [f"    virtual boost::shared_ptr<{nested}> {member.getter}() const;"]
     return [
         f"    /// {contract(member)}",
@@ -55,16 +52,16 @@ def accessors(style: Style, member: Member) -> list[str]:
     ]
 
 
-def declaration(style: Style, member: Member) -> str:
+def declaration(member: Member) -> str:
     if member.node:
-        return f"    boost::shared_ptr<{class_name(style.nodes[member.node])}> {field_name(member)};"
+        return f"    boost::shared_ptr<{nested_class(member)}> {field_name(member)};"
     return f"    PropertySetMember<{cpp_type(member)}> {field_name(member)};"
 
 
-def header(style: Style, node: Node) -> str:
-    name = class_name(node)
-    members = set_members(style, node)
-    nested = sorted({class_name(style.nodes[member.node]) for member in members if member.node})
+def header(one: PropertySet) -> str:
+    name = one.class_name
+    members = one.members
+    nested = sorted({nested_class(member) for member in members if member.node})
     lines = [
         "#pragma once",
         "",
@@ -79,7 +76,7 @@ def header(style: Style, node: Node) -> str:
         "",
         *(f"class {other};" for other in nested),
         *([""] if nested else []),
-        f"/// {node.help}",
+        f"/// {one.help}",
         f"class {name} : public UIKernelStylePropertiesAbstract",
         "{",
         "public:",
@@ -93,18 +90,18 @@ def header(style: Style, node: Node) -> str:
         "",
     ]
     for member in members:
-        lines += accessors(style, member)
-    lines += ["", "private:", *(declaration(style, member) for member in members), "};", "", f"}} // namespace {NAMESPACE}", ""]
+        lines += accessors(member)
+    lines += ["", "private:", *(declaration(member) for member in members), "};", "", f"}} // namespace {NAMESPACE}", ""]
     return "\n".join(lines)
 
 
-def constructor(style: Style, node: Node, members: list[Member], argument: str, base: str, modal: str) -> list[str]:
+def constructor(one: PropertySet, argument: str, base: str, modal: str) -> list[str]:
     """`modal` and the base path reach every member; the order is that of declaration."""
-    name = class_name(node)
+    name = one.class_name
     initialisers = [f"UIKernelStylePropertiesAbstract({base})"]
-    for member in members:
+    for member in one.members:
         if member.node:
-            other = class_name(style.nodes[member.node])
+            other = nested_class(member)
             initialisers.append(f"{field_name(member)}(boost::make_shared<{other}>(this, {path(member)}))")
         else:
             initialisers.append(f"{field_name(member)}({modal}, {path(member)})")
@@ -118,11 +115,11 @@ def constructor(style: Style, node: Node, members: list[Member], argument: str, 
     ]
 
 
-def definitions(style: Style, node: Node) -> list[str]:
-    name = class_name(node)
-    members = set_members(style, node)
-    lines = constructor(style, node, members, "bool modal", "modal", "modal")
-    lines += constructor(style, node, members, "UIKernelStylePropertiesAbstract* parent", "parent", "isModal()")
+def definitions(one: PropertySet) -> list[str]:
+    name = one.class_name
+    members = one.members
+    lines = constructor(one, "bool modal", "modal", "modal")
+    lines += constructor(one, "UIKernelStylePropertiesAbstract* parent", "parent", "isModal()")
     lines += [f"{name}::~{name}() = default;", "", f"void {name}::submitProperties()", "{"]
     for member in members:
         lines.append(f"    {field_name(member)}{'->submitProperties' if member.node else '.submit'}();")
@@ -132,7 +129,7 @@ def definitions(style: Style, node: Node) -> list[str]:
     lines += ["}", ""]
     for member in members:
         if member.node:
-            nested = class_name(style.nodes[member.node])
+            nested = nested_class(member)
             lines += [f"boost::shared_ptr<{nested}> {name}::{member.getter}() const", "{", f"    return {field_name(member)};", "}", ""]
             continue
         lines += [
@@ -152,50 +149,34 @@ def definitions(style: Style, node: Node) -> list[str]:
 
 def write(style: Style) -> dict[str, str]:
     """The text of each file by its name."""
-    nodes = sorted((node for node in style.nodes.values() if node.has_set), key=class_name)
-    files = {f"{class_name(node)}.h": header(style, node) for node in nodes}
-    source = [NOTICE, *(f'#include "propertymanager/generated/{class_name(node)}.h"' for node in nodes), "", f"namespace {NAMESPACE} {{", ""]
-    for node in nodes:
-        source += definitions(style, node)
+    sets = load_sets(style)
+    files = {f"{one.class_name}.h": header(one) for one in sets}
+    source = [NOTICE, *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
+    source += [f"namespace {NAMESPACE} {{", ""]
+    for one in sets:
+        source += definitions(one)
     files["PropertySets.cpp"] = "\n".join([*source, f"}} // namespace {NAMESPACE}", ""])
     return files
 
 
-def first_places(style: Style) -> dict[str, tuple[tuple[str, ...], int]]:
-    """Where each node stands first in the style: its path, and how many offsets its values have at the least."""
-    found: dict[str, tuple[tuple[str, ...], int]] = {}
-
-    def visit(name: str, at: tuple[str, ...], offsets: int) -> None:
-        found.setdefault(name, (at, offsets))
-        for member in style.all_members(style.nodes[name]):
-            if member.node:
-                visit(member.node, (*at, *member.key), offsets + bool(member.offset))
-
-    for place in style.places:
-        visit(place.node, place.path, int(bool(place.offset)))
-    return found
+def visitor(one: PropertySet) -> list[str]:
+    lines = ["", "template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor&& visit)", "{"]
+    for member in one.members:
+        key, get = "/".join(member.key), f"set.{member.getter}()"
+        call = f'visitMembers(*{get}, path + "/{key}", visit)' if member.node else f'visit(path + "/{key}", {get})'
+        lines.append(f"    {call};")
+    return [*lines, "}"]
 
 
 def write_walk(style: Style) -> str:
     """A header for the tests that reaches every member of every set."""
-    nodes = sorted((node for node in style.nodes.values() if node.has_set), key=class_name)
-    places = first_places(style)
-    lines = ["#pragma once", "", NOTICE, "", *(f'#include "propertymanager/generated/{class_name(node)}.h"' for node in nodes), ""]
+    sets = load_sets(style)
+    lines = ["#pragma once", "", NOTICE, "", *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
     lines += [f"namespace {NAMESPACE} {{", ""]
-    for node in nodes:
-        lines += ["template<typename Visitor>", f"void visitMembers({class_name(node)}& set, std::string const& path, Visitor&& visit);"]
-    for node in nodes:
-        lines += [
-            "",
-            "template<typename Visitor>",
-            f"void visitMembers({class_name(node)}& set, std::string const& path, Visitor&& visit)",
-            "{",
-        ]
-        for member in set_members(style, node):
-            key = "/".join(member.key)
-            call = f'visitMembers(*set.{member.getter}(), path + "/{key}", visit)' if member.node else f'visit(path + "/{key}", set.{member.getter}())'
-            lines.append(f"    {call};")
-        lines.append("}")
+    for one in sets:
+        lines += ["template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor&& visit);"]
+    for one in sets:
+        lines += visitor(one)
     lines += [
         "",
         "/// Calls `visit.operator()<Set>(name, base path, number of offsets)` for every set.",
@@ -203,9 +184,8 @@ def write_walk(style: Style) -> str:
         "void visitSets(Visitor&& visit)",
         "{",
     ]
-    for node in nodes:
-        at, offsets = places[node.name]
-        names = ", ".join(f'"{name}"' for name in at)
-        lines.append(f'    visit.template operator()<{class_name(node)}>("{class_name(node)}", toolbox::StringList{{{names}}}, {offsets});')
+    for one in sets:
+        names = ", ".join(f'"{name}"' for name in one.path)
+        lines.append(f'    visit.template operator()<{one.class_name}>("{one.class_name}", toolbox::StringList{{{names}}}, {one.offsets});')
     lines += ["}", "", f"}} // namespace {NAMESPACE}", ""]
     return "\n".join(lines)
