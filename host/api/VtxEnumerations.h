@@ -322,6 +322,53 @@ typedef enum
     MeshType_HiddenLine = 2
 } MeshType_e;
 
+/* Which cells of a volume zone are drawn as surfaces. */
+typedef enum
+{
+    SurfacesToPlot_None = 0,
+    SurfacesToPlot_BoundaryFaces = 1,
+    SurfacesToPlot_ExposedFaces = 2,
+    SurfacesToPlot_IPlanes = 3,
+    SurfacesToPlot_JPlanes = 4,
+    SurfacesToPlot_KPlanes = 5,
+    SurfacesToPlot_IJPlanes = 6,
+    SurfacesToPlot_JKPlanes = 7,
+    SurfacesToPlot_IKPlanes = 8,
+    SurfacesToPlot_IJKPlanes = 9,
+    SurfacesToPlot_EveryFace = 10
+} SurfacesToPlot_e;
+
+/* Where scatter symbols and vectors are drawn. */
+typedef enum
+{
+    PointsToPlot_SurfaceNodes = 0,
+    PointsToPlot_AllNodes = 1,
+    PointsToPlot_SurfaceCellCenters = 2,
+    PointsToPlot_AllCellCenters = 3
+} PointsToPlot_e;
+
+typedef enum
+{
+    EdgeType_Borders = 0,
+    EdgeType_Creases = 1,
+    EdgeType_BordersAndCreases = 2
+} EdgeType_e;
+
+typedef enum
+{
+    VectorType_TailAtPoint = 0,
+    VectorType_HeadAtPoint = 1,
+    VectorType_MidAtPoint = 2,
+    VectorType_HeadOnly = 3
+} VectorType_e;
+
+typedef enum
+{
+    ArrowheadStyle_Plain = 0,
+    ArrowheadStyle_Filled = 1,
+    ArrowheadStyle_Hollow = 2
+} ArrowheadStyle_e;
+
 typedef enum
 {
     Streamtrace_SurfaceLine = 0,

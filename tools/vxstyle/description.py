@@ -18,15 +18,18 @@ A member of a node is one table:
     unit, help
     announces         kind of state change, without prefix, that a change sends besides `Style`
     offset            what the (next) offset of the path counts
-    node              in place of `type`: the member is a node of that name
+    node              in place of `type`: the member is a node of that name. `announces` then holds for all values below,
+                      and `defaults` gives some of them another default: { Show = false, "Box/Color" = 1 }
     name              of the getter in the property set; with a capital "get" is put in front. The key where it is left out
     set = false       the member is no part of the property set
+
+`defaults` may stand at a place, too.
 """
 
 import math
 import re
 import tomllib
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 from pathlib import Path
 
 from .enumerations import Enumeration, read_enumerations
@@ -45,7 +48,8 @@ INTEGER_TYPES = {
     "contour_color": (0, 71, "int"),
     "variable": (0, INT_MAX, "int"),
 }
-MEMBER_KEYS = {"key", "type", "default", "min", "max", "above", "unit", "help", "announces", "offset", "node", "name", "set"}
+MEMBER_KEYS = {"key", "type", "default", "min", "max", "above", "unit", "help", "announces", "offset"}
+MEMBER_KEYS |= {"node", "defaults", "name", "set"}
 
 
 class DescriptionError(Exception):
@@ -74,6 +78,7 @@ class Member:
     above: bool = False  # `minimum` itself is not allowed
     unit: str = ""
     announces: str | None = None
+    defaults: dict[str, object] = field(default_factory=dict, hash=False)
 
     @property
     def getter(self) -> str:
@@ -101,6 +106,7 @@ class Place:
     scope: str
     offset: str | None
     file: str
+    defaults: dict[str, object]
 
 
 @dataclass(frozen=True)
@@ -213,8 +219,12 @@ class _Loader:
             in_set=table.get("set", True),
             offset=table.get("offset"),
         )
+        announces = table.get("announces")
+        if announces is not None and announces not in self.style.enumerations["StateChange_e"].enumerators:
+            self.fault(file, where, where_key, f'announces "{announces}" is no kind of state change; see StateChange_e')
+        common["announces"] = announces
         if "node" in table:
-            return Member(node=table["node"], **common)
+            return Member(node=table["node"], defaults=table.get("defaults", {}), **common)
         return self.read_value(file, where, where_key, table, common)
 
     def read_value(self, file: str, where: str, where_key: str, table: dict, common: dict) -> Member | None:
@@ -227,8 +237,17 @@ class _Loader:
         if "default" not in table:
             self.fault(file, where, where_key, 'has no "default"; every value needs one')
             return None
-        default = table["default"]
         minimum, maximum, above = self.read_range(file, where, where_key, table)
+        member = Member(
+            type=kind, default=table["default"], minimum=minimum, maximum=maximum, above=above,
+            unit=table.get("unit", ""), **common,
+        )
+        self.check_default(file, where, where_key, member)
+        return member
+
+    def check_default(self, file: str, where: str, where_key: str, member: Member) -> None:
+        kind, default = member.type, member.default
+        enumeration = self.style.enumerations.get(kind)
         if enumeration:
             if default not in enumeration.enumerators:
                 known = ", ".join(enumeration.enumerators)
@@ -242,19 +261,11 @@ class _Loader:
         elif isinstance(default, bool) or not isinstance(default, int if kind in INTEGER_TYPES else (int, float)):
             self.fault(file, where, where_key, f"default {default!r} does not have the type {kind}")
         elif (
-            (minimum is not None and (default <= minimum if above else default < minimum))
-            or (maximum is not None and default > maximum)
+            (member.minimum is not None and (default <= member.minimum if member.above else default < member.minimum))
+            or (member.maximum is not None and default > member.maximum)
             or not math.isfinite(default)
         ):
             self.fault(file, where, where_key, f"default {default} is out of the range that stands beside it")
-        announces = table.get("announces")
-        kinds = self.style.enumerations["StateChange_e"].enumerators
-        if announces is not None and announces not in kinds:
-            self.fault(file, where, where_key, f'announces "{announces}" is no kind of state change; see StateChange_e')
-        return Member(
-            type=kind, default=default, minimum=minimum, maximum=maximum, above=above,
-            unit=table.get("unit", ""), announces=announces, **common,
-        )
 
     def read_range(self, file: str, where: str, where_key: str, table: dict) -> tuple:
         kind = table["type"]
@@ -274,13 +285,15 @@ class _Loader:
     def read_place(self, file: str, table: dict) -> None:
         path = table.get("path", "")
         where = f'place "{path}"'
-        for key in table.keys() - {"path", "node", "scope", "offset"}:
-            self.fault(file, where, f'"{key}" is unknown; a place has path, node, scope and offset')
+        for key in table.keys() - {"path", "node", "scope", "offset", "defaults"}:
+            self.fault(file, where, f'"{key}" is unknown; a place has path, node, scope, offset and defaults')
         if table.get("scope") not in SCOPES:
             self.fault(file, where, f'scope "{table.get("scope")}" is unknown; it would be one of {", ".join(SCOPES)}')
             return
         names = tuple(path.split("/")) if path else ()
-        self.style.places.append(Place(names, table.get("node", ""), table["scope"], table.get("offset"), file))
+        self.style.places.append(
+            Place(names, table.get("node", ""), table["scope"], table.get("offset"), file, table.get("defaults", {}))
+        )
 
     def check_references(self) -> None:
         nodes = self.style.nodes
@@ -319,30 +332,53 @@ class _Loader:
 
     def expand(self) -> None:
         for place in self.style.places:
-            self.expand_node(place, place.path, (place.offset,) if place.offset else (), self.style.nodes[place.node])
+            unused = dict(place.defaults)
+            self.expand_node(place, place.path, (place.offset,) if place.offset else (), self.style.nodes[place.node], unused)
+            self.check_all_used(place.file, f'place "{"/".join(place.path)}"', unused)
         self.style.entries.sort(key=lambda entry: entry.path)
         for first, second in zip(self.style.entries, self.style.entries[1:]):
             if first.path == second.path:
                 path = "/".join(first.path)
                 self.fault(second.file, f'path "{path}"', f"is described twice (also in {first.file}); a path has one description")
 
-    def expand_node(self, place: Place, path: tuple, offsets: tuple, node: Node) -> None:
+    def check_all_used(self, file: str, where: str, unused: dict[str, object]) -> None:
+        for key in unused:
+            self.fault(file, where, f'defaults "{key}"', "names no value below it")
+
+    def expand_node(
+        self, place: Place, path: tuple, offsets: tuple, node: Node, defaults: dict[str, object], announces: str | None = None
+    ) -> None:
+        """Adds the entries of a node; takes out of `defaults` what it used."""
         for member in self.style.all_members(node):
             full = (*path, *member.key)
+            key = "/".join(member.key)
             own = (*offsets, member.offset) if member.offset else offsets
-            where = f'path "{"/".join(full)}"'
             if member.node:
-                self.expand_node(place, full, own, self.style.nodes[member.node])
+                below = dict(member.defaults)
+                prefix = key + "/"
+                for longer in [other for other in defaults if other.startswith(prefix)]:
+                    below[longer.removeprefix(prefix)] = defaults.pop(longer)
+                self.expand_node(place, full, own, self.style.nodes[member.node], below, member.announces or announces)
+                self.check_all_used(node.file, f'node "{node.name}": key "{key}"', below)
                 continue
-            if len(full) > PATH_MAX:
-                self.fault(node.file, f'node "{node.name}"', where, f"has {len(full)} names; {PATH_MAX} are allowed")
-            if len(own) > 2:
-                self.fault(node.file, f'node "{node.name}"', where, f"has the offsets {', '.join(own)}; two are allowed")
-                continue
-            found = tuple(self.style.offsets[name] for name in own)
-            if len(found) == 2 and found[1].limit is None:
-                self.fault(node.file, f'node "{node.name}"', where, f'its second offset "{own[1]}" needs a limit')
-            self.style.entries.append(Entry(full, member, place.scope, found, place.file))
+            if key in defaults:
+                member = replace(member, default=defaults.pop(key))
+                self.check_default(place.file, f'path "{"/".join(full)}"', "defaults", member)
+            if announces and not member.announces:
+                member = replace(member, announces=announces)
+            self.add_entry(place, full, own, node, member)
+
+    def add_entry(self, place: Place, full: tuple, own: tuple, node: Node, member: Member) -> None:
+        where = f'path "{"/".join(full)}"'
+        if len(full) > PATH_MAX:
+            self.fault(node.file, f'node "{node.name}"', where, f"has {len(full)} names; {PATH_MAX} are allowed")
+        if len(own) > 2:
+            self.fault(node.file, f'node "{node.name}"', where, f"has the offsets {', '.join(own)}; two are allowed")
+            return
+        found = tuple(self.style.offsets[name] for name in own)
+        if len(found) == 2 and found[1].limit is None:
+            self.fault(node.file, f'node "{node.name}"', where, f'its second offset "{own[1]}" needs a limit')
+        self.style.entries.append(Entry(full, member, place.scope, found, place.file))
 
 
 def load(folder: Path, enumerations: Path) -> Style:

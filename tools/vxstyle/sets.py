@@ -40,10 +40,14 @@ class _Sets:
 
     def find_places(self, node: str, path: tuple[str, ...], offsets: int) -> None:
         self.nodes.setdefault(path, node)
-        self.first_places.setdefault(node, (path, offsets))
+        for kind in self.with_bases(node):
+            self.first_places.setdefault(kind, (path, offsets))
         for member in self.style.all_members(self.style.nodes[node]):
             if member.node:
                 self.find_places(member.node, (*path, *member.key), offsets + bool(member.offset))
+
+    def with_bases(self, node: str | None) -> list[str]:
+        return [node, *self.with_bases(self.style.nodes[node].base)] if node else []
 
     def of_node(self, name: str) -> PropertySet | None:
         node = self.style.nodes[name]
