@@ -2,6 +2,7 @@
 
 #include "api/VtxUtil.h"
 
+#include <functional>
 #include <initializer_list>
 #include <map>
 #include <set>
@@ -52,12 +53,35 @@ public:
     /// Names of the arguments of the last write, in alphabetical order.
     std::vector<std::string> lastWriteArguments;
 
+    /// Texts of message boxes; each is answered with "OK".
+    std::vector<std::string> messages;
+    std::vector<std::string> helpPages;
+    bool helpIsThere = true;
+
+    long pageCount = 1;
+    long frameCount = 1;
+    MouseMode_e mouseMode = MouseMode_Selector;
+    std::set<MouseMode_e> validMouseModes = {MouseMode_Selector, MouseMode_Zoom};
     PlotType_e plotType = PlotType_Sketch;
     bool dataSetIsAvailable = false;
     std::map<char, long> axisVariables;
     std::map<long, std::pair<double, double>> extents;
     std::map<long, std::tuple<long, long, long>> zoneDimensions;
     std::set<long> enabledZones;
+
+    /// A call of VtxUtilCreateCircularZone(), whether the lock was held, and what it answers. `onCreateZone` plays what
+    /// the host does meanwhile.
+    struct CircularZone
+    {
+        long iMax, jMax, kMax;
+        double xOrigin, yOrigin, radius, zMin, zMax;
+        FieldDataType_e dataType;
+        bool operator==(CircularZone const&) const = default;
+    };
+    std::vector<CircularZone> circularZones;
+    bool createdUnderLock = false;
+    bool createSucceeds = true;
+    std::function<void()> onCreateZone = [] {};
 
     // For the function interface.
     struct Change

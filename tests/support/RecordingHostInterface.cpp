@@ -260,6 +260,16 @@ void VtxUtilDialogErrMsg(const char* text)
 {
     host().errors.emplace_back(text);
 }
+bool VtxUtilDialogMessageBox(const char* text, MessageBox_e)
+{
+    host().messages.emplace_back(text);
+    return true;
+}
+bool VtxUtilHelpLaunch(const char* page)
+{
+    host().helpPages.emplace_back(page);
+    return host().helpIsThere;
+}
 void VtxUtilStatusMessage(const char* text)
 {
     host().statusMessages.emplace_back(text);
@@ -306,11 +316,34 @@ PlotType_e VtxUtilFrameGetPlotType(void)
 }
 long VtxUtilPageGetCount(void)
 {
-    return 1;
+    return host().pageCount;
 }
 long VtxUtilFrameGetCount(void)
 {
-    return 1;
+    return host().frameCount;
+}
+MouseMode_e VtxUtilMouseGetCurrentMode(void)
+{
+    return host().mouseMode;
+}
+bool VtxUtilMouseIsValidMode(MouseMode_e mode)
+{
+    return host().validMouseModes.count(mode) > 0;
+}
+bool VtxUtilMouseSetMode(MouseMode_e mode)
+{
+    host().mouseMode = mode;
+    return true;
+}
+
+void VtxUtilUndoSetStepName(const char*) {}
+bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, double yOrigin, double radius,
+                               double zMin, double zMax, FieldDataType_e dataType)
+{
+    host().circularZones.push_back({iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin, zMax, dataType});
+    host().createdUnderLock = host().lockDepth > 0;
+    host().onCreateZone();
+    return host().createSucceeds;
 }
 
 } // extern "C"
