@@ -125,7 +125,9 @@ def definitions(one: PropertySet) -> list[str]:
         lines.append(f"    {field_name(member)}{'->submitProperties' if member.node else '.submit'}();")
     lines += ["}", "", f"void {name}::setOffset(int first, int second)", "{", "    rememberOffset(first, second);"]
     for member in members:
-        lines.append(f"    {field_name(member)}{'->setOffset' if member.node else '.setOffsets'}(first, second);")
+        # A nested set with an offset of its own is a collection and is aimed by itself.
+        if not (member.node and member.offset):
+            lines.append(f"    {field_name(member)}{'->setOffset' if member.node else '.setOffsets'}(first, second);")
     lines += ["}", ""]
     for member in members:
         if member.node:
@@ -160,9 +162,11 @@ def write(style: Style) -> dict[str, str]:
 
 
 def visitor(one: PropertySet) -> list[str]:
-    lines = ["", "template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor&& visit)", "{"]
+    lines = ["", "template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor& visit)", "{"]
     for member in one.members:
         key, get = "/".join(member.key), f"set.{member.getter}()"
+        if member.offset:
+            lines.append(f"    {get}->setCollectionOffset(1);")
         call = f'visitMembers(*{get}, path + "/{key}", visit)' if member.node else f'visit(path + "/{key}", {get})'
         lines.append(f"    {call};")
     return [*lines, "}"]
@@ -174,7 +178,7 @@ def write_walk(style: Style) -> str:
     lines = ["#pragma once", "", NOTICE, "", *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
     lines += [f"namespace {NAMESPACE} {{", ""]
     for one in sets:
-        lines += ["template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor&& visit);"]
+        lines += ["template<typename Visitor>", f"void visitMembers({one.class_name}& set, std::string const& path, Visitor& visit);"]
     for one in sets:
         lines += visitor(one)
     lines += [

@@ -20,6 +20,9 @@ UIKernelStylePropertiesAbstract::UIKernelStylePropertiesAbstract(UIKernelStylePr
 void UIKernelStylePropertiesAbstract::init()
 {
     setOffset(m_firstOffset, m_secondOffset);
+    for (UIKernelStylePropertiesAbstract* nested : m_nested) {
+        nested->init();
+    }
     m_initialized();
 }
 

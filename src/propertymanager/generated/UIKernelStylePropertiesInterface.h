@@ -40,7 +40,8 @@ public:
     /// whose edits are with the host already. A refusal leaves the members before it written; see submit().
     virtual void submitProperties() = 0;
 
-    /// Aims every member at another object. Members signal when the new object's value differs.
+    /// Aims every member at another object, nested sets included except those that are collections of their own. Members
+    /// signal when the new object's value differs.
     virtual void setOffset(int first, int second) = 0;
 
     /// Told to a nested set after the set that it is nested in was submitted.

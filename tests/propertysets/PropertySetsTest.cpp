@@ -1,0 +1,110 @@
+#include "propertysets/MemberProbe.h"
+
+#include "api/VtxUtil.h"
+#include "sdk/AppLock.h"
+#include "tests/PropertySetWalk.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace vantrix::sdk::ui::propertymanager {
+
+namespace {
+
+/// One set with its members in the order of declaration.
+struct SetProbe
+{
+    struct Member
+    {
+        std::string path;
+        std::unique_ptr<MemberProbe> probe;
+    };
+
+    std::string name;
+    std::unique_ptr<UIKernelStylePropertiesAbstract> set;
+    std::vector<Member> members;
+
+    template<typename T>
+    void operator()(std::string const& path, boost::shared_ptr<PropertyAbstract<T>> const& member)
+    {
+        members.push_back({path, std::make_unique<MemberProbeOf<T>>(member)});
+    }
+};
+
+struct AllSets
+{
+    bool modal;
+    std::vector<SetProbe> sets;
+
+    template<typename Set>
+    void operator()(std::string const& name, toolbox::StringList const& path, int offsets)
+    {
+        auto set = std::make_unique<Set>(modal, path);
+        if (offsets > 0) {
+            set->setOffset(1, offsets > 1 ? 1 : -1);
+        }
+        Set& concrete = *set;
+        SetProbe& probe = sets.emplace_back(SetProbe{name, std::move(set), {}});
+        visitMembers(concrete, name, probe);
+    }
+};
+
+std::vector<SetProbe> allSets(bool modal)
+{
+    AllSets all{modal, {}};
+    visitSets(all);
+    return std::move(all.sets);
+}
+
+} // namespace
+
+TEST(PropertySets, EveryMemberOfAModelessSetWritesThroughAndComesBack)
+{
+    std::vector<SetProbe> const edited = allSets(false);
+    std::vector<SetProbe> const others = allSets(false);
+    ASSERT_FALSE(edited.empty());
+    AppLock const lock;
+    for (std::size_t set = 0; set < edited.size(); ++set) {
+        for (std::size_t member = 0; member < edited[set].members.size(); ++member) {
+            auto const& [path, probe] = edited[set].members[member];
+            SCOPED_TRACE(path);
+            EXPECT_TRUE(probe->change()) << "the host accepts no other value";
+            EXPECT_TRUE(others[set].members[member].probe->agreesWith(*probe)) << "another set does not see the change";
+            probe->restore();
+            EXPECT_TRUE(others[set].members[member].probe->isAsAtFirst());
+        }
+    }
+}
+
+TEST(PropertySets, EveryMemberOfAModalSetKeepsItsEditFromTheHostAndDropsItOnInit)
+{
+    std::vector<SetProbe> const edited = allSets(true);
+    std::vector<SetProbe> const host = allSets(false);
+    for (std::size_t set = 0; set < edited.size(); ++set) {
+        for (auto const& [path, probe] : edited[set].members) {
+            probe->edit();
+            EXPECT_FALSE(probe->isAsAtFirst()) << path;
+        }
+        for (auto const& [path, probe] : host[set].members) {
+            EXPECT_TRUE(probe->isAsAtFirst()) << path << " was written to the host before the submit";
+        }
+        edited[set].set->init();
+        for (auto const& [path, probe] : edited[set].members) {
+            EXPECT_TRUE(probe->isAsAtFirst()) << path << " keeps its edit";
+        }
+    }
+}
+
+TEST(PropertySets, NoMemberStandsTwiceInASet)
+{
+    for (SetProbe const& set : allSets(false)) {
+        std::set<std::string> paths;
+        for (auto const& [path, probe] : set.members) {
+            EXPECT_TRUE(paths.insert(path).second) << path;
+        }
+        EXPECT_FALSE(paths.empty()) << set.name;
+    }
+}
+
+} // namespace vantrix::sdk::ui::propertymanager
