@@ -9,7 +9,7 @@ scope, what its offsets count, and what it is for. See `host/api/VtxUtilStyle.h`
 
 - **Scope**: `frame` and `page` values belong to the active frame or page, `process` values to the running program.
 - **Colours** are indices: 0 black, 1 red, 2 green, 3 blue, 4 cyan, 5 yellow, 6 magenta, 7 white; 8 to 63 as
-  `host/kernel/Palette.h` lists them. Where the range ends at 71, 64 to 71 colour by contour group 1 to 8.
+  [Palette.h](../host/kernel/Palette.h) lists them. Where the range ends at 71, 64 to 71 colour by contour group 1 to 8.
 - **Variables** are numbers from 1; 0 stands for none.
 """
 

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "kernel/AxisVariables.h"
+#include "kernel/StyleStore.h"
+
+namespace vantrix::kernel {
+
+/*
+ * Style for a frame that shows a data set for the first time: a plot type that suits the data, variables of the axes,
+ * ranges that hold all data, line maps, and a variable and levels for each contour group. To be used after
+ * Document::attachDataSet(), under the application lock; the style is part of the same step of undo.
+ */
+class PlotDefaults
+{
+public:
+    /* With the style of this process's kernel. */
+    static void apply(const Frame& frame);
+
+    PlotDefaults(StyleStore& style, const Frame& frame);
+    void apply();
+
+private:
+    long plotType() const;
+    void setAxes();
+    void fitRange(const std::string& axisDetail, long variable, long axis, bool isNice);
+    void setLineMaps();
+    void setContours();
+    void setVectors();
+    void set(const std::string& path, StyleData value, long object = -1);
+
+    StyleStore& m_style;
+    long m_frameId;
+    std::shared_ptr<const DataSet> m_data;
+    AxisVariables m_axes;
+};
+
+} // namespace vantrix::kernel
