@@ -78,7 +78,7 @@ long PlotDefaults::plotType() const
 
 void PlotDefaults::set(const std::string& path, StyleData value, long object)
 {
-    m_style.setOf(m_frameId, m_style.entry(path), object, -1, value);
+    m_style.setOf(m_frameId, m_style.entry(path.c_str()), object, -1, value);
 }
 
 void PlotDefaults::setAxes()
@@ -88,7 +88,7 @@ void PlotDefaults::setAxes()
     for (const auto& [detail, variable] : axes) {
         for (const std::string plot : {"TwoDAxis/", "ThreeDAxis/"}) {
             const std::string path = plot + detail;
-            if (variable != 0 && m_style.entry(path + "/VarNum") >= 0) {
+            if (variable != 0 && m_style.entry((path + "/VarNum").c_str()) >= 0) {
                 set(path + "/VarNum", variable);
                 fitRange(path, variable, -1, plot == "TwoDAxis/");
             }

@@ -11,6 +11,7 @@
 #include <map>
 #include <numeric>
 #include <stdexcept>
+#include <string_view>
 #include <tuple>
 #include <unordered_map>
 
@@ -383,12 +384,13 @@ long StyleStore::entry(const std::vector<std::string>& path) const
     return styleEntryOf(ids.data(), ids.size());
 }
 
-long StyleStore::entry(std::string_view path) const
+long StyleStore::entry(const char* path) const
 {
+    const std::string_view names(path);
     std::vector<long> ids;
-    for (std::size_t begin = 0; begin <= path.size();) {
-        const std::size_t end = std::min(path.find('/', begin), path.size());
-        ids.push_back(styleNameId(path.substr(begin, end - begin)));
+    for (std::size_t begin = 0; begin <= names.size();) {
+        const std::size_t end = std::min(names.find('/', begin), names.size());
+        ids.push_back(styleNameId(names.substr(begin, end - begin)));
         begin = end + 1;
     }
     return styleEntryOf(ids.data(), ids.size());

@@ -5,7 +5,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -38,7 +37,7 @@ public:
 
     /* The entry of a path, {"FrameLayout", "Width"} or "FrameLayout/Width"; -1 when there is none. */
     long entry(const std::vector<std::string>& path) const;
-    long entry(std::string_view path) const;
+    long entry(const char* path) const;
 
     GetValueReturnCode_e get(long entry, long offset1, long offset2, StyleData& value) const;
 

@@ -1,0 +1,106 @@
+#include "KernelFixture.h"
+
+#include "kernel/NiceNumbers.h"
+
+#include <limits>
+
+namespace vantrix::kernel {
+
+namespace {
+
+using PlotDefaultsTest = KernelTest;
+
+DataSet withVariables(const std::vector<std::string>& names)
+{
+    DataSet data(1);
+    for (const std::string& name : names) {
+        data.variables.push_back({name, true});
+    }
+    return data;
+}
+
+} // namespace
+
+TEST_F(PlotDefaultsTest, AxisVariablesGoByNameFirstAndThenByOrder)
+{
+    struct Case
+    {
+        std::vector<std::string> names;
+        AxisVariables expected;
+    };
+    for (const Case& one :
+         {Case{{"X", "Y", "Z", "P"}, {1, 2, 3}}, Case{{"P", "z", "y", "x"}, {4, 3, 2}},
+          Case{{"P", "X(M)", "Y(M)"}, {2, 3, 0}}, Case{{"T", "CoordinateX", "CoordinateY", "CoordinateZ"}, {2, 3, 4}},
+          Case{{"Points_X", "Points_Y"}, {1, 2, 0}}, Case{{"time", "signal"}, {1, 2, 0}},
+          Case{{"a", "b", "c", "d"}, {1, 2, 3}}, Case{{"a", "x", "c"}, {2, 1, 3}}, Case{{"only"}, {1, 0, 0}},
+          Case{{}, {0, 0, 0}}}) {
+        const AxisVariables found = guessAxisVariables(withVariables(one.names));
+        SCOPED_TRACE(testing::PrintToString(one.names));
+        EXPECT_EQ(found.x, one.expected.x);
+        EXPECT_EQ(found.y, one.expected.y);
+        EXPECT_EQ(found.z, one.expected.z);
+    }
+}
+
+TEST_F(PlotDefaultsTest, ThePlotTypeSuitsTheData)
+{
+    const std::vector<std::pair<std::string, PlotType_e>> cases{{"flow3d", PlotType_Cartesian3D},
+                                                                {"fe2d", PlotType_Cartesian2D},
+                                                                {"lines", PlotType_XYLine},
+                                                                {"polyhedra", PlotType_Cartesian3D}};
+    for (const auto& [sample, expected] : cases) {
+        kernel().reset();
+        show(sample);
+        EXPECT_EQ(VtxUtilFrameGetPlotType(), expected) << sample;
+    }
+}
+
+TEST_F(PlotDefaultsTest, AFrameShowsAllOfItsDataAndOneUndoTakesBackAll)
+{
+    show("flow3d");
+    const Frame& frame = *document().activeFrame();
+    const DataSet& data = *frame.dataSet();
+    const AxisVariables axes = axisVariables(style(), frame);
+    EXPECT_EQ(data.variables[static_cast<std::size_t>(axes.x - 1)].name, "X");
+    EXPECT_EQ(data.variables[static_cast<std::size_t>(axes.z - 1)].name, "Z");
+    const long contour = std::get<long>(value("GlobalContour/Var", 1));
+    EXPECT_EQ(data.variables[static_cast<std::size_t>(contour - 1)].name, "U") << "the first that is no axis";
+    EXPECT_LT(std::get<double>(value("ThreeDAxis/XDetail/RangeMin")),
+              std::get<double>(value("ThreeDAxis/XDetail/RangeMax")));
+    EXPECT_GT(std::get<long>(value("GlobalStream/VVar")), 0);
+
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(frame.dataSet(), nullptr);
+    EXPECT_EQ(VtxUtilFrameGetPlotType(), PlotType_Sketch);
+    EXPECT_EQ(axisVariables(style(), frame).x, 0);
+    EXPECT_FALSE(VtxUtilUndo());
+}
+
+TEST_F(PlotDefaultsTest, EachZoneOfALineDataSetHasALineMap)
+{
+    show("lines");
+    EXPECT_EQ(value("FrameSetup/NumLineMaps"), StyleData(4L));
+    EXPECT_EQ(value("LineMap/Assignment/Zone", 4), StyleData(4L));
+    EXPECT_NE(value("LineMap/Lines/Color", 1), value("LineMap/Lines/Color", 2));
+}
+
+TEST(NiceNumbers, HoldTheRangeBetweenMultiplesOfTheSpacing)
+{
+    struct Case
+    {
+        double minimum;
+        double maximum;
+        NiceRange expected;
+    };
+    for (const Case& one :
+         {Case{0, 1, {0, 1, 0.2}}, Case{0.13, 0.97, {0, 1, 0.2}}, Case{-3, 96, {-20, 100, 20}},
+          Case{1000, 1001, {1000, 1001, 0.2}}, Case{0, 0, {-1, 1, 0.5}}, Case{5, 5, {4.4, 5.6, 0.2}}}) {
+        const NiceRange found = niceRange(one.minimum, one.maximum);
+        SCOPED_TRACE(one.minimum);
+        EXPECT_DOUBLE_EQ(found.minimum, one.expected.minimum);
+        EXPECT_DOUBLE_EQ(found.maximum, one.expected.maximum);
+        EXPECT_DOUBLE_EQ(found.spacing, one.expected.spacing);
+    }
+}
+
+} // namespace vantrix::kernel
