@@ -22,7 +22,7 @@ TEST_F(MouseModesTest, AModeIsValidWhereThePlotHasUseForIt)
         {MouseMode_Selector, true, true, true, true},      {MouseMode_Zoom, true, true, true, true},
         {MouseMode_Rotate, false, false, true, false},     {MouseMode_Probe, false, true, true, true},
         {MouseMode_Text, true, true, true, true},          {MouseMode_CreateFrame, true, true, true, true},
-        {MouseMode_Streamtrace, false, true, true, false}, {static_cast<MouseMode_e>(99), false, false, false, false}};
+        {MouseMode_Streamtrace, false, true, true, false}, {static_cast<MouseMode_e>(8), false, false, false, false}};
     for (const Case& one : cases) {
         EXPECT_EQ(VtxUtilMouseIsValidMode(one.mode), one.inSketch) << one.mode;
     }
