@@ -2,6 +2,7 @@
 
 #include "api/VtxUtil.h"
 #include "dialogs/zone/CreateCircularZoneDialog.h"
+#include "dialogs/zone/CreateRectangularZoneDialog.h"
 #include "property/ExceptionBase.h"
 
 namespace vantrix::sdk::ui::dialogs {
@@ -48,6 +49,7 @@ std::vector<DialogEntry> const& dialogRegistry()
 {
     static std::vector<DialogEntry> const entries = {
         entry<CreateCircularZoneDialog>("&Data/&Create Zone/&Circular...", "create_zone_circular"),
+        entry<CreateRectangularZoneDialog>("&Data/&Create Zone/&Rectangular...", "create_zone_rectangular"),
     };
     return entries;
 }

@@ -69,7 +69,7 @@ public:
     std::map<long, std::tuple<long, long, long>> zoneDimensions;
     std::set<long> enabledZones;
 
-    /// A call of VtxUtilCreateCircularZone(), whether the lock was held, and what it answers. `onCreateZone` plays what
+    /// Calls of VtxUtilCreate...Zone(), whether the lock was held, and what the next answers. `onCreateZone` plays what
     /// the host does meanwhile.
     struct CircularZone
     {
@@ -79,6 +79,14 @@ public:
         bool operator==(CircularZone const&) const = default;
     };
     std::vector<CircularZone> circularZones;
+    struct RectangularZone
+    {
+        long iMax, jMax, kMax;
+        double xMin, yMin, zMin, xMax, yMax, zMax;
+        FieldDataType_e dataType;
+        bool operator==(RectangularZone const&) const = default;
+    };
+    std::vector<RectangularZone> rectangularZones;
     bool createdUnderLock = false;
     bool createSucceeds = true;
     std::function<void()> onCreateZone = [] {};

@@ -337,13 +337,24 @@ bool VtxUtilMouseSetMode(MouseMode_e mode)
 }
 
 void VtxUtilUndoSetStepName(const char*) {}
+static bool createZone()
+{
+    host().createdUnderLock = host().lockDepth > 0;
+    host().onCreateZone();
+    return host().createSucceeds;
+}
+
 bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, double yOrigin, double radius,
                                double zMin, double zMax, FieldDataType_e dataType)
 {
     host().circularZones.push_back({iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin, zMax, dataType});
-    host().createdUnderLock = host().lockDepth > 0;
-    host().onCreateZone();
-    return host().createSucceeds;
+    return createZone();
+}
+bool VtxUtilCreateRectangularZone(long iMax, long jMax, long kMax, double xMin, double yMin, double zMin, double xMax,
+                                  double yMax, double zMax, FieldDataType_e dataType)
+{
+    host().rectangularZones.push_back({iMax, jMax, kMax, xMin, yMin, zMin, xMax, yMax, zMax, dataType});
+    return createZone();
 }
 
 } // extern "C"

@@ -3,6 +3,7 @@
 #include "api/VtxUtil.h"
 #include "property/BoundedValueValidator.h"
 #include "property/Property.h"
+#include "propertymanager/managers/zone/ZoneCreation.h"
 #include "sdk/AppLock.h"
 #include "sdk/DataQueries.h"
 #include "sdk/VtxUtilActionReporter.h"
@@ -20,29 +21,19 @@ using vantrix::toolbox::StateChangeEventInterface;
 
 bool isCreatingZone = false;
 
-/// The state that creating a zone is not to leave changed, whatever happens.
-class CreationScope
+/// Tells, while it lives, that the state changes to come are the dialog's own.
+class CreatingZone
 {
 public:
-    CreationScope()
-        : m_mouseMode(VtxUtilMouseGetCurrentMode())
-        , m_wasCreatingZone(std::exchange(isCreatingZone, true))
+    CreatingZone()
+        : m_before(std::exchange(isCreatingZone, true))
     {}
-
-    ~CreationScope()
-    {
-        isCreatingZone = m_wasCreatingZone;
-        if (VtxUtilMouseIsValidMode(m_mouseMode)) {
-            VtxUtilMouseSetMode(m_mouseMode);
-        }
-    }
-
-    CreationScope(CreationScope const&) = delete;
-    CreationScope& operator=(CreationScope const&) = delete;
+    ~CreatingZone() { isCreatingZone = m_before; }
+    CreatingZone(CreatingZone const&) = delete;
+    CreatingZone& operator=(CreatingZone const&) = delete;
 
 private:
-    MouseMode_e m_mouseMode;
-    bool m_wasCreatingZone;
+    bool m_before;
 };
 
 boost::shared_ptr<Property<long>> newDimension(long initial, long minimum)
@@ -63,23 +54,6 @@ boost::shared_ptr<Property<double>> newRadius(double initial)
         boost::make_shared<Validator>(0.0, std::numeric_limits<double>::max(), Validator::LowerBound::Exclusive));
 }
 
-bool contextIsValid()
-{
-    AppLock const lock(false);
-    if (VtxUtilPageGetCount() < 1 || VtxUtilFrameGetCount() < 1) {
-        return false;
-    }
-    switch (VtxUtilFrameGetPlotType()) {
-    case PlotType_Cartesian3D:
-    case PlotType_Cartesian2D:
-        return true;
-    case PlotType_Sketch:
-        return !VtxUtilDataSetIsAvailable();
-    default:
-        return false;
-    }
-}
-
 bool isOkToCreateCircularZone()
 {
     bool const isOk = IsOkToMake3DZone();
@@ -91,27 +65,7 @@ bool isOkToCreateCircularZone()
 
 bool mayChangeThreeDRelevance(StateChangeEventInterface const& event)
 {
-    if (isCreatingZone || !CreateCircularZonePropertiesManager::relevance()->isRelevant()) {
-        return false;
-    }
-    switch (event.kind()) {
-    case StateChange_VarsAltered:
-    case StateChange_VarsAdded:
-    case StateChange_ZonesDeleted:
-    case StateChange_ZonesAdded:
-    case StateChange_FrameDeleted:
-    case StateChange_NewActiveFrame:
-    case StateChange_DataSetReset:
-    case StateChange_NewLayout:
-    case StateChange_CompleteReset:
-    case StateChange_DataAvailability:
-    case StateChange_NewActivePage:
-        return true;
-    case StateChange_Style:
-        return event.styleParam(1) == "ActiveFieldMaps" || event.styleParam(1) == "PlotType";
-    default:
-        return false;
-    }
+    return !isCreatingZone && zonecreation::mayAffect3DZones(event);
 }
 
 } // namespace
@@ -139,10 +93,8 @@ CreateCircularZonePropertiesManager::Impl::Impl()
     yOrigin = boost::make_shared<Property<double>>(isSketch ? 0.0 : (yMin + yMax) / 2);
     zMin = boost::make_shared<Property<double>>(zLow);
     zMax = boost::make_shared<Property<double>>(zHigh);
-    threeDElementsRelevance =
-        boost::make_shared<StateChangeDependentRelevance>(&mayChangeThreeDRelevance, &isOkToCreateCircularZone);
-    threeDElementsRelevance->setReason(
-        "The plot has no third axis: the zone will have one K plane. Choose the 3D Cartesian plot type for more.");
+    threeDElementsRelevance = boost::make_shared<StateChangeDependentRelevance>(
+        &mayChangeThreeDRelevance, &isOkToCreateCircularZone, zonecreation::oneKPlaneExplanation);
 }
 
 CreateCircularZonePropertiesManager::CreateCircularZonePropertiesManager()
@@ -194,7 +146,8 @@ CreateCircularZonePropertiesManager::DoubleProperty CreateCircularZoneProperties
 void CreateCircularZonePropertiesManager::createCircularZone()
 {
     AppLock const lock;
-    CreationScope const scope;
+    zonecreation::MouseModeKeeper const mouseMode;
+    CreatingZone const creatingZone;
     VtxUtilUndoSetStepName("Create Circular Zone");
     // The first zone of a new data set changes so much in the plot that it needs no announcement.
     std::string const success = VtxUtilDataSetIsAvailable() ? "Circular zone created." : "";
@@ -207,11 +160,8 @@ void CreateCircularZonePropertiesManager::createCircularZone()
 
 boost::shared_ptr<RelevanceInterface const> CreateCircularZonePropertiesManager::relevance()
 {
-    static auto const relevance = [] {
-        auto const made = boost::make_shared<StateChangeDependentRelevance>(&contextIsValid);
-        made->setReason("A zone can be created in a 2D or 3D Cartesian plot, or in a sketch that has no data yet.");
-        return made;
-    }();
+    static auto const relevance = boost::make_shared<StateChangeDependentRelevance const>(
+        &zonecreation::contextIsValid, zonecreation::contextExplanation);
     return relevance;
 }
 
