@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace vantrix::kernel::readers {
+
+/*
+ * What a binary PLOT3D file does not say of itself. It is found by trying: of all variants, the one whose size for the
+ * dimensions in the file is the size of the file. (VTK's own detection reads beyond its memory for what is no grid.)
+ */
+struct Plot3dVariant
+{
+    bool isBigEndian = true;
+    bool hasByteCounts = false; /* Fortran records */
+    bool isMultiGrid = false;
+    bool isTwoDimensional = false;
+    bool isDoublePrecision = false;
+    bool hasBlanking = false;
+
+    /* Nothing when the file is no grid in any variant. */
+    static std::optional<Plot3dVariant> ofGrid(const std::string& file);
+
+    /* Whether a file is a solution of five quantities on a grid of this variant; some writers add to its end. */
+    bool fitsSolution(const std::string& grid, const std::string& solution) const;
+};
+
+} // namespace vantrix::kernel::readers

@@ -1,0 +1,167 @@
+#include "kernel/readers/SurfaceFileChecks.h"
+
+#include "kernel/DataError.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <vector>
+
+namespace vantrix::kernel::readers {
+
+namespace {
+
+struct Property
+{
+    std::string countType; /* of a list; else empty */
+    std::string type;
+};
+
+struct Element
+{
+    std::string name;
+    long count = 0;
+    std::vector<Property> properties;
+};
+
+struct PlyHeader
+{
+    std::string format;
+    std::vector<Element> elements;
+};
+
+std::size_t plySize(const std::string& type)
+{
+    static const std::map<std::string, std::size_t> sizes{{"char", 1},  {"uchar", 1},   {"int8", 1},   {"uint8", 1},
+                                                          {"short", 2}, {"ushort", 2},  {"int16", 2},  {"uint16", 2},
+                                                          {"int", 4},   {"uint", 4},    {"int32", 4},  {"uint32", 4},
+                                                          {"float", 4}, {"float32", 4}, {"double", 8}, {"float64", 8}};
+    const auto found = sizes.find(type);
+    if (found == sizes.end()) {
+        throw DataError("its header names the unknown type \"" + type + "\"");
+    }
+    return found->second;
+}
+
+PlyHeader readHeader(std::ifstream& stream)
+{
+    PlyHeader header;
+    std::string line;
+    if (!std::getline(stream, line) || line.substr(0, 3) != "ply") {
+        throw DataError("it does not begin with \"ply\"");
+    }
+    while (std::getline(stream, line)) {
+        std::istringstream words(line);
+        std::string word;
+        words >> word;
+        if (word == "format") {
+            words >> header.format;
+        } else if (word == "element") {
+            Element& element = header.elements.emplace_back();
+            words >> element.name >> element.count;
+        } else if (word == "property" && !header.elements.empty()) {
+            Property& property = header.elements.back().properties.emplace_back();
+            words >> property.type;
+            if (property.type == "list") {
+                words >> property.countType >> property.type;
+                plySize(property.countType);
+            }
+            plySize(property.type);
+        } else if (word == "end_header") {
+            return header;
+        }
+    }
+    throw DataError("its header does not end");
+}
+
+[[noreturn]] void missing(const Element& element, long index)
+{
+    throw DataError("it ends after " + std::to_string(index) + " of " + std::to_string(element.count) +
+                    " of its element \"" + element.name + "\"");
+}
+
+/* Passes over one value and returns it, where it is a whole number. */
+class PlyBody
+{
+public:
+    PlyBody(std::ifstream& stream, const std::string& format)
+        : m_stream(stream)
+        , m_isText(format == "ascii")
+        , m_isSwapped((format == "binary_big_endian") != (std::endian::native == std::endian::big))
+    {}
+
+    long take(const std::string& type)
+    {
+        if (m_isText) {
+            double value = 0.0;
+            m_stream >> value;
+            return static_cast<long>(value);
+        }
+        std::array<char, 8> bytes{};
+        const std::size_t size = plySize(type);
+        m_stream.read(bytes.data(), static_cast<std::streamsize>(size));
+        if (m_isSwapped) {
+            std::reverse(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
+        }
+        std::uint32_t value = 0; /* counts are not above that, and the low bytes come first */
+        std::memcpy(&value, bytes.data(), std::min(size, sizeof value));
+        return static_cast<long>(value);
+    }
+
+    bool isGood() const { return !m_stream.fail(); }
+
+private:
+    std::ifstream& m_stream;
+    bool m_isText;
+    bool m_isSwapped;
+};
+
+} // namespace
+
+void expectWholeStl(const std::string& file)
+{
+    constexpr std::uintmax_t headerSize = 84, triangleSize = 50;
+    std::array<char, headerSize> header{};
+    std::ifstream stream(file, std::ios::binary);
+    stream.read(header.data(), headerSize);
+    const bool isText =
+        std::any_of(header.begin(), header.begin() + stream.gcount(), [](char c) { return c == '\n'; }) &&
+        std::string(header.data(), 5) == "solid";
+    if (isText || static_cast<std::uintmax_t>(stream.gcount()) < headerSize) {
+        return; /* VTK tells about those */
+    }
+    std::uint32_t count = 0;
+    std::memcpy(&count, header.data() + headerSize - sizeof count, sizeof count);
+    const std::uintmax_t there = (std::filesystem::file_size(file) - headerSize) / triangleSize;
+    if (there < count) {
+        throw DataError("it ends after " + std::to_string(there) + " of " + std::to_string(count) + " triangles");
+    }
+}
+
+void expectWholePly(const std::string& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    const PlyHeader header = readHeader(stream);
+    PlyBody body(stream, header.format);
+    for (const Element& element : header.elements) {
+        for (long index = 0; index < element.count; ++index) {
+            for (const Property& property : element.properties) {
+                const long count = property.countType.empty() ? 1 : body.take(property.countType);
+                for (long i = 0; i < count && body.isGood(); ++i) {
+                    body.take(property.type);
+                }
+            }
+            if (!body.isGood()) {
+                missing(element, index);
+            }
+        }
+    }
+}
+
+} // namespace vantrix::kernel::readers
