@@ -1,0 +1,88 @@
+#include "kernel/ZoneActions.h"
+
+#include "kernel/AxisVariables.h"
+#include "kernel/DataError.h"
+#include "kernel/Document.h"
+#include "kernel/Kernel.h"
+#include "kernel/PlotDefaults.h"
+#include "kernel/StyleStore.h"
+
+namespace vantrix::kernel {
+
+namespace {
+
+void expectFieldPlot(long plotType, long kMax)
+{
+    if (plotType != PlotType_Cartesian2D && plotType != PlotType_Cartesian3D) {
+        throw DataError(
+            "The frame shows data, but not in a 2D or 3D Cartesian plot; a zone is created in one of those.");
+    }
+    if (kMax > 1 && plotType == PlotType_Cartesian2D) {
+        throw DataError("A 2D Cartesian plot has no third axis: the K dimension must be 1, not " +
+                        std::to_string(kMax) + ".");
+    }
+}
+
+} // namespace
+
+template<class Description>
+void ZoneActions::createZone(const Description& description)
+{
+    Document& document = m_kernel.document();
+    Frame* frame = document.activeFrame();
+    if (!frame) {
+        throw DataError("There is no frame to create a zone in. Create a frame first.");
+    }
+    if (!frame->dataSet()) {
+        DataSet made = document.newDataSet();
+        made.variables = {{"X", true}, {"Y", true}};
+        if (description.kMax > 1) {
+            made.variables.push_back({"Z", true});
+        }
+        made.addZone(makeZone(description, made.variableCount(), {1, 2, made.variableCount() == 3 ? 3 : 0}));
+        document.attachDataSet(*frame, std::make_shared<const DataSet>(std::move(made)));
+        PlotDefaults::apply(*frame);
+        return;
+    }
+    StyleStore& style = m_kernel.style();
+    expectFieldPlot(style.integer(frame->id(), style.entry("PlotType")), description.kMax);
+    const AxisVariables axes = axisVariables(style, *frame);
+    DataSet changed = *frame->dataSet();
+    changed.addZone(makeZone(description, changed.variableCount(), {axes.x, axes.y, axes.z}));
+    document.replaceDataSet(std::move(changed), {StateChange_ZonesAdded});
+}
+
+template void ZoneActions::createZone(const CircularZone&);
+template void ZoneActions::createZone(const RectangularZone&);
+
+void ZoneActions::remove(const std::set<long>& zones)
+{
+    const std::shared_ptr<const DataSet> present = m_kernel.document().activeDataSet();
+    if (!present) {
+        throw DataError("The active frame has no data set whose zones could be deleted.");
+    }
+    if (zones.empty()) {
+        throw DataError("No zones are named. Name at least one zone to delete.");
+    }
+    for (const long zone : zones) {
+        if (!present->zone(zone)) {
+            throw DataError("There is no zone " + std::to_string(zone) + "; zones are numbered from 1 to " +
+                            std::to_string(present->zoneCount()) + ".");
+        }
+    }
+    if (static_cast<long>(zones.size()) == present->zoneCount()) {
+        throw DataError("Cannot delete all zones of a data set. Leave at least one.");
+    }
+    DataSet changed = *present;
+    changed.zones.clear();
+    changed.zoneEnabled.clear();
+    for (std::size_t i = 0; i < present->zones.size(); ++i) {
+        if (zones.count(static_cast<long>(i) + 1) == 0) {
+            changed.zones.push_back(present->zones[i]);
+            changed.zoneEnabled.push_back(present->zoneEnabled[i]);
+        }
+    }
+    m_kernel.document().replaceDataSet(std::move(changed), {StateChange_ZonesDeleted}, {zones.begin(), zones.end()});
+}
+
+} // namespace vantrix::kernel
