@@ -71,6 +71,8 @@ public:
     UndoStack& m_undo;
     StateChanges& m_changes;
     const Document* m_document = nullptr;
+    const std::array<StyleValues, 3> m_defaults{StyleValues(StyleScope::Process), StyleValues(StyleScope::Page),
+                                                StyleValues(StyleScope::Frame)};
     std::unordered_map<long, std::unique_ptr<StyleValues>> m_scopes;
     std::vector<unsigned long> m_stamps; /* one an entry */
     unsigned long m_commonStamp = 0;     /* moves when any entry may have changed */
@@ -204,12 +206,12 @@ long StyleStore::Impl::zoneLimit(long scopeId) const
 
 void StyleStore::Impl::readUnchecked(long scopeId, long entry, std::size_t index, StyleData& value) const
 {
-    static const std::array<StyleValues, 3> defaults{StyleValues(StyleScope::Process), StyleValues(StyleScope::Page),
-                                                     StyleValues(StyleScope::Frame)};
     const auto found = m_scopes.find(scopeId);
-    const StyleValues& values =
-        found != m_scopes.end() ? *found->second : defaults[static_cast<std::size_t>(description(entry).scope)];
-    values.read(entry, index, value);
+    if (found != m_scopes.end()) {
+        found->second->read(entry, index, value);
+    } else {
+        m_defaults[static_cast<std::size_t>(description(entry).scope)].read(entry, index, value);
+    }
 }
 
 GetValueReturnCode_e StyleStore::Impl::get(long scopeId, long entry, long offset1, long offset2, StyleData& value) const

@@ -8,7 +8,9 @@
 #include "kernel/interface/Boundary.h"
 
 #include <optional>
+#include <string_view>
 
+using namespace std::string_view_literals; // compared by length first, which a plain literal is not
 using namespace vantrix::kernel;
 
 namespace {
@@ -46,8 +48,11 @@ struct Address
     /* Whether the argument is one of the address. */
     bool take(const VtxArgList::Argument& argument)
     {
-        const std::string& name = argument.name;
-        long* target = name == "Entry" ? &entry : name == "Offset1" ? &offset1 : name == "Offset2" ? &offset2 : nullptr;
+        const std::string_view name = argument.name;
+        long* target = name == "Entry"sv     ? &entry
+                       : name == "Offset1"sv ? &offset1
+                       : name == "Offset2"sv ? &offset2
+                                             : nullptr;
         const long* value = target ? std::get_if<long>(&argument.value) : nullptr;
         if (value) {
             *target = *value;
@@ -81,13 +86,13 @@ struct Target
 
     bool take(const VtxArgList::Argument& argument)
     {
-        if (argument.name == "IValue") {
+        if (argument.name == "IValue"sv) {
             return takeAs(argument, integer);
         }
-        if (argument.name == "DValue") {
+        if (argument.name == "DValue"sv) {
             return takeAs(argument, real);
         }
-        return argument.name == "StrValue" && takeAs(argument, text);
+        return argument.name == "StrValue"sv && takeAs(argument, text);
     }
 
     int count() const { return (integer ? 1 : 0) + (real ? 1 : 0) + (text ? 1 : 0); }
@@ -158,11 +163,11 @@ std::optional<StyleData> givenValue(const VtxArgList& arguments)
 
 bool isValueArgument(const VtxArgList::Argument& argument)
 {
-    return (argument.name == "IValue" && std::holds_alternative<long>(argument.value)) ||
-           (argument.name == "DValue" && std::holds_alternative<double>(argument.value)) ||
-           (argument.name == "StrValue" && std::holds_alternative<std::string>(argument.value)) ||
-           (argument.name == "AssignOp" && std::holds_alternative<long>(argument.value)) ||
-           (argument.name == "ObjectSet" && std::holds_alternative<VtxSet>(argument.value));
+    return (argument.name == "IValue"sv && std::holds_alternative<long>(argument.value)) ||
+           (argument.name == "DValue"sv && std::holds_alternative<double>(argument.value)) ||
+           (argument.name == "StrValue"sv && std::holds_alternative<std::string>(argument.value)) ||
+           (argument.name == "AssignOp"sv && std::holds_alternative<long>(argument.value)) ||
+           (argument.name == "ObjectSet"sv && std::holds_alternative<VtxSet>(argument.value));
 }
 
 SetValueReturnCode_e writeValue(const VtxArgList& arguments)
