@@ -57,7 +57,7 @@ Reader makeCgnsReader(const std::string& file)
 
 Reader makeLegacyReader(const std::string& file)
 {
-    expectWholeLegacyPoints(file);
+    expectWholeLegacyFile(file);
     return makeReader<vtkGenericDataObjectReader>(file);
 }
 

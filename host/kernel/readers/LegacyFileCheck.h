@@ -4,8 +4,10 @@
 
 namespace vantrix::kernel::readers {
 
-/* VTK 9.1 reads through a null pointer where a binary legacy file ends within its points. Throws DataError when the
- * points that the file announces are not all there; what follows them VTK checks. */
-void expectWholeLegacyPoints(const std::string& file);
+/*
+ * Throws DataError when a binary legacy file ends within one of its arrays, naming the array: VTK reads past the end of
+ * such a file. A text file and one that is no legacy file pass; VTK itself refuses those.
+ */
+void expectWholeLegacyFile(const std::string& file);
 
 } // namespace vantrix::kernel::readers

@@ -317,6 +317,44 @@ TEST(DataReader, Plot3dFilesMayBeNamedInAnyOrder)
               std::string::npos);
 }
 
+TEST(DataReader, AnEnSightCaseNeedsItsGeometryAndItsVariables)
+{
+    const TemporaryFolder folder;
+    const std::vector<std::string> files = samplefiles::writeEnSight(folder.file(""));
+    const DataSet dataSet = readFiles({files[0]});
+    ASSERT_EQ(dataSet.zoneCount(), 1);
+    EXPECT_EQ(dataSet.zone(1)->name(), "Square");
+    EXPECT_EQ(dataSet.zone(1)->cellCount(), 2);
+    EXPECT_EQ(at(dataSet, "Y", 2), 1.0);
+    EXPECT_EQ(at(dataSet, "Temperature", 3), 40.0);
+
+    for (const std::size_t part : {1u, 2u}) {
+        const std::string whole = contents(files[part]);
+        std::filesystem::remove(files[part]);
+        const std::string missing = refusal({files[0]});
+        EXPECT_NE(missing.find(files[0]), std::string::npos) << files[part] << ": " << missing;
+        std::ofstream(files[part], std::ios::trunc) << whole;
+    }
+}
+
+TEST(DataReader, ABinaryLegacyFileCutAnywhereIsRefused)
+{
+    const TemporaryFolder folder;
+    for (const samplefiles::Format& format : samplefiles::formats()) {
+        if (format.suffix != "structured.vtk" && format.suffix != "binary.vtk") {
+            continue;
+        }
+        const std::string file = folder.file("sample." + format.suffix);
+        format.write(file);
+        const std::string whole = contents(file);
+        for (std::size_t size = 0; size + 8 < whole.size(); size += 29) {
+            std::ofstream(file, std::ios::binary | std::ios::trunc) << whole.substr(0, size);
+            const std::string text = refusal({file});
+            EXPECT_NE(text.find(file), std::string::npos) << format.suffix << " cut at " << size << ": " << text;
+        }
+    }
+}
+
 TEST(DataReader, SeveralFilesGiveOneDataSet)
 {
     const TemporaryFolder folder;

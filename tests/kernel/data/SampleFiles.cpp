@@ -192,6 +192,8 @@ const std::vector<Format>& formats()
         {"pvtu", [](auto& file) { writeWith<vtkXMLPUnstructuredGridWriter>(file, bricks()); }, 24, 6, true},
         {"vtk", [](auto& file) { writeWith<vtkGenericDataObjectWriter>(file, bricks()); }, 24, 6, true},
         {"binary.vtk", [](auto& file) { writeWith<vtkGenericDataObjectWriter>(file, bricks(), true); }, 24, 6, true},
+        {"structured.vtk", [](auto& file) { writeWith<vtkGenericDataObjectWriter>(file, structured(), true); }, 24, 6,
+         true},
         {"exo", [](auto& file) { writeWith<vtkExodusIIWriter>(file, bricks()); }, 24, 6, true},
         {"stl", [](auto& file) { writeWith<vtkSTLWriter>(file, triangles()); }, 24, 44, false},
         {"binary.stl", [](auto& file) { writeWith<vtkSTLWriter>(file, triangles(), true); }, 24, 44, false},
@@ -199,6 +201,24 @@ const std::vector<Format>& formats()
         {"binary.ply", [](auto& file) { writeWith<vtkPLYWriter>(file, triangles(), true); }, 24, 44, false},
     };
     return all;
+}
+
+std::vector<std::string> writeEnSight(const std::string& folder)
+{
+    const std::vector<std::string> files{folder + "/sample.case", folder + "/sample.geo",
+                                         folder + "/sample.temperature"};
+    std::ofstream(files[0]) << "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: sample.geo\n\nVARIABLE\n"
+                               "scalar per node: Temperature sample.temperature\n";
+    std::ofstream(files[1])
+        << "Geometry of a test\ntwo triangles of a square\nnode id assign\nelement id assign\npart\n"
+           "         1\nSquare\ncoordinates\n         4\n"
+           " 0.00000e+00\n 1.00000e+00\n 1.00000e+00\n 0.00000e+00\n"
+           " 0.00000e+00\n 0.00000e+00\n 1.00000e+00\n 1.00000e+00\n"
+           " 0.00000e+00\n 0.00000e+00\n 0.00000e+00\n 0.00000e+00\n"
+           "tria3\n         2\n         1         2         3\n         1         3         4\n";
+    std::ofstream(files[2]) << "Temperature of a test\npart\n         1\ncoordinates\n"
+                               " 1.00000e+01\n 2.00000e+01\n 3.00000e+01\n 4.00000e+01\n";
+    return files;
 }
 
 void writePlot3d(const std::string& gridFile, const std::string& solutionFile)

@@ -36,6 +36,9 @@ struct Format
 /* One file of each format that VTK writes; of a format with variants one each. */
 const std::vector<Format>& formats();
 
+/* A case file, its geometry of two triangles and "Temperature" = 10, 20, 30, 40 at the four points; the paths. */
+std::vector<std::string> writeEnSight(const std::string& folder);
+
 /* A PLOT3D grid and solution of one block, binary, single precision, without byte counts. */
 void writePlot3d(const std::string& grid, const std::string& solution);
 
