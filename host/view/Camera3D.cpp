@@ -1,0 +1,160 @@
+#include "view/Camera3D.h"
+
+#include <vtkCamera.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace vantrix::view {
+namespace {
+
+double dot(const Point3& a, const Point3& b)
+{
+    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
+Point3 cross(const Point3& a, const Point3& b)
+{
+    return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+
+/* a + factor * b */
+Point3 plus(const Point3& a, double factor, const Point3& b)
+{
+    return {a[0] + factor * b[0], a[1] + factor * b[1], a[2] + factor * b[2]};
+}
+
+double radians(double degrees)
+{
+    return degrees * std::numbers::pi / 180.0;
+}
+
+} // namespace
+
+Point3 Box3::center() const
+{
+    return plus({0.5 * minimum[0], 0.5 * minimum[1], 0.5 * minimum[2]}, 0.5, maximum);
+}
+
+Point3 Box3::corner(int number) const
+{
+    return {(number & 1 ? maximum : minimum)[0], (number & 2 ? maximum : minimum)[1],
+            (number & 4 ? maximum : minimum)[2]};
+}
+
+Camera3D::Camera3D(const View3D& view, const Box3& box, double aspect, double margin)
+    : m_view(view)
+    , m_box(box)
+    , m_aspect(std::max(aspect, 1e-3))
+{
+    const double psi = radians(view.psi);
+    const double theta = radians(view.theta);
+    const double alpha = radians(view.alpha);
+    m_toward = {std::sin(psi) * std::cos(theta), std::sin(psi) * std::sin(theta), std::cos(psi)};
+    const Point3 level{-std::sin(theta), std::cos(theta), 0.0};
+    const Point3 upright = cross(m_toward, level);
+    m_right = plus({std::cos(alpha) * level[0], std::cos(alpha) * level[1], std::cos(alpha) * level[2]},
+                   std::sin(alpha), upright);
+    m_up = cross(m_toward, m_right);
+
+    if (m_view.width > 0.0) {
+        return;
+    }
+    const Point3 center = box.center();
+    std::array<double, 4> extent{0.0, 0.0, 0.0, 0.0};
+    for (int i = 0; i < 8; ++i) {
+        const Point3 from = plus(box.corner(i), -1.0, center);
+        const double x = dot(from, m_right);
+        const double y = dot(from, m_up);
+        extent = {std::min(extent[0], x), std::max(extent[1], x), std::min(extent[2], y), std::max(extent[3], y)};
+    }
+    // A margin that leaves nothing for the plot would turn the picture inside out.
+    const double across = std::max(0.2, 1.0 - 2.0 * margin);
+    const double up = std::max(0.2, 1.0 / m_aspect - 2.0 * margin);
+    const double needed = std::max((extent[1] - extent[0]) / across, (extent[3] - extent[2]) / up);
+    m_view.width = needed > 0.0 ? needed : 1.0;
+    const Point3 middle =
+        plus(plus(center, 0.5 * (extent[0] + extent[1]), m_right), 0.5 * (extent[2] + extent[3]), m_up);
+    m_view.position = plus(middle, distance(), m_toward);
+}
+
+double Camera3D::distance() const
+{
+    const double angle = std::clamp(m_view.fieldOfView, 1.0, 150.0);
+    return m_view.width / (2.0 * std::tan(radians(angle) / 2.0));
+}
+
+Point3 Camera3D::target() const
+{
+    return plus(m_view.position, -distance(), m_toward);
+}
+
+QPointF Camera3D::project(const Point3& world) const
+{
+    const Point3 from = plus(world, -1.0, target());
+    double size = m_view.width;
+    if (m_view.isPerspective) {
+        size *= std::max(1e-6, (distance() - dot(from, m_toward)) / distance());
+    }
+    return {dot(from, m_right) / size, dot(from, m_up) / size};
+}
+
+double Camera3D::nearness(const Point3& world) const
+{
+    return dot(world, m_toward);
+}
+
+View3D Camera3D::view() const
+{
+    return m_view;
+}
+
+View3D Camera3D::moved(QPointF by) const
+{
+    View3D view = m_view;
+    view.position = plus(plus(view.position, -by.x() * view.width, m_right), -by.y() * view.width, m_up);
+    return view;
+}
+
+View3D Camera3D::magnified(double factor, QPointF about) const
+{
+    // The plane through the target keeps its point under `about`.
+    View3D view = m_view;
+    view.width = m_view.width / factor;
+    const double shift = m_view.width - view.width;
+    const Point3 middle = plus(plus(target(), about.x() * shift, m_right), about.y() * shift, m_up);
+    Camera3D moved = *this;
+    moved.m_view.width = view.width;
+    view.position = plus(middle, moved.distance(), m_toward);
+    return view;
+}
+
+View3D Camera3D::turned(double psi, double theta, double alpha) const
+{
+    View3D direction = m_view;
+    direction.psi = psi;
+    direction.theta = theta;
+    direction.alpha = alpha;
+    const Camera3D turned(direction, m_box, m_aspect);
+    const Point3 from = plus(target(), -1.0, m_box.center());
+    Point3 middle = plus(m_box.center(), dot(from, m_right), turned.m_right);
+    middle = plus(middle, dot(from, m_up), turned.m_up);
+    direction.position = plus(middle, distance(), turned.m_toward);
+    return direction;
+}
+
+void Camera3D::apply(vtkCamera& camera) const
+{
+    const Point3 focus = target();
+    // The eye of a parallel projection may be anywhere on its line; outside the box nothing is clipped.
+    camera.SetFocalPoint(focus.data());
+    camera.SetPosition(m_view.position.data());
+    camera.SetViewUp(m_up.data());
+    camera.SetParallelProjection(!m_view.isPerspective);
+    camera.SetParallelScale(0.5 * m_view.width / m_aspect);
+    camera.SetUseHorizontalViewAngle(true);
+    camera.SetViewAngle(std::clamp(m_view.fieldOfView, 1.0, 150.0));
+}
+
+} // namespace vantrix::view

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <QSizeF>
+
+namespace vantrix::kernel {
+class StyleStore;
+}
+
+namespace vantrix::view {
+
+/* How a page's paper looks. */
+struct PaperStyle
+{
+    QSizeF size; /* inches, in its orientation */
+    bool isShown = true;
+    QColor color = Qt::white;
+
+    static PaperStyle read(const kernel::StyleStore& store, long pageId);
+};
+
+/* The place of a frame on its paper: inches from the upper left corner, Y pointing down. */
+QRectF readFrameRect(const kernel::StyleStore& store, long frameId);
+
+} // namespace vantrix::view
