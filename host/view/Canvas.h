@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+namespace vantrix::view {
+
+/*
+ * A painter with a measure: lengths are in inches of the paper, text sizes and line widths included, whatever the
+ * device. Points are in the painter's logical units.
+ */
+class Canvas
+{
+public:
+    Canvas(QPainter& onto, double unitsPerInch)
+        : painter(onto)
+        , inch(unitsPerInch)
+    {}
+
+    QPainter& painter;
+    const double inch; /* in logical units */
+
+    /* A sans-serif font of a height in inches. */
+    QFont font(double height, bool isBold = false) const;
+
+    /* A line never thinner than a pixel of the device. */
+    QPen pen(const QColor& color, double thickness) const;
+
+    QSizeF textSize(const QString& text, const QFont& font) const;
+
+    /* Draws a text with its box aligned to a point: Qt::AlignLeft puts the text to the right of the point. */
+    void drawText(QPointF point, Qt::Alignment alignment, const QString& text, const QFont& font,
+                  const QColor& color) const;
+
+    /* The same, turned by degrees counter-clockwise about the point, the box centred on it. */
+    void drawTurnedText(QPointF middle, double degrees, const QString& text, const QFont& font,
+                        const QColor& color) const;
+
+    /* Pixels of the device for a logical unit. */
+    double resolution() const;
+
+    /* The rectangle moved to whole pixels of the device. */
+    QRectF aligned(const QRectF& rect) const;
+};
+
+} // namespace vantrix::view

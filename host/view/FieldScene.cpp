@@ -1,0 +1,254 @@
+#include "view/FieldScene.h"
+
+#include "kernel/DataSet.h"
+#include "kernel/ZoneGrid.h"
+
+#include <vtkCamera.h>
+#include <vtkCellPicker.h>
+#include <vtkLight.h>
+#include <vtkLookupTable.h>
+#include <vtkPointData.h>
+#include <vtkPoints.h>
+#include <vtkRenderer.h>
+#include <vtkStructuredGrid.h>
+#include <vtkUnstructuredGrid.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrix::view {
+namespace {
+
+/* Whether two grids have the very same points and cells, whatever their arrays. */
+bool hasSameShape(vtkDataSet* one, vtkDataSet* other)
+{
+    auto* points = vtkPointSet::SafeDownCast(one);
+    auto* otherPoints = vtkPointSet::SafeDownCast(other);
+    if (!points || !otherPoints || points->GetPoints() != otherPoints->GetPoints()) {
+        return false;
+    }
+    if (auto* grid = vtkStructuredGrid::SafeDownCast(one)) {
+        auto* otherGrid = vtkStructuredGrid::SafeDownCast(other);
+        return otherGrid && std::equal(grid->GetDimensions(), grid->GetDimensions() + 3, otherGrid->GetDimensions());
+    }
+    auto* grid = vtkUnstructuredGrid::SafeDownCast(one);
+    auto* otherGrid = vtkUnstructuredGrid::SafeDownCast(other);
+    return grid && otherGrid && grid->GetCells() == otherGrid->GetCells();
+}
+
+vtkSmartPointer<vtkPoints> logarithmicPoints(vtkPoints* points, const std::array<bool, 3>& isLogarithmic)
+{
+    const auto result = vtkSmartPointer<vtkPoints>::New();
+    result->SetDataTypeToDouble();
+    result->SetNumberOfPoints(points->GetNumberOfPoints());
+    Point3 point{};
+    for (vtkIdType i = 0; i < points->GetNumberOfPoints(); ++i) {
+        points->GetPoint(i, point.data());
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            if (isLogarithmic[axis]) {
+                point[axis] = std::log10(std::max(point[axis], 1e-300));
+            }
+        }
+        result->SetPoint(i, point.data());
+    }
+    return result;
+}
+
+/* Points and cells without arrays; of a volume in a flat plot, its first layer. */
+vtkSmartPointer<vtkDataSet> shapeOf(vtkDataSet* source, bool isFlat, const std::array<bool, 3>& isLogarithmic)
+{
+    const auto shape = vtkSmartPointer<vtkDataSet>::Take(source->NewInstance());
+    shape->CopyStructure(source);
+    auto* points = vtkPointSet::SafeDownCast(shape);
+    auto* grid = vtkStructuredGrid::SafeDownCast(shape);
+    if (isFlat && grid) {
+        std::array<int, 3> size{};
+        grid->GetDimensions(size.data());
+        if (size[0] > 1 && size[1] > 1 && size[2] > 1) {
+            const vtkIdType layer = vtkIdType{size[0]} * size[1];
+            const auto first = vtkSmartPointer<vtkPoints>::New();
+            first->SetDataType(grid->GetPoints()->GetDataType());
+            first->InsertPoints(0, layer, 0, grid->GetPoints());
+            grid->SetDimensions(size[0], size[1], 1);
+            grid->SetPoints(first);
+        }
+    }
+    if (points && (isLogarithmic[0] || isLogarithmic[1] || isLogarithmic[2])) {
+        points->SetPoints(logarithmicPoints(points->GetPoints(), isLogarithmic));
+    }
+    return shape;
+}
+
+/* The field with its values in memory. */
+kernel::FieldArray loaded(const kernel::FieldArray* field)
+{
+    kernel::FieldArray result;
+    if (field) {
+        result.values = field->load();
+        result.location = field->location;
+    }
+    return result;
+}
+
+double placed(double value, bool isLogarithmic)
+{
+    return isLogarithmic ? std::log10(value) : value;
+}
+
+} // namespace
+
+FieldScene::FieldScene(OffscreenWindow& window)
+    : m_window(window)
+    , m_renderer(vtkSmartPointer<vtkRenderer>::New())
+    , m_light(vtkSmartPointer<vtkLight>::New())
+{
+    m_renderer->SetAutomaticLightCreation(false);
+    m_renderer->SetTwoSidedLighting(true);
+    m_light->SetLightTypeToCameraLight();
+    m_light->SetFocalPoint(0.0, 0.0, 0.0);
+    m_renderer->AddLight(m_light);
+}
+
+FieldScene::~FieldScene()
+{
+    m_zones.clear();
+    m_window.forget(m_renderer);
+}
+
+void FieldScene::updateGroups(const std::vector<ContourGroupStyle>& groups)
+{
+    m_groups.resize(groups.size());
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+        if (!m_groups[i].colors.table || m_groups[i].style != groups[i]) {
+            m_groups[i] = {groups[i], ContourColors::make(groups[i])};
+        }
+    }
+}
+
+void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels)
+{
+    updateGroups(style.contourGroups);
+    const bool isThreeD = style.type == PlotType_Cartesian3D;
+    m_scale = isThreeD ? style.axisScale : std::array<double, 3>{1.0, 1.0, 0.0};
+    const LayerContext context{isThreeD, frameHeightPixels / 100.0, style.light};
+    m_light->SetPosition(style.light.direction[0], style.light.direction[1], style.light.direction[2]);
+    std::erase_if(m_zones, [&](const auto& entry) {
+        return std::none_of(style.zones.begin(), style.zones.end(),
+                            [&](const ZoneStyle& zone) { return zone.zone == entry.first; });
+    });
+    for (const ZoneStyle& zone : style.zones) {
+        updateZone(dataSet, style, zone, context);
+    }
+}
+
+void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& style, const ZoneStyle& zoneStyle,
+                            const LayerContext& context)
+{
+    const long zVariable = context.isThreeD ? style.axes[2].variable : 0;
+    const vtkSmartPointer<vtkDataSet> source =
+        kernel::zoneGrid(dataSet, zoneStyle.zone, {style.axes[0].variable, style.axes[1].variable, zVariable});
+    if (!source) {
+        m_zones.erase(zoneStyle.zone);
+        return;
+    }
+    Zone& zone = m_zones[zoneStyle.zone];
+    if (!zone.layers) {
+        zone.layers = std::make_unique<ZoneLayers>(m_renderer);
+    }
+    const std::array<bool, 3> isLogarithmic{!context.isThreeD && style.axes[0].isLogarithmic,
+                                            !context.isThreeD && style.axes[1].isLogarithmic, false};
+    const bool isFlat = !context.isThreeD;
+    if (!zone.shape || isLogarithmic != zone.isLogarithmic || isFlat != zone.isFlat ||
+        !hasSameShape(zone.source, source)) {
+        zone.shape = shapeOf(source, isFlat, isLogarithmic);
+        zone.isLogarithmic = isLogarithmic;
+        zone.isFlat = isFlat;
+    }
+    zone.source = source;
+    zone.layers->setGeometry(zone.shape);
+
+    kernel::FieldArray flood;
+    kernel::FieldArray lines;
+    const Group* floodGroup = nullptr;
+    const Group* lineGroup = nullptr;
+    const auto group = [&](long number) {
+        return number >= 1 && number <= static_cast<long>(m_groups.size()) ? &m_groups[std::size_t(number - 1)]
+                                                                           : nullptr;
+    };
+    if (zoneStyle.hasContour) {
+        floodGroup = group(zoneStyle.floodGroup);
+        lineGroup = group(zoneStyle.lineGroup);
+        flood = loaded(floodGroup ? dataSet.field(zoneStyle.zone, floodGroup->style.variable) : nullptr);
+        lines = loaded(lineGroup ? dataSet.field(zoneStyle.zone, lineGroup->style.variable) : nullptr);
+    }
+    zone.layers->setContour(flood.values ? &flood : nullptr, floodGroup ? &floodGroup->colors : nullptr,
+                            lines.values ? &lines : nullptr, lineGroup ? &lineGroup->colors : nullptr);
+    zone.layers->apply(zoneStyle, context);
+}
+
+QImage FieldScene::picture(const AxisScale& x, const AxisScale& y, QSize pixels, int samples)
+{
+    // The world of a flat plot is the picture itself: one unit a pixel.
+    std::array<double, 3> scale{1.0, 1.0, 0.0};
+    std::array<double, 3> shift{0.0, 0.0, 0.0};
+    const std::array<const AxisScale*, 2> axes{&x, &y};
+    const std::array<double, 2> lengths{double(pixels.width()), double(pixels.height())};
+    for (std::size_t i = 0; i < 2; ++i) {
+        const double from = placed(axes[i]->minimum(), axes[i]->isLogarithmic());
+        const double to = placed(axes[i]->maximum(), axes[i]->isLogarithmic());
+        scale[i] = lengths[i] / (to - from) * (axes[i]->isReversed() ? -1.0 : 1.0);
+        shift[i] = axes[i]->isReversed() ? -to * scale[i] : -from * scale[i];
+    }
+    for (auto& [number, zone] : m_zones) {
+        zone.layers->place(scale.data(), shift.data());
+    }
+    vtkCamera* camera = m_renderer->GetActiveCamera();
+    camera->SetParallelProjection(true);
+    camera->SetFocalPoint(0.5 * lengths[0], 0.5 * lengths[1], 0.0);
+    camera->SetPosition(0.5 * lengths[0], 0.5 * lengths[1], 100.0);
+    camera->SetViewUp(0.0, 1.0, 0.0);
+    camera->SetParallelScale(0.5 * lengths[1]);
+    camera->SetClippingRange(1.0, 200.0);
+    m_pixels = pixels;
+    return m_window.render(m_renderer, pixels, samples);
+}
+
+QImage FieldScene::picture(const Camera3D& view, QSize pixels, int samples)
+{
+    const std::array<double, 3> shift{0.0, 0.0, 0.0};
+    for (auto& [number, zone] : m_zones) {
+        zone.layers->place(m_scale.data(), shift.data());
+    }
+    vtkCamera* camera = m_renderer->GetActiveCamera();
+    view.apply(*camera);
+    m_renderer->ResetCameraClippingRange();
+    m_pixels = pixels;
+    return m_window.render(m_renderer, pixels, samples);
+}
+
+std::optional<Point3> FieldScene::pick(double across, double up) const
+{
+    const auto picker = vtkSmartPointer<vtkCellPicker>::New();
+    picker->SetTolerance(0.0005);
+    if (!m_renderer->GetRenderWindow() ||
+        !picker->Pick(across * m_pixels.width(), up * m_pixels.height(), 0.0, m_renderer)) {
+        return std::nullopt;
+    }
+    Point3 point{};
+    picker->GetPickPosition(point.data());
+    for (std::size_t i = 0; i < 3; ++i) {
+        point[i] /= m_scale[i] != 0.0 ? m_scale[i] : 1.0;
+    }
+    return point;
+}
+
+long FieldScene::surfaceCellCount() const
+{
+    long count = 0;
+    for (const auto& [number, zone] : m_zones) {
+        count += zone.layers->surfaceCellCount();
+    }
+    return count;
+}
+
+} // namespace vantrix::view

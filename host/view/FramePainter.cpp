@@ -1,0 +1,240 @@
+#include "view/FramePainter.h"
+
+#include "kernel/DataSet.h"
+#include "view/AxisBoxPainter.h"
+#include "view/AxisPainter.h"
+#include "view/ContourLegend.h"
+#include "view/LinePlot.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrix::view {
+namespace {
+
+constexpr int smoothSamples = 8;
+constexpr long coarseAbove = 60'000; /* surface cells that are still quick to render in full */
+
+/* Whether the frame's plot draws anything of a field. */
+bool hasField(const PlotStyle& style)
+{
+    return (style.type == PlotType_Cartesian2D || style.type == PlotType_Cartesian3D) && !style.zones.empty();
+}
+
+/* The contour group whose legend is shown: the first that a zone uses. */
+const ContourGroupStyle* legendGroup(const PlotStyle& style)
+{
+    for (const ZoneStyle& zone : style.zones) {
+        const long number = zone.contourType == ContourType_Lines ? zone.lineGroup : zone.floodGroup;
+        if (zone.hasContour && number >= 1 && number <= long(style.contourGroups.size())) {
+            const ContourGroupStyle& group = style.contourGroups[std::size_t(number - 1)];
+            if (group.hasLegend && !group.levels.empty()) {
+                return &group;
+            }
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+FramePainter::FramePainter(OffscreenWindow& window)
+    : m_scene(window)
+{}
+
+FramePainter::~FramePainter() = default;
+
+void FramePainter::show(PlotStyle style, std::shared_ptr<const kernel::DataSet> dataSet)
+{
+    if (m_revision == 0 || style != m_plot.style || dataSet != m_dataSet) {
+        ++m_revision;
+    }
+    m_plot.style = std::move(style);
+    m_dataSet = std::move(dataSet);
+}
+
+void FramePainter::paint(const Canvas& canvas, const QRectF& rect, bool isCoarse)
+{
+    m_isCoarse = isCoarse;
+    m_rect = rect;
+    m_frameHeight = rect.height();
+    m_plot.frameSize = rect.size() / canvas.inch;
+    m_plot.area = {};
+    m_plot.x.reset();
+    m_plot.y.reset();
+    m_plot.camera.reset();
+
+    const FrameStyle& style = m_plot.style.frame;
+    QPainter& painter = canvas.painter;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!style.isTransparent) {
+        painter.fillRect(rect, style.background);
+    }
+    painter.save();
+    painter.setClipRect(rect, Qt::IntersectClip);
+    QRectF inside = rect;
+    if (style.hasHeader) {
+        const QRectF header(rect.topLeft(), QSizeF(rect.width(), std::min(0.2 * canvas.inch, 0.2 * rect.height())));
+        paintHeader(canvas, header);
+        inside.setTop(header.bottom());
+    }
+    paintPlot(canvas, inside);
+    painter.restore();
+    if (style.hasBorder) {
+        painter.setPen(canvas.pen(Qt::black, style.borderThickness / 100.0 * rect.height() / canvas.inch));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(canvas.aligned(rect));
+    }
+    painter.restore();
+}
+
+void FramePainter::paintHeader(const Canvas& canvas, const QRectF& header) const
+{
+    const FrameStyle& style = m_plot.style.frame;
+    canvas.painter.fillRect(header, style.header);
+    const bool isDark = style.header.lightnessF() < 0.55F;
+    canvas.drawText(QPointF(header.left() + 0.1 * canvas.inch, header.center().y()), Qt::AlignLeft | Qt::AlignVCenter,
+                    QString::fromStdString(style.name), canvas.font(0.6 * header.height() / canvas.inch, true),
+                    isDark ? Qt::white : Qt::black);
+}
+
+void FramePainter::paintNotice(const Canvas& canvas, const QRectF& rect, const QString& text) const
+{
+    const PlotMeasures measures = PlotMeasures::forFrame(m_plot.frameSize);
+    canvas.drawText(rect.center(), Qt::AlignCenter, text, canvas.font(measures.label), Qt::gray);
+}
+
+void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
+{
+    const PlotStyle& style = m_plot.style;
+    m_plot.area = QRectF((inside.topLeft() - m_rect.topLeft()) / canvas.inch, inside.size() / canvas.inch);
+    if (style.type == PlotType_Sketch || !m_dataSet) {
+        return;
+    }
+    if (hasField(style) && !OffscreenWindow::isAvailable()) {
+        paintNotice(canvas, inside, QStringLiteral("Field plots need a graphics display"));
+        return;
+    }
+    const PlotMeasures measures = PlotMeasures::forFrame(m_plot.frameSize);
+    const double gap = measures.gap * canvas.inch;
+    QRectF room = inside;
+    const ContourGroupStyle* group = hasField(style) ? legendGroup(style) : nullptr;
+    const LinePlot curves(*m_dataSet, style);
+    double legendWidth = 0.0;
+    if (group) {
+        legendWidth = ContourLegend(canvas, measures, *group).width();
+    } else if (style.type == PlotType_XYLine && style.hasLineLegend) {
+        legendWidth = curves.legendWidth(canvas, measures);
+    }
+    legendWidth = std::min(legendWidth, 0.4 * inside.width());
+    if (legendWidth > 0.0) {
+        room.setRight(room.right() - legendWidth - 3.0 * gap);
+    }
+    if (style.type == PlotType_Cartesian3D) {
+        paintThreeD(canvas, measures, room);
+    } else {
+        paintFlat(canvas, measures, room);
+    }
+    const QRectF area(m_rect.topLeft() + m_plot.area.topLeft() * canvas.inch, m_plot.area.size() * canvas.inch);
+    if (legendWidth > 0.0) {
+        const bool isThreeD = style.type == PlotType_Cartesian3D;
+        const double left = isThreeD ? room.right() : area.right() + 2.0 * gap;
+        const QRectF column(left, isThreeD ? inside.top() + 3.0 * gap : area.top(), legendWidth,
+                            isThreeD ? inside.height() - 6.0 * gap : area.height());
+        if (group) {
+            ContourLegend(canvas, measures, *group).paint(column);
+        } else {
+            curves.paintLegend(canvas, measures, column);
+        }
+    }
+}
+
+void FramePainter::paintFlat(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room)
+{
+    const PlotStyle& style = m_plot.style;
+    const AxisPainter axes(canvas, measures, style.axes[0], style.axes[1]);
+    double ratio = 0.0;
+    if (style.xToYRatio > 0.0 && !axes.xScale().isLogarithmic() && !axes.yScale().isLogarithmic()) {
+        ratio = (axes.yScale().maximum() - axes.yScale().minimum()) /
+                (axes.xScale().maximum() - axes.xScale().minimum()) / style.xToYRatio;
+    }
+    const QRectF frame(m_rect.left(), room.top(), m_rect.width(), room.height());
+    const auto& [left, right, bottom, top] = style.viewport;
+    const QRectF viewport(QPointF(frame.left() + left * frame.width(), frame.bottom() - top * frame.height()),
+                          QPointF(frame.left() + right * frame.width(), frame.bottom() - bottom * frame.height()));
+    const QRectF area = canvas.aligned(axes.plotArea(room, viewport, ratio));
+    m_plot.area = QRectF((area.topLeft() - m_rect.topLeft()) / canvas.inch, area.size() / canvas.inch);
+    m_plot.x = axes.xScale();
+    m_plot.y = axes.yScale();
+    if (style.isFilled) {
+        canvas.painter.fillRect(area, style.fill);
+    }
+    axes.paintGrid(area);
+    if (style.type == PlotType_Cartesian2D) {
+        paintPicture(canvas, area, [&](QSize pixels, int samples) {
+            return m_scene.picture(axes.xScale(), axes.yScale(), pixels, samples);
+        });
+    } else {
+        LinePlot(*m_dataSet, style)
+            .paintCurves(canvas, area, axes.xScale(), axes.yScale(), m_frameHeight / canvas.inch);
+    }
+    axes.paintAxes(area);
+}
+
+void FramePainter::paintThreeD(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room)
+{
+    const PlotStyle& style = m_plot.style;
+    const QRectF area = canvas.aligned(room);
+    m_plot.area = QRectF((area.topLeft() - m_rect.topLeft()) / canvas.inch, area.size() / canvas.inch);
+    Box3 box;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const AxisScale scale(style.axes[i].minimum, style.axes[i].maximum);
+        box.minimum[i] = scale.minimum() * style.axisScale[i];
+        box.maximum[i] = scale.maximum() * style.axisScale[i];
+    }
+    View3D view = style.view;
+    for (std::size_t i = 0; i < 3; ++i) {
+        view.position[i] *= style.axisScale[i];
+    }
+    const double margin = (measures.tick + 3.0 * measures.gap + 3.2 * measures.label) * canvas.inch / area.width();
+    m_plot.camera = Camera3D(view, box, area.width() / area.height(), margin);
+    const AxisBoxPainter axes(canvas, measures, style.axes, *m_plot.camera, style.axisScale, area);
+    axes.paintBack();
+    paintPicture(canvas, area,
+                 [&](QSize pixels, int samples) { return m_scene.picture(*m_plot.camera, pixels, samples); });
+    axes.paintAxes();
+}
+
+template<typename Render>
+void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render render)
+{
+    if (!hasField(m_plot.style)) {
+        return;
+    }
+    const QSizeF device = canvas.painter.deviceTransform().mapRect(area).size();
+    const QSize pixels(int(std::lround(device.width())), int(std::lround(device.height())));
+    const bool isCoarse = m_isCoarse && m_scene.surfaceCellCount() > coarseAbove;
+    const PictureKey key{m_revision, pixels, isCoarse};
+    if (key != m_key || m_picture.isNull()) {
+        const double height = m_frameHeight * canvas.resolution();
+        const QSize size = isCoarse ? pixels / 2 : pixels;
+        m_scene.update(*m_dataSet, m_plot.style, isCoarse ? 0.5 * height : height);
+        m_picture = render(size.expandedTo({1, 1}), isCoarse ? 0 : smoothSamples);
+        m_key = key;
+        ++m_renderCount;
+    }
+    canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, isCoarse);
+    canvas.painter.drawImage(area, m_picture);
+}
+
+std::optional<Point3> FramePainter::pick(QPointF place) const
+{
+    if (!m_plot.camera || !m_plot.area.contains(place)) {
+        return std::nullopt;
+    }
+    return m_scene.pick((place.x() - m_plot.area.left()) / m_plot.area.width(),
+                        (m_plot.area.bottom() - place.y()) / m_plot.area.height());
+}
+
+} // namespace vantrix::view
