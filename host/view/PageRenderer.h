@@ -6,6 +6,7 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <array>
 #include <memory>
 #include <optional>
 
@@ -49,6 +50,7 @@ public:
      * the painter's device, its device pixel ratio included.
      */
     void paintPage(QPainter& painter, const kernel::Page& page, double inch);
+    void paintFrames(QPainter& painter, const kernel::Page& page, double inch);
     void paintFrame(QPainter& painter, const kernel::Frame& frame, double inch);
 
     /* The same into an image of that width in pixels; the height follows from paper or frame. At least one pixel. */
@@ -63,6 +65,10 @@ public:
 
     /* The plot of a frame as it was painted last; null when it was never painted. */
     const FramePlot* plot(long frameId) const;
+
+    /* The first surface point of a 3D plot at a place in its frame (inches from the upper left corner), in data
+     * coordinates. */
+    std::optional<std::array<double, 3>> pick(long frameId, QPointF place) const;
 
     /* How often a field plot was rendered since this object was made. */
     long renderCount() const;

@@ -1,0 +1,196 @@
+#include "view/ViewEditor.h"
+
+#include "kernel/ApplicationLock.h"
+#include "kernel/DataSet.h"
+#include "kernel/Frame.h"
+#include "kernel/Kernel.h"
+#include "kernel/StyleStore.h"
+#include "kernel/UndoStack.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+namespace vantrix::view {
+namespace {
+
+struct Bounds
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+    bool isEmpty = true;
+
+    void include(const kernel::FieldArray* field)
+    {
+        const auto values = field ? field->load() : nullptr;
+        if (!values || values->GetNumberOfTuples() == 0) {
+            return;
+        }
+        std::array<double, 2> range{};
+        values->GetFiniteRange(range.data());
+        if (range[0] > range[1]) {
+            return;
+        }
+        minimum = isEmpty ? range[0] : std::min(minimum, range[0]);
+        maximum = isEmpty ? range[1] : std::max(maximum, range[1]);
+        isEmpty = false;
+    }
+};
+
+Bounds shownBounds(const kernel::DataSet& dataSet, const PlotStyle& style, std::size_t axis)
+{
+    Bounds bounds;
+    for (const ZoneStyle& zone : style.zones) {
+        bounds.include(dataSet.field(zone.zone, style.axes[axis].variable));
+    }
+    for (const LineMapStyle& map : style.lineMaps) {
+        bounds.include(dataSet.field(map.zone, axis == 0 ? map.xVariable : map.yVariable));
+    }
+    return bounds;
+}
+
+double wrapped(double degrees)
+{
+    const double turn = std::fmod(degrees, 360.0);
+    return turn < 0.0 ? turn + 360.0 : turn;
+}
+
+} // namespace
+
+void ViewEditor::begin(const std::string& name)
+{
+    if (!m_isEditing) {
+        m_isEditing = true;
+        m_kernel.lock().start(true);
+        m_kernel.undoStack().nameStep(name);
+    }
+}
+
+void ViewEditor::end()
+{
+    if (m_isEditing) {
+        m_isEditing = false;
+        m_kernel.lock().finish();
+    }
+}
+
+void ViewEditor::write(const kernel::Frame& frame, const std::string& path, double value, long offset)
+{
+    kernel::StyleStore& style = m_kernel.style();
+    style.setOf(frame.id(), style.entry(path), offset, -1, value);
+}
+
+void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t axis, double minimum,
+                            double maximum)
+{
+    if (!std::isfinite(minimum) || !std::isfinite(maximum) || !(maximum > minimum)) {
+        return;
+    }
+    const bool isLine = plot.style.type == PlotType_XYLine;
+    const std::string detail =
+        std::string(isLine ? "XYLineAxis" : "TwoDAxis") + (axis == 0 ? "/XDetail/" : "/YDetail/");
+    // A range must never be empty, not even between the two writes.
+    const double oldMaximum = (axis == 0 ? plot.x : plot.y)->maximum();
+    const long offset = isLine ? 1 : -1;
+    if (minimum < oldMaximum) {
+        write(frame, detail + "RangeMin", minimum, offset);
+        write(frame, detail + "RangeMax", maximum, offset);
+    } else {
+        write(frame, detail + "RangeMax", maximum, offset);
+        write(frame, detail + "RangeMin", minimum, offset);
+    }
+}
+
+void ViewEditor::showRect(const kernel::Frame& frame, const FramePlot& plot, const QRectF& rect)
+{
+    if (plot.camera) {
+        const QPointF middle = plot.onPicture(rect.center());
+        const double factor = std::min(plot.area.width() / rect.width(), plot.area.height() / rect.height());
+        const View3D moved = plot.camera->moved(-middle);
+        const Camera3D camera(moved, {}, plot.area.width() / plot.area.height());
+        writeView(frame, plot, camera.magnified(factor, {0.0, 0.0}));
+        return;
+    }
+    if (!plot.x || !plot.y) {
+        return;
+    }
+    QRectF shown = rect;
+    if (plot.style.xToYRatio > 0.0) {
+        // Axes that depend on each other keep the shape of the plot.
+        const double factor = std::max(rect.width() / plot.area.width(), rect.height() / plot.area.height());
+        shown.setSize(plot.area.size() * factor);
+        shown.moveCenter(rect.center());
+    }
+    const auto across = [&](double x) { return plot.x->value((x - plot.area.left()) / plot.area.width()); };
+    const auto up = [&](double y) { return plot.y->value((plot.area.bottom() - y) / plot.area.height()); };
+    const double left = across(shown.left());
+    const double right = across(shown.right());
+    const double bottom = up(shown.bottom());
+    const double top = up(shown.top());
+    writeRange(frame, plot, 0, std::min(left, right), std::max(left, right));
+    writeRange(frame, plot, 1, std::min(bottom, top), std::max(bottom, top));
+}
+
+void ViewEditor::move(const kernel::Frame& frame, const FramePlot& plot, QPointF by)
+{
+    if (plot.camera) {
+        writeView(frame, plot, plot.camera->moved({by.x() / plot.area.width(), -by.y() / plot.area.width()}));
+    } else {
+        showRect(frame, plot, plot.area.translated(-by));
+    }
+}
+
+void ViewEditor::magnify(const kernel::Frame& frame, const FramePlot& plot, double factor, QPointF about)
+{
+    if (plot.camera) {
+        writeView(frame, plot, plot.camera->magnified(factor, plot.onPicture(about)));
+        return;
+    }
+    const QPointF topLeft = about + (plot.area.topLeft() - about) / factor;
+    showRect(frame, plot, QRectF(topLeft, plot.area.size() / factor));
+}
+
+void ViewEditor::turn(const kernel::Frame& frame, const FramePlot& plot, double theta, double psi)
+{
+    if (!plot.camera) {
+        return;
+    }
+    const View3D& view = plot.style.view;
+    writeView(frame, plot,
+              plot.camera->turned(std::clamp(view.psi + psi, 0.0, 180.0), wrapped(view.theta + theta), view.alpha));
+}
+
+void ViewEditor::writeView(const kernel::Frame& frame, const FramePlot& plot, const View3D& view)
+{
+    write(frame, "ThreeDView/PsiAngle", view.psi);
+    write(frame, "ThreeDView/ThetaAngle", view.theta);
+    write(frame, "ThreeDView/AlphaAngle", view.alpha);
+    write(frame, "ThreeDView/ViewWidth", view.width);
+    const std::array<double, 3>& scale = plot.style.axisScale;
+    write(frame, "ThreeDView/ViewerPosition/X", view.position[0] / scale[0]);
+    write(frame, "ThreeDView/ViewerPosition/Y", view.position[1] / scale[1]);
+    write(frame, "ThreeDView/ViewerPosition/Z", view.position[2] / scale[2]);
+}
+
+void ViewEditor::fit(const kernel::Frame& frame, const FramePlot& plot)
+{
+    if (plot.camera) {
+        for (const char* coordinate : {"X", "Y", "Z"}) {
+            write(frame, std::string("ThreeDView/ViewerPosition/") + coordinate, 0.0);
+        }
+        return;
+    }
+    if (!plot.x || !plot.y || !frame.dataSet()) {
+        return;
+    }
+    for (std::size_t axis = 0; axis < 2; ++axis) {
+        const Bounds bounds = shownBounds(*frame.dataSet(), plot.style, axis);
+        if (!bounds.isEmpty) {
+            const AxisScale usable(bounds.minimum, bounds.maximum, plot.style.axes[axis].isLogarithmic);
+            writeRange(frame, plot, axis, usable.minimum(), usable.maximum());
+        }
+    }
+}
+
+} // namespace vantrix::view
