@@ -1,7 +1,8 @@
 #include "view/ColorMap.h"
 
+#include "kernel/Palette.h"
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace vantrix::view {
@@ -83,12 +84,10 @@ std::vector<std::string> ColorMap::names()
     return result;
 }
 
-QColor basicColor(long index)
+QColor indexedColor(long index)
 {
-    static constexpr std::array<QRgb, 16> colors{0xff000000, 0xffff0000, 0xff00c000, 0xff0000ff, 0xff00c8d8, 0xffffd800,
-                                                 0xffa000c8, 0xffffffff, 0xff4c566a, 0xffc8d2dc, 0xff9fb4c7, 0xffd9a066,
-                                                 0xff7fa86f, 0xff8f6fa8, 0xffb05c5c, 0xff5c8bb0};
-    return QColor::fromRgb(index >= 0 && index < long(colors.size()) ? colors[std::size_t(index)] : colors[0]);
+    const kernel::RgbColor color = kernel::paletteColor(index);
+    return {color.red, color.green, color.blue};
 }
 
 } // namespace vantrix::view

@@ -37,8 +37,7 @@ private:
     std::vector<Lab> m_controls;
 };
 
-/* The colours that style values name by number: 0 black, 1 red, 2 green, 3 blue, 4 cyan, 5 yellow, 6 purple, 7 white,
- * then softer ones; numbers out of range give black. */
-QColor basicColor(long index);
+/* The colour of a colour index of the style. */
+QColor indexedColor(long index);
 
 } // namespace vantrix::view

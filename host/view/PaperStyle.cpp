@@ -11,12 +11,12 @@ PaperStyle PaperStyle::read(const kernel::StyleStore& store, long pageId)
     const kernel::PaperDimensions size = kernel::paperDimensions(store, pageId);
     return {{size.width, size.height},
             store.flag(pageId, store.entry("Paper/ShowPaper")),
-            basicColor(store.integer(pageId, store.entry("Paper/BackgroundColor")))};
+            indexedColor(store.integer(pageId, store.entry("Paper/BackgroundColor")))};
 }
 
 QRectF readFrameRect(const kernel::StyleStore& store, long frameId)
 {
-    const auto inches = [&](std::string_view path) { return store.real(frameId, store.entry(path)); };
+    const auto inches = [&](const char* path) { return store.real(frameId, store.entry(path)); };
     return {inches("FrameLayout/XYPos/X"), inches("FrameLayout/XYPos/Y"), inches("FrameLayout/Width"),
             inches("FrameLayout/Height")};
 }

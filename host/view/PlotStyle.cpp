@@ -103,7 +103,7 @@ ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataS
 QColor lineColor(const StyleReader& style)
 {
     const long number = style.integer("Color");
-    return basicColor(number < firstContourColor ? number : 0);
+    return indexedColor(number < firstContourColor ? number : 0);
 }
 
 ZoneStyle readZone(const StyleReader& style, const StyleReader& layers, long number)

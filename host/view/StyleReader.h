@@ -30,7 +30,7 @@ public:
     long integer(std::string_view path) const { return m_store.integer(m_scope, entry(path), m_offset1, m_offset2); }
     double real(std::string_view path) const { return m_store.real(m_scope, entry(path), m_offset1, m_offset2); }
     std::string text(std::string_view path) const { return m_store.text(m_scope, entry(path), m_offset1, m_offset2); }
-    QColor color(std::string_view path) const { return basicColor(integer(path)); }
+    QColor color(std::string_view path) const { return indexedColor(integer(path)); }
 
     template<typename Enumeration>
     Enumeration enumerator(std::string_view path) const
@@ -46,7 +46,7 @@ private:
     {
         return m_path.empty() ? std::string(path) : m_path + "/" + std::string(path);
     }
-    long entry(std::string_view path) const { return m_store.entry(full(path)); }
+    long entry(std::string_view path) const { return m_store.entry(full(path).c_str()); }
 
     const kernel::StyleStore& m_store;
     long m_scope;

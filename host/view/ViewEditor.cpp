@@ -78,7 +78,7 @@ void ViewEditor::end()
 void ViewEditor::write(const kernel::Frame& frame, const std::string& path, double value, long offset)
 {
     kernel::StyleStore& style = m_kernel.style();
-    style.setOf(frame.id(), style.entry(path), offset, -1, value);
+    style.setOf(frame.id(), style.entry(path.c_str()), offset, -1, value);
 }
 
 void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t axis, double minimum,

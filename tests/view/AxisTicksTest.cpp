@@ -1,0 +1,149 @@
+#include "view/AxisTicks.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <random>
+
+using namespace vantrix::view;
+
+namespace {
+
+struct Range
+{
+    double minimum;
+    double maximum;
+};
+
+/* What holds for the ticks of every axis, whatever its range. */
+void expectSound(const AxisScale& scale, const TickRequest& request)
+{
+    const AxisTicks ticks = AxisTicks::make(scale, request);
+    SCOPED_TRACE(testing::Message() << scale.minimum() << " to " << scale.maximum()
+                                    << (scale.isLogarithmic() ? " log" : "")
+                                    << (scale.isReversed() ? " reversed" : ""));
+    EXPECT_LE(double(ticks.major.size()), request.length / request.minimumDistance + 1.0);
+    for (const auto* set : {&ticks.major, &ticks.minor}) {
+        double previous = -std::numeric_limits<double>::infinity();
+        for (const Tick& tick : *set) {
+            EXPECT_GT(tick.value, previous);
+            EXPECT_GE(tick.value, scale.minimum());
+            EXPECT_LE(tick.value, scale.maximum());
+            EXPECT_NEAR(tick.fraction, scale.fraction(tick.value), 1e-12);
+            previous = tick.value;
+        }
+    }
+    for (std::size_t i = 0; i < ticks.major.size(); ++i) {
+        EXPECT_EQ(std::strtod(ticks.major[i].label.c_str(), nullptr), ticks.major[i].value) << ticks.major[i].label;
+        EXPECT_LE(ticks.major[i].label.size(), 24U) << ticks.major[i].label;
+        if (i > 0) {
+            EXPECT_NE(ticks.major[i].label, ticks.major[i - 1].label);
+            const double distance = std::abs(ticks.major[i].fraction - ticks.major[i - 1].fraction) * request.length;
+            EXPECT_GE(distance, request.minimumDistance * (1.0 - 1e-6));
+        }
+    }
+    for (const Tick& minor : ticks.minor) {
+        EXPECT_TRUE(minor.label.empty());
+        for (const Tick& major : ticks.major) {
+            EXPECT_GT(std::abs(minor.value - major.value), 0.0);
+        }
+    }
+}
+
+std::vector<std::string> labels(const AxisScale& scale, const TickRequest& request)
+{
+    std::vector<std::string> texts;
+    for (const Tick& tick : AxisTicks::make(scale, request).major) {
+        texts.push_back(tick.label);
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST(AxisTicks, AreSoundOverRangesOfEverySize)
+{
+    const Range ranges[] = {{0.0, 1.0},        {-1.0, 1.0},        {0.0, 1e-300},      {1e-12, 3e-12},
+                            {-7e15, 9e15},     {1e300, 8e300},     {1e9, 1e9 + 1e-3},  {-1e9 - 1e-3, -1e9},
+                            {0.1, 0.3},        {99.999, 100.001},  {5.0, 5.0},         {0.0, 0.0},
+                            {-1e-320, 1e-320}, {1.0, 1.0 + 1e-15}, {3.0, -2.0},        {1e-5, 1e5},
+                            {1.5, 8.5},        {0.002, 0.0021},    {-1.7e308, 1.7e308}};
+    for (const Range& range : ranges) {
+        for (const bool isLogarithmic : {false, true}) {
+            for (const bool isReversed : {false, true}) {
+                for (const double length : {15.0, 60.0, 300.0, 2000.0}) {
+                    TickRequest request;
+                    request.length = length;
+                    expectSound(AxisScale(range.minimum, range.maximum, isLogarithmic, isReversed), request);
+                }
+            }
+        }
+    }
+}
+
+TEST(AxisTicks, AreSoundOverRandomRanges)
+{
+    std::mt19937 random(20);
+    std::uniform_real_distribution<double> exponent(-30.0, 30.0);
+    std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
+    for (int i = 0; i < 3000; ++i) {
+        const double start = mantissa(random) * std::pow(10.0, exponent(random));
+        const double size = std::abs(start) * std::pow(10.0, exponent(random) / 3.0);
+        TickRequest request;
+        request.length = 40.0 + 200.0 * (i % 7);
+        expectSound(AxisScale(start, start + size, i % 5 == 0, i % 2 == 0), request);
+    }
+}
+
+TEST(AxisTicks, OfAnOrdinaryRangeAreThoseThatAPersonWouldChoose)
+{
+    TickRequest request;
+    request.length = 100.0;
+    request.minimumDistance = 18.0;
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (Texts{"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}));
+    EXPECT_EQ(labels(AxisScale(-3.0, 2.1), request), (Texts{"-3", "-2", "-1", "0", "1", "2"}));
+    EXPECT_EQ(labels(AxisScale(0.0, 5e-8), request), (Texts{"0", "1e-8", "2e-8", "3e-8", "4e-8", "5e-8"}));
+    EXPECT_EQ(labels(AxisScale(0.1, 100.0, true), request), (Texts{"0.1", "1", "10", "100"}));
+    EXPECT_EQ(labels(AxisScale(1e-6, 1.0, true), request), (Texts{"1e-6", "1e-4", "1e-2", "1e0"}));
+}
+
+TEST(AxisTicks, GiveWayToLongLabels)
+{
+    TickRequest request;
+    request.length = 300.0;
+    request.labelExtent = [](const std::string& label) { return 9.0 * double(label.size()); };
+    const AxisTicks ticks = AxisTicks::make(AxisScale(1e9, 1e9 + 1e-3), request);
+    ASSERT_GE(ticks.major.size(), 2U);
+    for (std::size_t i = 1; i < ticks.major.size(); ++i) {
+        const double distance = (ticks.major[i].fraction - ticks.major[i - 1].fraction) * request.length;
+        EXPECT_GE(distance, request.labelExtent(ticks.major[i].label));
+    }
+}
+
+TEST(AxisTicks, FollowASpacingOfOnesOwnUnlessItCrowdsTheAxis)
+{
+    TickRequest request;
+    request.length = 200.0;
+    request.spacing = 0.25;
+    request.anchor = 0.1;
+    EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (std::vector<std::string>{"0.1", "0.35", "0.6", "0.85"}));
+    request.spacing = 1e-6;
+    EXPECT_EQ(AxisTicks::make(AxisScale(0.0, 1.0), request).spacing, 0.1);
+}
+
+TEST(AxisScale, TakesValuesToFractionsAndBack)
+{
+    for (const bool isLogarithmic : {false, true}) {
+        for (const bool isReversed : {false, true}) {
+            const AxisScale scale(0.5, 2000.0, isLogarithmic, isReversed);
+            EXPECT_NEAR(scale.fraction(0.5), isReversed ? 1.0 : 0.0, 1e-12);
+            EXPECT_NEAR(scale.fraction(2000.0), isReversed ? 0.0 : 1.0, 1e-12);
+            for (const double fraction : {0.0, 0.1, 0.5, 0.99}) {
+                EXPECT_NEAR(scale.fraction(scale.value(fraction)), fraction, 1e-12);
+            }
+        }
+    }
+}

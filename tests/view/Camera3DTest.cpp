@@ -1,0 +1,71 @@
+#include "view/Camera3D.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using namespace vantrix::view;
+
+namespace {
+
+const Box3 box{{-3.0, 10.0, 0.0}, {5.0, 12.0, 40.0}};
+
+void expectNear(QPointF actual, QPointF expected)
+{
+    EXPECT_NEAR(actual.x(), expected.x(), 1e-9);
+    EXPECT_NEAR(actual.y(), expected.y(), 1e-9);
+}
+
+} // namespace
+
+TEST(Camera3D, ShowsTheWholeBoxInsideItsMarginsFromEveryDirection)
+{
+    const double aspect = 1.3;
+    const double margin = 0.1;
+    for (double theta = 0.0; theta < 360.0; theta += 30.0) {
+        for (double psi = 0.0; psi <= 180.0; psi += 30.0) {
+            View3D view;
+            view.theta = theta;
+            view.psi = psi;
+            view.alpha = 20.0;
+            const Camera3D camera(view, box, aspect, margin);
+            for (int corner = 0; corner < 8; ++corner) {
+                const QPointF place = camera.project(box.corner(corner));
+                EXPECT_LE(std::abs(place.x()), 0.5 - margin + 1e-9);
+                EXPECT_LE(std::abs(place.y()), 0.5 / aspect - margin + 1e-9);
+            }
+        }
+    }
+}
+
+TEST(Camera3D, PutsZUpAndXToTheRightByDefault)
+{
+    const Camera3D camera(View3D{}, box, 1.0);
+    const QPointF origin = camera.project({0.0, 0.0, 0.0});
+    EXPECT_GT(camera.project({1.0, 0.0, 0.0}).x(), origin.x());
+    EXPECT_GT(camera.project({0.0, 1.0, 0.0}).x(), origin.x());
+    EXPECT_GT(camera.project({0.0, 0.0, 1.0}).y(), origin.y());
+    EXPECT_NEAR(camera.project({0.0, 0.0, 1.0}).x(), origin.x(), 1e-12);
+}
+
+TEST(Camera3D, KeepsThePointUnderThePointerWhenItMagnifiesAndTheCentreWhenItTurns)
+{
+    const double aspect = 1.3;
+    for (const bool isPerspective : {false, true}) {
+        View3D view;
+        view.isPerspective = isPerspective;
+        const Camera3D camera(view, box, aspect);
+        const QPointF about(0.2, -0.1);
+        const Camera3D magnified(camera.magnified(2.0, about), box, aspect);
+        EXPECT_NEAR(magnified.view().width, camera.view().width / 2.0, 1e-9);
+        const Camera3D back(magnified.magnified(0.5, about), box, aspect);
+        expectNear(back.project(box.corner(3)), camera.project(box.corner(3)));
+
+        const Camera3D moved(camera.moved({0.1, 0.05}), box, aspect);
+        if (!isPerspective) {
+            expectNear(moved.project(box.corner(5)), camera.project(box.corner(5)) + QPointF(0.1, 0.05));
+            const Camera3D turned(moved.turned(30.0, 100.0, 0.0), box, aspect);
+            expectNear(turned.project(box.center()), moved.project(box.center()));
+        }
+    }
+}

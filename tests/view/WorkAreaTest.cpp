@@ -1,0 +1,133 @@
+#include "view/WorkArea.h"
+#include "kernel/ApplicationLock.h"
+#include "kernel/Document.h"
+#include "kernel/Kernel.h"
+#include "kernel/MouseModes.h"
+#include "kernel/UndoStack.h"
+#include "view/FramePlot.h"
+#include "view/PageRenderer.h"
+#include "view/ShownSample.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace vantrix;
+
+namespace {
+
+/* A work area on the screen, painted. */
+struct ShownWorkArea
+{
+    explicit ShownWorkArea(ShownSample& sample)
+        : area(sample.kernel)
+    {
+        area.resize(700, 560);
+        area.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&area));
+        area.repaint();
+    }
+
+    QPoint place(double across, double down)
+    {
+        auto* page = vantrix::kernel::Kernel::instance().document().activePage();
+        const QRectF rect = area.renderer().frameRect(*page->frames.back());
+        return area.toWidget(rect.topLeft() + QPointF(across * rect.width(), down * rect.height())).toPoint();
+    }
+
+    void drag(QPoint from, QPoint to)
+    {
+        QTest::mousePress(&area, Qt::LeftButton, {}, from);
+        for (int i = 1; i <= 4; ++i) {
+            QTest::mouseMove(&area, from + (to - from) * i / 4);
+        }
+        QTest::mouseRelease(&area, Qt::LeftButton, {}, to);
+    }
+
+    view::WorkArea area;
+};
+
+} // namespace
+
+TEST(WorkArea, RotatesByDraggingAsOneStepOfUndo)
+{
+    ShownSample sample("mixed", PlotType_Cartesian3D);
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Rotate));
+    const double theta = sample.real("ThreeDView/ThetaAngle");
+    const double psi = sample.real("ThreeDView/PsiAngle");
+    const unsigned long revision = sample.kernel.undoStack().revision();
+    shown.drag(shown.place(0.5, 0.5), shown.place(0.6, 0.4));
+    EXPECT_NE(sample.real("ThreeDView/ThetaAngle"), theta);
+    EXPECT_NE(sample.real("ThreeDView/PsiAngle"), psi);
+    EXPECT_NE(sample.kernel.undoStack().revision(), revision);
+    EXPECT_FALSE(sample.kernel.lock().isOn());
+    EXPECT_EQ(sample.kernel.undoStack().undoName(), "Rotate");
+    ASSERT_TRUE(sample.kernel.undoStack().undo());
+    EXPECT_EQ(sample.real("ThreeDView/ThetaAngle"), theta);
+    EXPECT_EQ(sample.real("ThreeDView/PsiAngle"), psi);
+    EXPECT_EQ(sample.real("ThreeDView/ViewerPosition/X"), 0.0);
+    EXPECT_EQ(sample.kernel.lock().violationCount(), 0);
+}
+
+TEST(WorkArea, ZoomsAFlatPlotByARubberBandAndFitsItAgain)
+{
+    ShownSample sample("fe2d", PlotType_Cartesian2D);
+    sample.set("TwoDAxis/AxisMode", long{AxisMode_Independent});
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Zoom));
+    const view::FramePlot* plot = shown.area.renderer().plot(sample.frame().id());
+    ASSERT_TRUE(plot && plot->x);
+    const double minimum = sample.real("TwoDAxis/XDetail/RangeMin");
+    const double maximum = sample.real("TwoDAxis/XDetail/RangeMax");
+    const QPointF corner = shown.area.renderer().frameRect(sample.frame()).topLeft();
+    const QRectF area = plot->area.translated(corner);
+    const auto at = [&](double x, double y) {
+        return shown.area.toWidget(area.topLeft() + QPointF(x * area.width(), y * area.height())).toPoint();
+    };
+    shown.drag(at(0.25, 0.25), at(0.75, 0.75));
+    const double tolerance = 0.01 * (maximum - minimum);
+    EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMin"), minimum + 0.25 * (maximum - minimum), tolerance);
+    EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMax"), minimum + 0.75 * (maximum - minimum), tolerance);
+    shown.area.fitPlot();
+    EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMin"), minimum, 1e-9);
+    EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMax"), maximum, 1e-9);
+}
+
+TEST(WorkArea, TellsWhereThePointerIs)
+{
+    ShownSample sample("fe2d", PlotType_Cartesian2D);
+    ShownWorkArea shown(sample);
+    QSignalSpy spy(&shown.area, &view::WorkArea::coordinatesChanged);
+    QTest::mouseMove(&shown.area, shown.place(0.45, 0.5));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !spy.isEmpty(); }, 2000));
+    EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("X = ")))
+        << spy.last().at(0).toString().toStdString();
+    QTest::mouseMove(&shown.area, QPoint(3, 3));
+    EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("Paper: ")));
+}
+
+TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndPassesOtherModesOn)
+{
+    ShownSample sample("fe2d", PlotType_Cartesian2D);
+    const long first = sample.frame().id();
+    ShownWorkArea shown(sample);
+    QSignalSpy spy(&shown.area, &view::WorkArea::clickedInMode);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, shown.place(0.45, 0.5));
+    ASSERT_EQ(spy.size(), 1);
+    EXPECT_EQ(spy.at(0).at(1).value<long>(), first);
+    EXPECT_TRUE(spy.at(0).at(5).toBool());
+
+    sample.kernel.lock().start(true);
+    const vantrix::kernel::Frame* second = sample.kernel.document().addFrame();
+    sample.kernel.lock().finish();
+    sample.set("FrameLayout/Width", 2.0);
+    ASSERT_TRUE(second);
+    sample.kernel.mouseModes().set(MouseMode_Selector);
+    shown.area.repaint();
+    const QRectF rect = shown.area.renderer().frameRect(*sample.kernel.document().frameById(first));
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {},
+                      shown.area.toWidget(rect.bottomRight() - QPointF(0.5, 0.5)).toPoint());
+    EXPECT_EQ(sample.kernel.document().activeFrame()->id(), first);
+}
