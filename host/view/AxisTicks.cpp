@@ -11,7 +11,8 @@
 namespace vantrix::view {
 namespace {
 
-constexpr double largest = std::numeric_limits<double>::max() / 4.0;
+/* Beyond this, a range or a step of an axis would overflow. */
+constexpr double largest = 1e300;
 constexpr int mostTicks = 60;
 
 double parsed(const std::string& text)
@@ -146,7 +147,7 @@ bool labelsFit(const std::vector<Tick>& ticks, const TickRequest& request)
             needed =
                 std::max(needed, 0.5 * (request.labelExtent(ticks[i].label) + request.labelExtent(ticks[i - 1].label)));
         }
-        if (distance < needed) {
+        if (distance < needed * (1.0 - 1e-9)) {
             return false;
         }
     }

@@ -43,7 +43,8 @@ TEST(Camera3D, PutsZUpAndXToTheRightByDefault)
     const Camera3D camera(View3D{}, box, 1.0);
     const QPointF origin = camera.project({0.0, 0.0, 0.0});
     EXPECT_GT(camera.project({1.0, 0.0, 0.0}).x(), origin.x());
-    EXPECT_GT(camera.project({0.0, 1.0, 0.0}).x(), origin.x());
+    EXPECT_LT(camera.project({0.0, 1.0, 0.0}).x(), origin.x());
+    EXPECT_GT(camera.project({0.0, 1.0, 0.0}).y(), origin.y());
     EXPECT_GT(camera.project({0.0, 0.0, 1.0}).y(), origin.y());
     EXPECT_NEAR(camera.project({0.0, 0.0, 1.0}).x(), origin.x(), 1e-12);
 }
