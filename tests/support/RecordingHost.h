@@ -63,6 +63,7 @@ public:
     MouseMode_e mouseMode = MouseMode_Selector;
     std::set<MouseMode_e> validMouseModes = {MouseMode_Selector, MouseMode_Zoom};
     PlotType_e plotType = PlotType_Sketch;
+    bool allowsRGBColoring = false;
     bool dataSetIsAvailable = false;
     std::map<char, long> axisVariables;
     std::map<long, std::pair<double, double>> extents;

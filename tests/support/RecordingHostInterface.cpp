@@ -344,6 +344,11 @@ static bool createZone()
     return host().createSucceeds;
 }
 
+bool VtxUtilContourOkToTurnOnRGBColoring(void)
+{
+    return host().allowsRGBColoring;
+}
+
 bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, double yOrigin, double radius,
                                double zMin, double zMax, FieldDataType_e dataType)
 {

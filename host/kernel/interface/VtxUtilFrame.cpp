@@ -70,6 +70,12 @@ PlotType_e VtxUtilFrameGetPlotType(void)
     });
 }
 
+bool VtxUtilContourOkToTurnOnRGBColoring(void)
+{
+    boundary::fail("This host colours contours by one variable; it cannot mix red, green and blue from three.");
+    return false;
+}
+
 bool VtxUtilFrameSetPlotType(PlotType_e plotType)
 {
     return boundary::guarded(false, [&] {
