@@ -1,0 +1,51 @@
+// A dialog made and shown, with manager, bindings and relevance, beside its bare form.
+
+#include "dialogs/zone/CreateCircularZoneDialog.h"
+#include "kernel/Kernel.h"
+#include "kernel/OpenData.h"
+#include "ui_CreateCircularZoneDialog.h"
+
+#include <QApplication>
+#include <QDialog>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+namespace {
+
+void openSample()
+{
+    static bool const opened = [] {
+        vantrix::kernel::OpenData(vantrix::kernel::Kernel::instance()).sample("flow3d");
+        return true;
+    }();
+    benchmark::DoNotOptimize(opened);
+}
+
+void dialogLaunch(benchmark::State& state)
+{
+    openSample();
+    for (auto _ : state) {
+        QWidget parent;
+        vantrix::sdk::ui::dialogs::CreateCircularZoneDialog::getInstance(parent).launch();
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(dialogLaunch)->Name("dialog_launch/ours")->Unit(benchmark::kMillisecond);
+
+void bareForm(benchmark::State& state)
+{
+    openSample();
+    for (auto _ : state) {
+        QWidget parent;
+        auto* const dialog = new QDialog(&parent);
+        Ui::CreateCircularZoneDialog form;
+        form.setupUi(dialog);
+        dialog->show();
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(bareForm)->Name("dialog_launch/bound")->Unit(benchmark::kMillisecond);
+
+} // namespace
