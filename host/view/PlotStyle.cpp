@@ -95,7 +95,9 @@ ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataS
     const double last = style.real("Levels/Max");
     const long count = style.integer("Levels/Count");
     for (long i = 0; i < count && (last > first || i == 0); ++i) {
-        group.levels.push_back(count > 1 ? std::lerp(first, last, double(i) / double(count - 1)) : first);
+        const double level = count > 1 ? std::lerp(first, last, double(i) / double(count - 1)) : first;
+        // Rounding must not leave a trace of a level that is meant to be zero.
+        group.levels.push_back(std::abs(level) < 1e-12 * (last - first) ? 0.0 : level);
     }
     return group;
 }

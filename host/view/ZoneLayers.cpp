@@ -120,8 +120,9 @@ void setLighting(vtkProperty* property, const ZoneStyle& style, bool isLit, cons
 {
     property->SetLighting(isLit && context.isThreeD);
     property->SetInterpolation(style.lighting == LightingEffect_Paneled ? VTK_FLAT : VTK_GOURAUD);
-    property->SetAmbient(context.light.background);
-    property->SetDiffuse(context.light.intensity);
+    // Sides turned away from the light keep enough of their colour to be found in the legend.
+    property->SetAmbient(0.25 + 0.75 * context.light.background);
+    property->SetDiffuse(0.8 * context.light.intensity);
     // A highlight at full strength would hide the colour that is to be read.
     property->SetSpecular(context.light.hasHighlights ? 0.25 * context.light.highlight : 0.0);
     property->SetSpecularPower(1.0 + 0.5 * context.light.shininess);
