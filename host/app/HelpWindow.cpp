@@ -1,0 +1,67 @@
+#include "app/HelpWindow.h"
+
+#include "app/HelpDirectory.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QStyle>
+#include <QTextBrowser>
+#include <QToolBar>
+
+namespace vantrix::app {
+
+using namespace Qt::StringLiterals;
+
+HelpWindow::HelpWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , m_browser(new QTextBrowser(this))
+{
+    setObjectName(u"helpWindow"_s);
+    setWindowTitle(tr("Help"));
+    setWindowFlag(Qt::Window);
+    resize(760, 620);
+    m_browser->setObjectName(u"helpBrowser"_s);
+    m_browser->setSearchPaths({helpDirectory()});
+    m_browser->setOpenLinks(true);
+    m_browser->document()->setDocumentMargin(16);
+    setCentralWidget(m_browser);
+
+    QToolBar* bar = addToolBar(tr("Help"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    QAction* back =
+        bar->addAction(style()->standardIcon(QStyle::SP_ArrowBack), tr("&Back"), m_browser, &QTextBrowser::backward);
+    back->setShortcut(QKeySequence::Back);
+    back->setEnabled(false);
+    connect(m_browser, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    QAction* forward = bar->addAction(style()->standardIcon(QStyle::SP_ArrowForward), tr("&Forward"), m_browser,
+                                      &QTextBrowser::forward);
+    forward->setShortcut(QKeySequence::Forward);
+    forward->setEnabled(false);
+    connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+    bar->addAction(style()->standardIcon(QStyle::SP_DirHomeIcon), tr("&Contents"), this,
+                   [this] { showPage(contentsPage()); });
+    connect(m_browser, &QTextBrowser::sourceChanged, this, [this] {
+        const QString title = m_browser->documentTitle();
+        setWindowTitle(title.isEmpty() ? tr("Help") : tr("%1 - Help").arg(title));
+    });
+}
+
+QString HelpWindow::contentsPage()
+{
+    return u"index.html"_s;
+}
+
+bool HelpWindow::showPage(const QString& page)
+{
+    const QString name = page.section(u'#', 0, 0);
+    if (name.isEmpty() || helpDirectory().isEmpty() || !QFileInfo(helpDirectory() + u'/' + name).isFile())
+        return false;
+    m_browser->setSource(QUrl(page));
+    show();
+    raise();
+    activateWindow();
+    return true;
+}
+
+} // namespace vantrix::app

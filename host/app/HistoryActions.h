@@ -1,0 +1,30 @@
+#pragma once
+
+#include "sdk/OnIdleAfterStateChangeActionPerformer.h"
+
+#include <QObject>
+
+class QAction;
+
+namespace vantrix::app {
+
+/* Edit > Undo and Redo, which name the step that they would take. */
+class HistoryActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HistoryActions(QObject* parent);
+
+    QAction* undo() const { return m_undo; }
+    QAction* redo() const { return m_redo; }
+
+private:
+    void update();
+
+    QAction* m_undo;
+    QAction* m_redo;
+    sdk::OnIdleAfterStateChangeActionPerformer m_updater;
+};
+
+} // namespace vantrix::app

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "sdk/OnIdleAfterStateChangeActionPerformer.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace vantrix::kernel {
+class Kernel;
+}
+namespace vantrix::view {
+class WorkArea;
+}
+
+namespace vantrix::app {
+
+class HelpWindow;
+class RecentFiles;
+class StatusLine;
+class WindowFrontEnd;
+
+/*
+ * The window of vxplot: the work area, and around it menus, tool bars, the side bar and the status line. While it lives
+ * it is the kernel's front end.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(kernel::Kernel& kernel);
+    ~MainWindow() override;
+
+    view::WorkArea& workArea() const { return *m_workArea; }
+
+    /* Opens files as one data set. What is wrong with one is shown; what was open then stays. */
+    bool openFiles(const QStringList& files);
+    bool openSample(const QString& name);
+
+    /* The same after asking for the files. */
+    void chooseFiles();
+
+    /* Asks for a file and writes the page to it as an image, or as PDF. */
+    void exportImage();
+    void exportPdf();
+
+    void showHelp(const QString& page);
+    void showAbout();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void exportTo(const QString& title, const QString& filter, const QString& suffix);
+    void restoreLayout();
+    void saveLayout() const;
+    void updateTitle();
+
+    kernel::Kernel& m_kernel;
+    view::WorkArea* m_workArea;
+    StatusLine* m_statusLine;
+    HelpWindow* m_helpWindow;
+    RecentFiles* m_recentFiles;
+    std::unique_ptr<WindowFrontEnd> m_frontEnd;
+    sdk::OnIdleAfterStateChangeActionPerformer m_titleUpdater;
+};
+
+} // namespace vantrix::app

@@ -1,0 +1,81 @@
+#include "app/MouseModeBar.h"
+
+#include "api/VtxUtilFrame.h"
+#include "sdk/AppLock.h"
+
+#include <QActionGroup>
+#include <QIcon>
+
+namespace vantrix::app {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Mode
+{
+    MouseMode_e number;
+    const char* text;
+    const char* hint;
+    const char* icon;
+    Qt::Key shortcut;
+};
+
+const Mode modes[] = {
+    {MouseMode_Selector, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Selector"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Pick frames with the mouse"), "selector", Qt::Key_S},
+    {MouseMode_Zoom, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Zoom"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag a rectangle to enlarge it"), "zoom", Qt::Key_Z},
+    {MouseMode_Translate, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Translate"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag the plot to another place"), "translate", Qt::Key_T},
+    {MouseMode_Rotate, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Rotate"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag to turn a 3D plot"), "rotate", Qt::Key_R},
+};
+
+} // namespace
+
+MouseModeBar::MouseModeBar(QWidget* parent)
+    : QToolBar(tr("Mouse Modes"), parent)
+    , m_modes(new QActionGroup(this))
+    , m_updater([](const toolbox::StateChangeEventInterface&) { return true; }, [this] { update(); })
+{
+    setObjectName(u"mouseModeBar"_s);
+    // None is down while another mode is on: probing, placing texts.
+    m_modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    for (const Mode& mode : modes) {
+        const QIcon icon(u":/vxplot/icons/%1.svg"_s.arg(QLatin1StringView(mode.icon)));
+        QAction* action = addAction(icon, tr(mode.text));
+        action->setObjectName(u"mouseMode_%1"_s.arg(QLatin1StringView(mode.icon)));
+        action->setCheckable(true);
+        action->setData(static_cast<int>(mode.number));
+        action->setShortcut(mode.shortcut);
+        action->setToolTip(tr("%1 (%2)").arg(tr(mode.hint), action->shortcut().toString(QKeySequence::NativeText)));
+        action->setStatusTip(tr(mode.hint));
+        m_modes->addAction(action);
+    }
+    connect(m_modes, &QActionGroup::triggered, this, [this](const QAction* action) {
+        {
+            sdk::AppLock lock;
+            VtxUtilMouseSetMode(static_cast<MouseMode_e>(action->data().toInt()));
+        }
+        update();
+    });
+    update();
+}
+
+QList<QAction*> MouseModeBar::modeActions() const
+{
+    return m_modes->actions();
+}
+
+void MouseModeBar::update()
+{
+    const MouseMode_e current = VtxUtilMouseGetCurrentMode();
+    for (QAction* action : m_modes->actions()) {
+        const auto mode = static_cast<MouseMode_e>(action->data().toInt());
+        action->setEnabled(VtxUtilMouseIsValidMode(mode));
+        action->setChecked(mode == current);
+    }
+}
+
+} // namespace vantrix::app

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+class QIODevice;
+
+namespace vantrix::kernel {
+struct Page;
+}
+namespace vantrix::view {
+class PageRenderer;
+}
+
+namespace vantrix::app {
+
+/* Saves a page as a picture: PDF, or an image format of Qt (PNG, JPEG, ...), as the file's suffix says. */
+class PictureExport
+{
+public:
+    PictureExport(view::PageRenderer& renderer, const kernel::Page& page);
+
+    /* What would keep a picture from being written to a path, in a sentence; empty when nothing would. */
+    static QString problemWith(const QString& path);
+
+    /*
+     * Writes the picture; a file that is there already is replaced only by a whole new one. An image is `size` pixels
+     * large, the paper in its middle as large as fits; without a valid size it is 1600 pixels wide and as high as the
+     * paper asks. PDF has the paper's size. Returns a sentence that names the file and the cause when it failed, else
+     * nothing.
+     */
+    QString write(const QString& path, QSize size = {}) const;
+
+private:
+    QImage image(QSize size) const;
+    void paintPdf(QIODevice& device) const;
+
+    view::PageRenderer& m_renderer;
+    const kernel::Page& m_page;
+};
+
+} // namespace vantrix::app

@@ -1,0 +1,135 @@
+#include "app/SideBar.h"
+
+#include "api/VtxUtil.h"
+#include "app/ZoneListView.h"
+#include "sdk/AppLock.h"
+#include "toolbox/HostString.h"
+#include "toolbox/StyleValue.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace vantrix::app {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/* Most changes: the view, while a plot is turned, is the one that comes often. */
+bool mayConcernPlot(const toolbox::StateChangeEventInterface& event)
+{
+    return event.kind() != StateChange_View && event.kind() != StateChange_MouseMode;
+}
+
+bool isFieldPlot(PlotType_e type)
+{
+    return type == PlotType_Cartesian3D || type == PlotType_Cartesian2D;
+}
+
+struct Layer
+{
+    const char* styleName;
+    const char* text;
+};
+
+const Layer layers[] = {
+    {"ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Mesh")},
+    {"ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Contour")},
+    {"ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&hade")},
+    {"ShowEdge", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ed&ge")},
+};
+
+toolbox::StyleValue layerStyle(const QCheckBox& box)
+{
+    return toolbox::StyleValue("FieldLayers", box.objectName().toLatin1().constData());
+}
+
+} // namespace
+
+SideBar::SideBar(QWidget* parent)
+    : QDockWidget(tr("Plot"), parent)
+    , m_plotType(new QComboBox(this))
+    , m_layers(new QGroupBox(tr("Layers"), this))
+    , m_zones(new QGroupBox(tr("Zones"), this))
+    , m_updater(mayConcernPlot, [this] { update(); })
+{
+    setObjectName(u"sideBar"_s);
+    setUpPlotType();
+    setUpLayers();
+    auto* zonesLayout = new QVBoxLayout(m_zones);
+    zonesLayout->addWidget(new ZoneListView(this));
+
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->addWidget(m_plotType);
+    layout->addWidget(m_layers);
+    layout->addWidget(m_zones, 1);
+    setWidget(content);
+    update();
+}
+
+void SideBar::setUpPlotType()
+{
+    m_plotType->setObjectName(u"plotType"_s);
+    m_plotType->setToolTip(tr("Type of the plot"));
+    m_plotType->addItem(tr("3D Cartesian"), PlotType_Cartesian3D);
+    m_plotType->addItem(tr("2D Cartesian"), PlotType_Cartesian2D);
+    m_plotType->addItem(tr("XY Line"), PlotType_XYLine);
+    m_plotType->addItem(tr("Polar Line"), PlotType_PolarLine);
+    m_plotType->addItem(tr("Sketch"), PlotType_Sketch);
+    connect(m_plotType, &QComboBox::activated, this, &SideBar::setPlotType);
+}
+
+void SideBar::setUpLayers()
+{
+    auto* layout = new QVBoxLayout(m_layers);
+    for (const Layer& layer : layers) {
+        auto* box = new QCheckBox(tr(layer.text), m_layers);
+        box->setObjectName(QLatin1StringView(layer.styleName));
+        layout->addWidget(box);
+        connect(box, &QCheckBox::clicked, this, [this, box](bool isOn) { setLayer(*box, isOn); });
+        m_layerBoxes << box;
+    }
+}
+
+void SideBar::setPlotType()
+{
+    const auto type = static_cast<PlotType_e>(m_plotType->currentData().toInt());
+    if (type == VtxUtilFrameGetPlotType())
+        return;
+    bool isSet = false;
+    {
+        const sdk::AppLock lock;
+        VtxUtilUndoSetStepName("Plot Type");
+        isSet = VtxUtilFrameSetPlotType(type);
+    }
+    if (!isSet)
+        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    update();
+}
+
+void SideBar::setLayer(const QCheckBox& box, bool isOn)
+{
+    const sdk::AppLock lock;
+    VtxUtilUndoSetStepName("Layers");
+    layerStyle(box).setValue(isOn);
+}
+
+void SideBar::update()
+{
+    const PlotType_e type = VtxUtilFrameGetPlotType();
+    m_plotType->setCurrentIndex(m_plotType->findData(type));
+    m_plotType->setEnabled(VtxUtilFrameGetCount() > 0);
+    const bool isField = isFieldPlot(type) && VtxUtilDataSetIsAvailable();
+    m_layers->setEnabled(isField);
+    m_zones->setEnabled(isField);
+    for (QCheckBox* box : std::as_const(m_layerBoxes)) {
+        bool isOn = false;
+        layerStyle(*box).getValue(&isOn);
+        box->setChecked(isOn);
+    }
+}
+
+} // namespace vantrix::app

@@ -1,0 +1,29 @@
+#include "app/StatusLine.h"
+
+#include "app/ProgressBar.h"
+
+#include <QLabel>
+
+namespace vantrix::app {
+
+using namespace Qt::StringLiterals;
+
+StatusLine::StatusLine(QWidget* parent)
+    : QStatusBar(parent)
+    , m_progressBar(new ProgressBar(this))
+    , m_coordinates(new QLabel(this))
+{
+    setObjectName(u"statusLine"_s);
+    m_coordinates->setObjectName(u"coordinates"_s);
+    m_coordinates->setMinimumWidth(fontMetrics().horizontalAdvance(u"X: -0.000000e+00  Y: -0.000000e+00"_s));
+    m_coordinates->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    addPermanentWidget(m_progressBar);
+    addPermanentWidget(m_coordinates);
+}
+
+void StatusLine::setCoordinates(const QString& text)
+{
+    m_coordinates->setText(text);
+}
+
+} // namespace vantrix::app

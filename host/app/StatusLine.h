@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+
+namespace vantrix::app {
+
+class ProgressBar;
+
+/* The line at the bottom of the window: messages, the progress of long work, the place of the pointer. */
+class StatusLine : public QStatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent);
+
+    ProgressBar& progressBar() const { return *m_progressBar; }
+
+    void setCoordinates(const QString& text);
+
+private:
+    ProgressBar* m_progressBar;
+    QLabel* m_coordinates;
+};
+
+} // namespace vantrix::app

@@ -1,0 +1,258 @@
+#include "app/MainWindow.h"
+
+#include "api/VtxUtil.h"
+#include "view/PageRenderer.h"
+#include "view/WorkArea.h"
+
+#include "AppTestSupport.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTextBrowser>
+
+#include <functional>
+
+namespace vantrix::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QString plainText(const QAction& action)
+{
+    return QString(action.text()).remove(u'&');
+}
+
+class MainWindowTest : public AppTest
+{
+protected:
+    MainWindowTest()
+        : window(kernel::Kernel::instance())
+    {
+        window.resize(1000, 700);
+        window.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    }
+
+    /* Opens menus by clicks along a path of titles ("Edit", "Undo") and clicks the last one. */
+    void clickMenu(const QStringList& titles)
+    {
+        QWidget* bar = window.menuBar();
+        for (const QString& title : titles) {
+            QAction* found = nullptr;
+            for (QAction* action : bar->actions()) {
+                if (plainText(*action) == title)
+                    found = action;
+            }
+            ASSERT_NE(found, nullptr) << title.toStdString();
+            ASSERT_TRUE(found->isEnabled()) << title.toStdString();
+            const auto* menu = qobject_cast<QMenu*>(bar);
+            const QRect place = menu != nullptr ? menu->actionGeometry(found) : window.menuBar()->actionGeometry(found);
+            QTest::mouseClick(bar, Qt::LeftButton, {}, place.center());
+            settle();
+            bar = found->menu();
+        }
+    }
+
+    QAction& action(const char* name) const { return *window.findChild<QAction*>(QString::fromLatin1(name)); }
+
+    /* Answers the next message box and gives its text. */
+    static std::string messageOf(const std::function<void()>& work)
+    {
+        std::string text;
+        QTimer answer;
+        QObject::connect(&answer, &QTimer::timeout, [&text] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                EXPECT_EQ(box->windowTitle(), QApplication::applicationDisplayName());
+                text = box->text().toStdString();
+                QTest::keyClick(box, Qt::Key_Return);
+            }
+        });
+        answer.start(20);
+        work();
+        return text;
+    }
+
+    void drop(const QStringList& files)
+    {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& file : files)
+            urls << QUrl::fromLocalFile(file);
+        data.setUrls(urls);
+        const QPoint middle = window.rect().center();
+        QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &event);
+        settle();
+    }
+
+    app::MainWindow window;
+};
+
+TEST_F(MainWindowTest, ACircularZoneIsCreatedUndoneAndRedoneThroughTheMenus)
+{
+    ASSERT_TRUE(window.openSample(u"flow3d"_s));
+    settle();
+    const long zones = VtxUtilDataSetGetNumZones();
+    const QImage before = window.workArea().grab().toImage();
+
+    clickMenu({u"Data"_s, u"Create Zone"_s, u"Circular..."_s});
+    auto* dialog = window.findChild<QDialog*>(u"CreateCircularZoneDialog"_s);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(dialog->isVisible());
+    auto* radius = dialog->findChild<QLineEdit*>(u"createCircularZone_Radius_1Text"_s);
+    radius->setFocus();
+    radius->selectAll();
+    QTest::keyClicks(radius, u"2.5"_s);
+    QTest::keyClick(radius, Qt::Key_Tab);
+    settle();
+    const std::string message = messageOf([dialog] {
+        for (QAbstractButton* button : dialog->findChild<QDialogButtonBox*>()->buttons()) {
+            if (button->text().remove(u'&') == "Create"_L1)
+                QTest::mouseClick(button, Qt::LeftButton);
+        }
+        QTest::qWait(100);
+    });
+    const std::string status = window.statusBar()->currentMessage().toStdString();
+    EXPECT_EQ(message.empty() ? status : message, "Circular zone created.");
+    dialog->close();
+    settle();
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), zones + 1);
+    const QImage created = window.workArea().grab().toImage();
+    EXPECT_NE(created, before);
+
+    EXPECT_EQ(plainText(action("undoAction")), u"Undo Create Circular Zone"_s);
+    clickMenu({u"Edit"_s, u"Undo Create Circular Zone"_s});
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), zones);
+    EXPECT_EQ(window.workArea().grab().toImage(), before);
+
+    clickMenu({u"Edit"_s, u"Redo Create Circular Zone"_s});
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), zones + 1);
+    EXPECT_EQ(window.workArea().grab().toImage(), created);
+    EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
+TEST_F(MainWindowTest, ADroppedFileIsOpenedAndRemembered)
+{
+    drop({write("small.vtk", smallVtkFile())});
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), 1);
+    EXPECT_TRUE(window.windowTitle().contains(u"small.vtk"_s)) << window.windowTitle().toStdString();
+    const auto* recent = window.findChild<QMenu*>(u"recentFilesMenu"_s);
+    EXPECT_TRUE(recent->actions().first()->text().contains(u"small.vtk"_s));
+}
+
+TEST_F(MainWindowTest, ABadFileIsToldAndWhatWasOpenStays)
+{
+    ASSERT_TRUE(window.openSample(u"fe2d"_s));
+    const long dataSet = VtxUtilDataSetGetUniqueID();
+    const QString step = action("undoAction").text();
+    const std::string message = messageOf([this] { window.openFiles({write("bad.vtk", "nothing")}); });
+    EXPECT_NE(message.find("bad.vtk"), std::string::npos) << message;
+    EXPECT_EQ(VtxUtilDataSetGetUniqueID(), dataSet);
+    settle();
+    EXPECT_EQ(VtxUtilLockIsOn(), false);
+}
+
+TEST_F(MainWindowTest, TheSideBarShowsAndSetsPlotTypeAndLayers)
+{
+    auto* plotType = window.findChild<QComboBox*>(u"plotType"_s);
+    auto* mesh = window.findChild<QCheckBox*>(u"ShowMesh"_s);
+    EXPECT_FALSE(mesh->isEnabled());
+    ASSERT_TRUE(window.openSample(u"flow3d"_s));
+    settle();
+    EXPECT_EQ(plotType->currentText(), u"3D Cartesian"_s);
+    ASSERT_TRUE(mesh->isEnabled());
+
+    const QImage before = window.workArea().grab().toImage();
+    const bool wasOn = mesh->isChecked();
+    QTest::mouseClick(mesh, Qt::LeftButton, {}, QPoint(8, mesh->height() / 2));
+    settle();
+    EXPECT_NE(mesh->isChecked(), wasOn);
+    EXPECT_NE(window.workArea().grab().toImage(), before);
+    VtxUtilUndo();
+    settle();
+    EXPECT_EQ(mesh->isChecked(), wasOn);
+    EXPECT_EQ(window.workArea().grab().toImage(), before);
+
+    plotType->setFocus();
+    QTest::keyClick(plotType, Qt::Key_Down);
+    settle();
+    EXPECT_EQ(VtxUtilFrameGetPlotType(), PlotType_Cartesian2D);
+    EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
+TEST_F(MainWindowTest, MouseModesFollowThePlot)
+{
+    EXPECT_FALSE(action("mouseMode_rotate").isEnabled());
+    ASSERT_TRUE(window.openSample(u"flow3d"_s));
+    settle();
+    EXPECT_TRUE(action("mouseMode_rotate").isEnabled());
+    action("mouseMode_rotate").trigger();
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Rotate);
+    EXPECT_TRUE(action("mouseMode_rotate").isChecked());
+    action("mouseMode_rotate").trigger();
+    EXPECT_TRUE(action("mouseMode_rotate").isChecked());
+    EXPECT_FALSE(action("mouseMode_zoom").isChecked());
+}
+
+TEST_F(MainWindowTest, HelpOpensItsPages)
+{
+    clickMenu({u"Help"_s, u"Contents"_s});
+    auto* browser = window.findChild<QTextBrowser*>(u"helpBrowser"_s);
+    ASSERT_TRUE(browser->isVisible());
+    EXPECT_TRUE(browser->toPlainText().contains(u"vxplot"_s));
+    EXPECT_TRUE(VtxUtilHelpLaunch("create_zone_circular.html"));
+    EXPECT_TRUE(browser->toPlainText().contains(u"Circumferential"_s));
+    EXPECT_FALSE(VtxUtilHelpLaunch("no_such_page.html"));
+    browser->backward();
+    EXPECT_FALSE(browser->toPlainText().contains(u"Circumferential"_s));
+}
+
+TEST_F(MainWindowTest, LongWorkIsShownAndCancelled)
+{
+    kernel::FrontEnd& frontEnd = kernel::Kernel::instance().frontEnd();
+    auto* button = window.findChild<QPushButton*>(u"progressCancelButton"_s);
+    const auto work = [&](const std::function<void()>& whenShown) {
+        QElapsedTimer timer;
+        timer.start();
+        bool isTold = false;
+        while (timer.elapsed() < 10000) {
+            if (!frontEnd.reportProgress("Reading", static_cast<double>(timer.elapsed()) / 10000))
+                return true;
+            if (button->isVisible() && !isTold) {
+                isTold = true;
+                whenShown();
+            }
+        }
+        frontEnd.reportProgress("Reading", 2);
+        return false;
+    };
+    EXPECT_TRUE(work([button] { QTest::mouseClick(button, Qt::LeftButton); }));
+    QTest::qWait(200);
+    EXPECT_FALSE(button->isVisible());
+    EXPECT_TRUE(work([this] { QTest::keyClick(&window, Qt::Key_Escape); }));
+    QTest::qWait(200);
+
+    // What is behind the work takes no input while it lasts.
+    EXPECT_TRUE(work([this] {
+        QTest::keyClick(&window, Qt::Key_Z);
+        EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Selector);
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }));
+    QTest::qWait(200);
+    QTest::keyClick(&window, Qt::Key_Z);
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Zoom);
+}
+
+} // namespace
+} // namespace vantrix::test
