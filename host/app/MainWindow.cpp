@@ -77,8 +77,7 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     addToolBar(mouseModes);
 
     connect(m_workArea, &view::WorkArea::coordinatesChanged, m_statusLine, &StatusLine::setCoordinates);
-    connect(m_workArea, &view::WorkArea::statusMessage, m_statusLine,
-            [this](const QString& text) { m_statusLine->showMessage(text); });
+    connect(m_workArea, &view::WorkArea::statusMessage, m_statusLine, &StatusLine::setText);
     connect(m_recentFiles, &RecentFiles::chosen, this, &MainWindow::openFiles);
     m_kernel.setFrontEnd(m_frontEnd.get());
     restoreLayout();
@@ -145,7 +144,7 @@ void MainWindow::exportTo(const QString& title, const QString& filter, const QSt
         return;
     }
     QSettings().setValue(exportFolderKey, QFileInfo(path).absolutePath());
-    m_statusLine->showMessage(tr("Wrote \"%1\".").arg(path));
+    m_statusLine->setText(tr("Wrote \"%1\".").arg(path));
 }
 
 void MainWindow::showHelp(const QString& page)

@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent)
+    , m_text(new QLabel(this))
     , m_progressBar(new ProgressBar(this))
     , m_coordinates(new QLabel(this))
 {
@@ -17,8 +18,19 @@ StatusLine::StatusLine(QWidget* parent)
     m_coordinates->setObjectName(u"coordinates"_s);
     m_coordinates->setMinimumWidth(fontMetrics().horizontalAdvance(u"X: -0.000000e+00  Y: -0.000000e+00"_s));
     m_coordinates->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_text->setObjectName(u"statusText"_s);
+    m_text->setTextFormat(Qt::PlainText);
+    // A long text is cut off rather than making the window wider.
+    m_text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWidget(m_text, 1);
     addPermanentWidget(m_progressBar);
     addPermanentWidget(m_coordinates);
+}
+
+void StatusLine::setText(const QString& text)
+{
+    m_text->setText(text);
+    m_text->setToolTip(text);
 }
 
 void StatusLine::setCoordinates(const QString& text)

@@ -18,9 +18,13 @@ public:
 
     ProgressBar& progressBar() const { return *m_progressBar; }
 
+    /* Stays until the next text; hints of menus only cover it for as long as they are shown. */
+    void setText(const QString& text);
+
     void setCoordinates(const QString& text);
 
 private:
+    QLabel* m_text;
     ProgressBar* m_progressBar;
     QLabel* m_coordinates;
 };

@@ -67,7 +67,7 @@ bool WindowFrontEnd::showMessage(const std::string& text, MessageBox_e type)
 
 void WindowFrontEnd::showStatus(const std::string& text)
 {
-    m_parts.statusLine.showMessage(QString::fromStdString(text));
+    m_parts.statusLine.setText(QString::fromStdString(text));
 }
 
 void WindowFrontEnd::setBusy(bool busy)

@@ -10,12 +10,13 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QStatusBar>
+
 #include <QTextBrowser>
 
 #include <functional>
@@ -123,7 +124,7 @@ TEST_F(MainWindowTest, ACircularZoneIsCreatedUndoneAndRedoneThroughTheMenus)
         }
         QTest::qWait(100);
     });
-    const std::string status = window.statusBar()->currentMessage().toStdString();
+    const std::string status = window.findChild<QLabel*>(u"statusText"_s)->text().toStdString();
     EXPECT_EQ(message.empty() ? status : message, "Circular zone created.");
     dialog->close();
     settle();
