@@ -138,6 +138,9 @@ void expectWholeStl(const std::string& file)
     }
     std::uint32_t count = 0;
     std::memcpy(&count, header.data() + headerSize - sizeof count, sizeof count);
+    if (count == 0) {
+        throw DataError("it is neither STL text nor binary STL with triangles");
+    }
     const std::uintmax_t there = (std::filesystem::file_size(file) - headerSize) / triangleSize;
     if (there < count) {
         throw DataError("it ends after " + std::to_string(there) + " of " + std::to_string(count) + " triangles");
