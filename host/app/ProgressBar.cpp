@@ -112,8 +112,12 @@ void ProgressBar::finish()
 
 bool ProgressBar::eventFilter(QObject* watched, QEvent* event)
 {
-    // Only widgets: the same input reaches their window first, and is passed on from there.
-    if (!watched->isWidgetType() || !isInput(event->type()))
+    if (!isInput(event->type()))
+        return false;
+    // Shortcuts go straight to their actions. All other input reaches a window first, which hands it to its widgets.
+    if (event->type() == QEvent::Shortcut)
+        return true;
+    if (!watched->isWidgetType())
         return false;
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         m_isCancelled = true;

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "api/VtxUtil.h"
+#include "kernel/FrontEnd.h"
 #include "view/PageRenderer.h"
 #include "view/WorkArea.h"
 
@@ -40,6 +41,8 @@ protected:
         window.resize(1000, 700);
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+        // Without a window manager nobody else makes it the active one, which shortcuts go to.
+        QApplication::setActiveWindow(&window);
     }
 
     /* Opens menus by clicks along a path of titles ("Edit", "Undo") and clicks the last one. */
