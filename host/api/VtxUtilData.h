@@ -30,6 +30,12 @@ bool VtxUtilVarGetName(long variable, char** name);
 VtxSetHandle VtxUtilZoneGetEnabled(void);
 VtxSetHandle VtxUtilVarGetEnabled(void);
 
+/* How many line maps the active frame has; 0 without a frame. Line maps are numbered from 1 to the count. */
+long VtxUtilLineMapGetCount(void);
+
+/* The name of a line map of the active frame; false when there is no such number. */
+bool VtxUtilLineMapGetName(long lineMap, char** name);
+
 /*
  * The dimensions of a zone: of an ordered one I, J and K points (at least 1 each); of a finite-element one points,
  * cells and corners a cell (0 for polygons and polyhedra). Any pointer may be null. An unknown zone gives zeros.

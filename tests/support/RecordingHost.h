@@ -69,6 +69,12 @@ public:
     std::map<long, std::pair<double, double>> extents;
     std::map<long, std::tuple<long, long, long>> zoneDimensions;
     std::set<long> enabledZones;
+    std::set<long> enabledVariables;
+    std::map<long, std::string> zoneNames;
+    std::map<long, std::string> variableNames;
+    std::vector<std::string> lineMapNames;
+    /// How often the name of a zone, variable or line map was asked for.
+    int nameReads = 0;
 
     /// Calls of VtxUtilCreate...Zone(), whether the lock was held, and what the next answers. `onCreateZone` plays what
     /// the host does meanwhile.

@@ -46,6 +46,17 @@ RecordingHost::Change const& changeOf(VtxStateChangeHandle change)
     return *reinterpret_cast<RecordingHost::Change const*>(change);
 }
 
+bool giveName(std::map<long, std::string> const& names, long number, char** name)
+{
+    ++host().nameReads;
+    auto const found = names.find(number);
+    if (found == names.end()) {
+        return false;
+    }
+    *name = copyOf(found->second);
+    return true;
+}
+
 std::optional<RecordingHost::Value> valueToWrite(VtxArgList const& arguments, RecordingHost::Value const& present)
 {
     if (std::holds_alternative<double>(present)) {
@@ -305,6 +316,28 @@ bool VtxUtilVarGetMinMax(long variable, double* minimum, double* maximum)
 VtxSetHandle VtxUtilZoneGetEnabled(void)
 {
     return new VtxSet{host().enabledZones};
+}
+VtxSetHandle VtxUtilVarGetEnabled(void)
+{
+    return new VtxSet{host().enabledVariables};
+}
+bool VtxUtilZoneGetName(long zone, char** name)
+{
+    return giveName(host().zoneNames, zone, name);
+}
+bool VtxUtilVarGetName(long variable, char** name)
+{
+    return giveName(host().variableNames, variable, name);
+}
+long VtxUtilLineMapGetCount(void)
+{
+    return static_cast<long>(host().lineMapNames.size());
+}
+bool VtxUtilLineMapGetName(long lineMap, char** name)
+{
+    ++host().nameReads;
+    *name = copyOf(host().lineMapNames.at(static_cast<std::size_t>(lineMap - 1)));
+    return true;
 }
 void VtxUtilZoneGetIJK(long zone, long* iMax, long* jMax, long* kMax)
 {

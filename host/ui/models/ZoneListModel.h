@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ui/models/HostListModelAbstract.h"
+
+namespace vantrix::sdk::ui::dialogs::propertybindings::models {
+
+/// The zones of the active frame that take part (are enabled).
+class ZoneListModel : public HostListModelAbstract
+{
+protected:
+    std::vector<int> readNumbers() const override;
+    std::string nameOf(int number) const override;
+    bool isConcernedBy(int stateChangeKind) const override;
+};
+
+} // namespace vantrix::sdk::ui::dialogs::propertybindings::models

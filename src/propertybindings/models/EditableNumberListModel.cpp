@@ -1,0 +1,62 @@
+#include "propertybindings/models/EditableNumberListModel.h"
+
+#include <QString>
+
+#include <locale>
+#include <optional>
+#include <sstream>
+
+namespace vantrix::sdk::ui::dialogs::propertybindings::models {
+
+namespace {
+
+std::string numberText(double number)
+{
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << number;
+    return stream.str();
+}
+
+} // namespace
+
+EditableNumberListModel::EditableNumberListModel(Rows rows, double minimum, double maximum, std::string noun)
+    : PremappedListModel<double>(std::move(rows))
+    , m_minimum(minimum)
+    , m_maximum(maximum)
+    , m_noun(std::move(noun))
+{}
+
+std::string EditableNumberListModel::getStrForEdit(int row) const
+{
+    return numberText(get(row));
+}
+
+bool EditableNumberListModel::setEditedItem(std::string const& text, int /*row*/) const
+{
+    QString const typed = QString::fromStdString(text).trimmed();
+    std::optional<double> value;
+    for (int row = 0; row < size() && !value; ++row) {
+        if (typed.compare(QString::fromStdString(getStr(row)), Qt::CaseInsensitive) == 0) {
+            value = get(row);
+        }
+    }
+    if (!value) {
+        bool isNumber = false;
+        double const number = typed.toDouble(&isNumber); // QString reads in the C locale
+        // Written so that NaN fails.
+        if (!isNumber || !(number >= m_minimum && number <= m_maximum)) {
+            return false;
+        }
+        value = number;
+    }
+    m_valueEntered(*value);
+    return true;
+}
+
+std::string EditableNumberListModel::expectedText() const
+{
+    return m_noun + " from " + numberText(m_minimum) + " to " + numberText(m_maximum);
+}
+
+} // namespace vantrix::sdk::ui::dialogs::propertybindings::models
