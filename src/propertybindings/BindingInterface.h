@@ -18,7 +18,7 @@ public:
     enum ModelUpdateMode
     {
         UpdateAlways = 0,  ///< as it happens
-        DeferWhileBusy = 1 ///< held back while the host is busy
+        DeferWhileBusy = 1 ///< the current row stays while the user has the popup open
     };
 
     BindingInterface() = default;

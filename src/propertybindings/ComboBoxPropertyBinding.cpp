@@ -1,0 +1,184 @@
+#include "propertybindings/ComboBoxPropertyBinding.h"
+
+#include "propertybindings/LineEditPropertyBindingAbstract.h"
+#include "propertybindings/models/EditedValueSource.h"
+#include "sdk/AppLock.h"
+
+#include <QLineEdit>
+#include <QListView>
+
+#include <limits>
+#include <locale>
+#include <optional>
+#include <sstream>
+#include <type_traits>
+
+namespace vantrix::sdk::ui::dialogs::propertybindings {
+
+namespace {
+
+/// From this length on a combo box is not made as wide as its widest row: that would ask for every row's text.
+constexpr int LONG_LIST = 1000;
+constexpr int WIDTH_WITH_LONG_LIST = 24;
+
+template<typename T>
+QString textOfValue(T const& value)
+{
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << value;
+    return QString::fromStdString(stream.str());
+}
+
+} // namespace
+
+template<typename T>
+ComboBoxPropertyBinding<T>::ComboBoxPropertyBinding(QComboBox& comboBox,
+                                                    boost::shared_ptr<PropertyAbstract<T>> property,
+                                                    boost::shared_ptr<models::ListModelInterface<T> const> model,
+                                                    ModelUpdateMode mode)
+    : UIPropertyBindingAbstract<T>(std::move(property), BindingInterface::OnIdle)
+    , m_comboBox(&comboBox)
+    , m_modelOwner(std::move(model))
+    , m_model(*m_modelOwner)
+{
+    init(mode);
+}
+
+template<typename T>
+ComboBoxPropertyBinding<T>::ComboBoxPropertyBinding(QComboBox& comboBox,
+                                                    propertymanager::UIStylePropertyAbstract<T>& property,
+                                                    models::ListModelInterface<T> const& model, ModelUpdateMode mode)
+    : UIPropertyBindingAbstract<T>(property, BindingInterface::OnIdle)
+    , m_comboBox(&comboBox)
+    , m_model(model)
+{
+    init(mode);
+}
+
+template<typename T>
+ComboBoxPropertyBinding<T>::~ComboBoxPropertyBinding() = default;
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::installValidator()
+{
+    // A list of doubles may name its rows and judges typed texts itself.
+    if (!m_comboBox->lineEdit() || std::is_floating_point_v<T>) {
+        return;
+    }
+    LineEditPropertyBindingAbstract<int>::ValidationInstaller::install(*m_comboBox->lineEdit());
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::init(ModelUpdateMode mode)
+{
+    installValidator();
+    if (mode == BindingInterface::DeferWhileBusy) {
+        m_deferrer = std::make_unique<WidgetUpdateDeferrerOnBusy>(*m_comboBox, [this] { this->updateValueOnIdle(); });
+    }
+    m_comboBox->setInsertPolicy(QComboBox::NoInsert);
+    if (m_comboBox->isEditable()) {
+        // It would turn a typed 1 into the 1.5 of a row.
+        m_comboBox->setCompleter(nullptr);
+    }
+
+    auto const update = [this](auto...) { this->updateValueOnIdle(); };
+    m_modelConnections.add(m_model.connectToDataChangedSignal(update));
+    m_modelConnections.add(m_model.connectToItemChangedSignal(update));
+    m_modelConnections.add(m_model.connectToItemsInsertedSignal(update));
+    m_modelConnections.add(m_model.connectToItemsRemovedSignal(update));
+
+    if (auto* list = qobject_cast<QListView*>(m_comboBox->view())) {
+        list->setUniformItemSizes(true);
+    }
+    if (m_model.size() >= LONG_LIST) {
+        m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        m_comboBox->setMinimumContentsLength(WIDTH_WITH_LONG_LIST);
+    }
+    m_listModel = std::make_unique<models::QListModel<T>>(m_model);
+    m_comboBox->setModel(m_listModel.get());
+
+    m_observable = std::make_unique<qwidgetobservable::QComboBoxObservable>(*m_comboBox);
+    m_observable->addListener(m_listener);
+    this->initWidget();
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::updateWidget()
+{
+    if (!m_comboBox || (m_deferrer && m_deferrer->defer())) {
+        return;
+    }
+    T const value = this->property().value();
+    int const row = m_model.indexOf(value);
+    if (row >= 0) {
+        m_comboBox->setCurrentIndex(row);
+        if (m_comboBox->isEditable()) {
+            // A text typed over the current row does not go away by making that row current.
+            m_comboBox->setEditText(m_comboBox->itemData(row, Qt::EditRole).toString());
+        }
+    } else if (m_comboBox->isEditable()) {
+        m_comboBox->setEditText(textOfValue(value));
+    } else if (m_model.size() > 0) {
+        m_comboBox->setCurrentIndex(0);
+    }
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::takeEditedText()
+{
+    QString const text = m_comboBox->currentText();
+    if (text == textOfValue(this->property().value())) {
+        return;
+    }
+    std::optional<T> value;
+    boost::signals2::scoped_connection connection;
+    if (auto const* source = dynamic_cast<models::EditedValueSource<T> const*>(&m_model)) {
+        // Connected for this edit only: a model may serve several combo boxes.
+        connection = source->connectToValueEnteredSignal([&value](T const& entered) { value = entered; });
+    }
+    QModelIndex const edited = m_listModel->index(std::max(m_comboBox->currentIndex(), 0));
+    if (!m_listModel->setData(edited, text)) {
+        refuseEditedText(text);
+    } else if (value && !this->setProperty(*value)) {
+        this->updateWidget();
+        returnToRefusedEdit(*m_comboBox);
+    } else {
+        this->updateWidget();
+    }
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::refuseEditedText(QString const& text)
+{
+    this->updateWidget();
+    if (auto const* source = dynamic_cast<models::EditedValueSource<T> const*>(&m_model)) {
+        showRefusal(InvalidPropertyValueException("\"" + text.toStdString() + "\" cannot be used here. Please enter " +
+                                                  source->expectedText() + "."));
+        returnToRefusedEdit(*m_comboBox);
+    }
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::QComboBoxListener::currentIndexChanged(
+    int row, qwidgetobservable::QComboBoxObservable& /*comboBox*/)
+{
+    if (row < 0) {
+        return;
+    }
+    AppLock const lock(false);
+    m_binding.property().setValue(m_binding.m_model.get(row));
+}
+
+template<typename T>
+void ComboBoxPropertyBinding<T>::QComboBoxListener::textEdited(qwidgetobservable::QComboBoxObservable& /*comboBox*/)
+{
+    AppLock const lock(false);
+    m_binding.takeEditedText();
+}
+
+#define VX_INSTANTIATE_COMBOBOX_BINDING(Type) template class ComboBoxPropertyBinding<Type>;
+VX_FOR_EACH_LISTED_TYPE(VX_INSTANTIATE_COMBOBOX_BINDING)
+#undef VX_INSTANTIATE_COMBOBOX_BINDING
+
+} // namespace vantrix::sdk::ui::dialogs::propertybindings
