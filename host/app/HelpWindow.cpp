@@ -12,6 +12,17 @@ namespace vantrix::app {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/* The style sheet of the pages; the browser does not follow their links to it. */
+QString pageStyle()
+{
+    QFile file(helpDirectory() + u"/help.css"_s);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+} // namespace
+
 HelpWindow::HelpWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_browser(new QTextBrowser(this))
@@ -21,9 +32,9 @@ HelpWindow::HelpWindow(QWidget* parent)
     setWindowFlag(Qt::Window);
     resize(760, 620);
     m_browser->setObjectName(u"helpBrowser"_s);
-    m_browser->setSearchPaths({helpDirectory()});
     m_browser->setOpenLinks(true);
     m_browser->document()->setDocumentMargin(16);
+    m_browser->document()->setDefaultStyleSheet(pageStyle());
     setCentralWidget(m_browser);
 
     QToolBar* bar = addToolBar(tr("Help"));
@@ -55,9 +66,10 @@ QString HelpWindow::contentsPage()
 bool HelpWindow::showPage(const QString& page)
 {
     const QString name = page.section(u'#', 0, 0);
-    if (name.isEmpty() || helpDirectory().isEmpty() || !QFileInfo(helpDirectory() + u'/' + name).isFile())
+    const QFileInfo file(helpDirectory() + u'/' + name);
+    if (name.isEmpty() || helpDirectory().isEmpty() || !file.isFile())
         return false;
-    m_browser->setSource(QUrl(page));
+    m_browser->setSource(QUrl::fromLocalFile(file.absoluteFilePath()).resolved(QUrl(page)));
     show();
     raise();
     activateWindow();
