@@ -97,6 +97,12 @@ QColor PageRenderer::paperColor(const kernel::Page& page) const
     return PaperStyle::read(m_impl->kernel.style(), page.id).color;
 }
 
+QColor PageRenderer::printedPaperColor(const kernel::Page& page) const
+{
+    const PaperStyle paper = PaperStyle::read(m_impl->kernel.style(), page.id);
+    return paper.isFilledInPrint ? paper.color : QColor(Qt::white);
+}
+
 QRectF PageRenderer::frameRect(const kernel::Frame& frame) const
 {
     return readFrameRect(m_impl->kernel.style(), frame.id());
@@ -104,7 +110,7 @@ QRectF PageRenderer::frameRect(const kernel::Frame& frame) const
 
 void PageRenderer::paintPage(QPainter& painter, const kernel::Page& page, double inch)
 {
-    painter.fillRect(QRectF(QPointF(), paperSize(page) * inch), paperColor(page));
+    painter.fillRect(QRectF(QPointF(), paperSize(page) * inch), printedPaperColor(page));
     paintFrames(painter, page, inch);
 }
 

@@ -42,6 +42,9 @@ public:
     bool isPaperShown(const kernel::Page& page) const;
     QColor paperColor(const kernel::Page& page) const;
 
+    /* The paper's colour in pictures and documents: white unless the page wants its fill colour there too. */
+    QColor printedPaperColor(const kernel::Page& page) const;
+
     QRectF frameRect(const kernel::Frame& frame) const;
 
     /*

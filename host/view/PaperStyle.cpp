@@ -9,9 +9,18 @@ namespace vantrix::view {
 PaperStyle PaperStyle::read(const kernel::StyleStore& store, long pageId)
 {
     const kernel::PaperDimensions size = kernel::paperDimensions(store, pageId);
+    const auto flag = [&](const char* path) { return store.flag(pageId, store.entry(path)); };
+    const auto spacing = [&](const char* path) {
+        return static_cast<PaperUnitSpacing_e>(store.integer(pageId, store.entry(path)));
+    };
     return {{size.width, size.height},
-            store.flag(pageId, store.entry("Paper/ShowPaper")),
-            indexedColor(store.integer(pageId, store.entry("Paper/BackgroundColor")))};
+            flag("Paper/ShowPaper"),
+            indexedColor(store.integer(pageId, store.entry("Paper/BackgroundColor"))),
+            !flag("Paper/IsTransparent"),
+            flag("Paper/ShowRuler"),
+            flag("Paper/ShowGrid"),
+            spacing("Paper/RulerSpacing"),
+            spacing("Paper/PaperGridSpacing")};
 }
 
 QRectF readFrameRect(const kernel::StyleStore& store, long frameId)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "api/VtxEnumerations.h"
+
 #include <QColor>
 #include <QRectF>
 #include <QSizeF>
@@ -16,6 +18,11 @@ struct PaperStyle
     QSizeF size; /* inches, in its orientation */
     bool isShown = true;
     QColor color = Qt::white;
+    bool isFilledInPrint = false; /* pictures and documents have the colour too; else they are white */
+    bool hasRuler = true;
+    bool hasGrid = true;
+    PaperUnitSpacing_e rulerSpacing = PaperUnitSpacing_OneInch;
+    PaperUnitSpacing_e gridSpacing = PaperUnitSpacing_HalfInch;
 
     static PaperStyle read(const kernel::StyleStore& store, long pageId);
 };

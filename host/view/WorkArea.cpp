@@ -8,6 +8,9 @@
 #include "view/Coordinates.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
+#include "view/PaperGrid.h"
+#include "view/PaperRuler.h"
+#include "view/PaperStyle.h"
 #include "view/ViewEditor.h"
 
 #include <QApplication>
@@ -61,6 +64,7 @@ struct WorkArea::Impl
 
     kernel::Page* page() const { return kernel.document().activePage(); }
     kernel::Frame* frame() const { return kernel.document().activeFrame(); }
+    PaperStyle paperStyle(const kernel::Page& page) const { return PaperStyle::read(kernel.style(), page.id); }
     const FramePlot* activePlot() const { return frame() ? renderer.plot(frame()->id()) : nullptr; }
 
     /* A place in the widget as one in the active frame, in inches from its corner. */
@@ -118,10 +122,12 @@ void WorkArea::fitPaper()
     }
     const QSizeF paper = m_impl->renderer.paperSize(*page);
     const double margin = 12.0;
-    m_impl->inch =
-        std::max(5.0, std::min((width() - 2.0 * margin) / paper.width(), (height() - 2.0 * margin) / paper.height()));
-    m_impl->origin =
-        QPointF(0.5 * (width() - paper.width() * m_impl->inch), 0.5 * (height() - paper.height() * m_impl->inch));
+    const double ruler = m_impl->paperStyle(*page).hasRuler ? PaperRuler::thickness : 0.0;
+    const QSizeF area(width() - ruler, height() - ruler);
+    m_impl->inch = std::max(
+        5.0, std::min((area.width() - 2.0 * margin) / paper.width(), (area.height() - 2.0 * margin) / paper.height()));
+    m_impl->origin = QPointF(ruler + 0.5 * (area.width() - paper.width() * m_impl->inch),
+                             ruler + 0.5 * (area.height() - paper.height() * m_impl->inch));
     update();
 }
 
@@ -320,10 +326,14 @@ void WorkArea::paintEvent(QPaintEvent* /*event*/)
     const double inch = m_impl->inch;
     painter.save();
     painter.translate(m_impl->origin);
-    if (renderer.isPaperShown(*page)) {
-        const QRectF paper(QPointF(), renderer.paperSize(*page) * inch);
+    const PaperStyle style = m_impl->paperStyle(*page);
+    if (style.isShown) {
+        const QRectF paper(QPointF(), style.size * inch);
         painter.fillRect(paper.translated(3.0, 3.0), QColor(0, 0, 0, 45));
-        painter.fillRect(paper, renderer.paperColor(*page));
+        painter.fillRect(paper, style.color);
+        if (style.hasGrid) {
+            PaperGrid(style.gridSpacing).paint(painter, paper, inch);
+        }
     }
     renderer.paintFrames(painter, *page, inch);
     if (m_impl->frame() && page->frames.size() > 1) {
@@ -338,6 +348,9 @@ void WorkArea::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(QPen(activeColor, 1.0, Qt::DashLine));
         painter.setBrush(QColor(activeColor.red(), activeColor.green(), activeColor.blue(), 30));
         painter.drawRect(band);
+    }
+    if (style.hasRuler) {
+        PaperRuler(style.rulerSpacing).paint(painter, rect(), m_impl->origin, inch);
     }
 }
 
