@@ -1,6 +1,11 @@
 #include "dialogs/DialogRegistry.h"
 
 #include "api/VtxUtil.h"
+#include "dialogs/frame/FrameEditDialog.h"
+#include "dialogs/frame/OptionsRulerGridDialog.h"
+#include "dialogs/frame/PaperSetupDialog.h"
+#include "dialogs/frame/PerformanceDialog.h"
+#include "dialogs/frame/PrintRenderOptsDialog.h"
 #include "dialogs/zone/CreateCircularZoneDialog.h"
 #include "dialogs/zone/CreateRectangularZoneDialog.h"
 #include "property/ExceptionBase.h"
@@ -48,8 +53,13 @@ DialogEntry entry(char const* menuPath, char const* name)
 std::vector<DialogEntry> const& dialogRegistry()
 {
     static std::vector<DialogEntry> const entries = {
+        entry<PaperSetupDialog>("&File/Paper &Setup...", "paper_setup"),
+        entry<PrintRenderOptsDialog>("&File/Print Render O&ptions...", "print_render_options"),
         entry<CreateCircularZoneDialog>("&Data/&Create Zone/&Circular...", "create_zone_circular"),
         entry<CreateRectangularZoneDialog>("&Data/&Create Zone/&Rectangular...", "create_zone_rectangular"),
+        entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit"),
+        entry<OptionsRulerGridDialog>("&Options/&Ruler and Grid...", "options_ruler_grid"),
+        entry<PerformanceDialog>("&Options/&Performance...", "performance"),
     };
     return entries;
 }

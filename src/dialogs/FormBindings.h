@@ -1,0 +1,83 @@
+#pragma once
+
+#include "propertybindings/ComboBoxPropertyBinding.h"
+#include "propertybindings/RadioButtonPropertyBinding.h"
+#include "propertybindings/TextFieldPropertyBinding.h"
+#include "ui/CheckButtonPropertyBinding.h"
+#include "ui/ColorButtonPropertyBinding.h"
+#include "ui/RelevanceApplier.h"
+#include "ui/WidgetPropertyBinding.h"
+
+#include <boost/ptr_container/ptr_vector.hpp>
+
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+namespace vantrix::sdk::ui::dialogs {
+
+/// The bindings and relevances of one form, made in the way that is usual for dialogs: every widget follows on the next
+/// idle turn, a text field shows the end of its text, and a control that is not relevant is disabled. Lives as long as
+/// the dialog.
+class FormBindings
+{
+public:
+    template<typename T>
+    using Shared = boost::shared_ptr<PropertyAbstract<T>>;
+    using Relevance = boost::shared_ptr<propertymanager::RelevanceInterface const>;
+
+    template<typename T>
+    void bindField(QLineEdit* field, Shared<T> const& property)
+    {
+        using Binding = propertybindings::TextFieldPropertyBinding<T>;
+        m_bindings.push_back(new Binding(field, property, BindingInterface::OnIdle, Binding::CursorAtEnd));
+    }
+
+    void bindCheck(QAbstractButton* button, Shared<bool> const& property)
+    {
+        using Binding = propertybindings::CheckButtonPropertyBinding;
+        m_bindings.push_back(new Binding(button, property, BindingInterface::OnIdle));
+    }
+
+    /// One button of a group and the value that it stands for.
+    template<typename T>
+    void bindChoice(QAbstractButton* button, Shared<T> const& property, std::type_identity_t<T> value)
+    {
+        m_bindings.push_back(new propertybindings::RadioButtonPropertyBinding<T>(button, property, value));
+    }
+
+    template<typename T, typename Model>
+    void bindList(QComboBox* box, Shared<T> const& property, boost::shared_ptr<Model> const& model)
+    {
+        using Binding = propertybindings::ComboBoxPropertyBinding<T>;
+        m_bindings.push_back(new Binding(*box, property, model, BindingInterface::UpdateAlways));
+    }
+
+    template<typename Property>
+    void bindColor(common::ColorButton* button, Property&& property)
+    {
+        using Binding = propertybindings::ColorButtonPropertyBinding;
+        m_bindings.push_back(new Binding(button, std::forward<Property>(property), BindingInterface::OnIdle));
+    }
+
+    /// Lets a label follow the sensitivity of the property that it names.
+    void bindLabel(QLabel* label, propertymanager::UIPropertyInterface& property)
+    {
+        m_bindings.push_back(new propertybindings::WidgetPropertyBinding(label, property));
+    }
+
+    /// Disables the controls while the relevance does not hold.
+    void apply(Relevance const& relevance, std::vector<QObject*> const& controls)
+    {
+        m_appliers.push_back(std::make_unique<propertybindings::RelevanceApplier>(
+            relevance, controls, propertybindings::RelevanceApplier::Sensitivity, BindingInterface::OnIdle));
+    }
+
+private:
+    using BindingInterface = propertybindings::BindingInterface;
+
+    boost::ptr_vector<BindingInterface> m_bindings;
+    std::vector<std::unique_ptr<propertybindings::RelevanceApplier>> m_appliers;
+};
+
+} // namespace vantrix::sdk::ui::dialogs

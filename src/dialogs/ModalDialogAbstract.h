@@ -1,0 +1,42 @@
+#pragma once
+
+#include "ui/QtDialogAbstract.h"
+
+namespace vantrix::sdk::ui::dialogs {
+
+namespace propertybindings {
+class ButtonBinding;
+}
+
+/// Base of the dialogs whose edits wait for OK. Opening one takes the host's present values; OK submits and closes when
+/// that succeeds; Cancel drops the edits. The rest of the application cannot be used meanwhile.
+class ModalDialogAbstract : public vantrix::dialogs::common::QtDialogAbstract
+{
+    Q_OBJECT
+
+public:
+    ~ModalDialogAbstract() override;
+
+    void launch() override;
+
+public Q_SLOTS:
+    /// What OK does, unless an edit was refused on the way to it.
+    void accept() override;
+
+protected:
+    ModalDialogAbstract(QWidget& parent, Relevance relevance);
+
+    /// Lets the OK button of the form accept. To be called once the form is there.
+    void setOkButton(QAbstractButton* button);
+
+    /// Takes the host's present values.
+    virtual void init() = 0;
+
+    /// Applies the edits. False, after the user was told why, when nothing was applied.
+    virtual bool submit() = 0;
+
+private:
+    std::unique_ptr<propertybindings::ButtonBinding> m_okBinding;
+};
+
+} // namespace vantrix::sdk::ui::dialogs

@@ -1,0 +1,65 @@
+#include "dialogs/frame/PrintRenderOptsDialog.h"
+
+#include "dialogs/DialogInstance.h"
+#include "dialogs/FormBindings.h"
+#include "propertymanager/managers/frame/PrintRenderOptsPropertiesManager.h"
+#include "ui/LaunchHelpAction.h"
+#include "ui_PrintRenderOptsDialog.h"
+
+namespace vantrix::sdk::ui::dialogs {
+
+using propertymanager::PrintRenderOptsPropertiesManager;
+
+class PrintRenderOptsDialog::Impl
+{
+public:
+    explicit Impl(PrintRenderOptsDialog& dialog);
+
+    PrintRenderOptsPropertiesManager manager;
+    Ui::PrintRenderOpts form;
+
+private:
+    FormBindings m_bindings;
+};
+
+PrintRenderOptsDialog::Impl::Impl(PrintRenderOptsDialog& dialog)
+{
+    form.setupUi(&dialog);
+    auto& set = manager.properties();
+
+    m_bindings.bindChoice(form.printRender_Vector_RadioButton, set.getRenderType(), PrintRenderType_Vector);
+    m_bindings.bindChoice(form.printRender_Image_RadioButton, set.getRenderType(), PrintRenderType_Image);
+    m_bindings.bindField(form.printRender_Resolution_1Text, set.getImageResolution());
+    m_bindings.bindChoice(form.printRender_Color_RadioButton, set.getColor(), Palette_Color);
+    m_bindings.bindChoice(form.printRender_Monochrome_RadioButton, set.getColor(), Palette_Monochrome);
+    m_bindings.bindCheck(form.printRender_Force3DSorting_ToggleButton, set.getForceExtra3DSorting());
+
+    m_bindings.apply(manager.vectorRelevance(), {form.printRender_Force3DSorting_ToggleButton});
+}
+
+PrintRenderOptsDialog& PrintRenderOptsDialog::getInstance(QWidget& parent)
+{
+    return dialogInstance<PrintRenderOptsDialog>([&parent] { return new PrintRenderOptsDialog(parent); });
+}
+
+PrintRenderOptsDialog::PrintRenderOptsDialog(QWidget& parent)
+    : ModalDialogAbstract(parent, nullptr)
+    , m_impl(std::make_unique<Impl>(*this))
+{
+    setOkButton(m_impl->form.buttonBox->button(QDialogButtonBox::Ok));
+    setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("print_render_options.html"), this));
+}
+
+PrintRenderOptsDialog::~PrintRenderOptsDialog() = default;
+
+void PrintRenderOptsDialog::init()
+{
+    m_impl->manager.init();
+}
+
+bool PrintRenderOptsDialog::submit()
+{
+    return m_impl->manager.submit();
+}
+
+} // namespace vantrix::sdk::ui::dialogs
