@@ -1,5 +1,6 @@
 #include "app/PictureExport.h"
 
+#include "toolbox/StyleValue.h"
 #include "view/PageRenderer.h"
 
 #include <QFileInfo>
@@ -17,12 +18,29 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const int defaultWidth = 1600;
-const int pdfResolution = 300;
 
 QString suffixOf(const QString& path)
 {
     return QFileInfo(path).suffix().toLower();
 }
+
+struct PrintStyle
+{
+    bool asImage = false;
+    int dotsPerInch = 300;
+    bool isMonochrome = false;
+
+    static PrintStyle read()
+    {
+        const auto integer = [](const char* name, long value) {
+            toolbox::StyleValue("Print", name).getValue(&value);
+            return value;
+        };
+        return {integer("RenderType", PrintRenderType_Vector) == PrintRenderType_Image,
+                static_cast<int>(integer("ImageResolution", 300)),
+                integer("Color", Palette_Color) == Palette_Monochrome};
+    }
+};
 
 bool isPdf(const QString& path)
 {
@@ -79,7 +97,7 @@ QImage PictureExport::image(QSize size) const
     const QSizeF paper = m_renderer.paperSize(m_page);
     const double inch = std::min(size.width() / paper.width(), size.height() / paper.height());
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(m_renderer.paperColor(m_page));
+    image.fill(m_renderer.printedPaperColor(m_page));
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     painter.translate((size.width() - paper.width() * inch) / 2, (size.height() - paper.height() * inch) / 2);
@@ -89,12 +107,20 @@ QImage PictureExport::image(QSize size) const
 
 void PictureExport::paintPdf(QIODevice& device) const
 {
+    const PrintStyle print = PrintStyle::read();
+    const QSizeF paper = m_renderer.paperSize(m_page);
     QPdfWriter writer(&device);
-    writer.setPageSize(QPageSize(m_renderer.paperSize(m_page), QPageSize::Inch, {}, QPageSize::ExactMatch));
+    writer.setPageSize(QPageSize(paper, QPageSize::Inch, {}, QPageSize::ExactMatch));
     writer.setPageMargins({});
-    writer.setResolution(pdfResolution);
+    writer.setResolution(print.dotsPerInch);
     QPainter painter(&writer);
-    m_renderer.paintPage(painter, m_page, pdfResolution);
+    // A document has no gray mode, so that shades of gray need an image.
+    if (print.asImage || print.isMonochrome) {
+        const QImage image = m_renderer.pageImage(m_page, qRound(paper.width() * print.dotsPerInch));
+        painter.drawImage(0, 0, print.isMonochrome ? image.convertToFormat(QImage::Format_Grayscale8) : image);
+    } else {
+        m_renderer.paintPage(painter, m_page, print.dotsPerInch);
+    }
 }
 
 } // namespace vantrix::app

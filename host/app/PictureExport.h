@@ -27,7 +27,8 @@ public:
     /*
      * Writes the picture; a file that is there already is replaced only by a whole new one. An image is `size` pixels
      * large, the paper in its middle as large as fits; without a valid size it is 1600 pixels wide and as high as the
-     * paper asks. PDF has the paper's size. Returns a sentence that names the file and the cause when it failed, else
+     * paper asks. PDF has the paper's size and is made as
+     * the style values below "Print" say. Returns a sentence that names the file and the cause when it failed, else
      * nothing.
      */
     QString write(const QString& path, QSize size = {}) const;

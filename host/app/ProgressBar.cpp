@@ -78,7 +78,7 @@ bool ProgressBar::report(const QString& task, double fraction)
         begin(task);
     if (!m_isCancelled && !m_isHandlingEvents && m_sinceEvents.elapsed() >= eventsEveryMilliseconds) {
         m_bar->setValue(static_cast<int>(100.0 * std::clamp(fraction, 0.0, 1.0)));
-        if (!isVisible() && m_sinceBegin.elapsed() >= showAfterMilliseconds)
+        if (!isVisible() && !m_isQuiet && m_sinceBegin.elapsed() >= showAfterMilliseconds)
             show();
         m_isHandlingEvents = true;
         QCoreApplication::processEvents();
@@ -86,6 +86,13 @@ bool ProgressBar::report(const QString& task, double fraction)
         m_sinceEvents.restart();
     }
     return !m_isCancelled;
+}
+
+void ProgressBar::setQuiet(bool isQuiet)
+{
+    m_isQuiet = isQuiet;
+    if (isQuiet)
+        hide();
 }
 
 void ProgressBar::begin(const QString& task)

@@ -24,6 +24,9 @@ public:
     /* As FrontEnd::reportProgress(); handles waiting events, though not at every call. */
     bool report(const QString& task, double fraction);
 
+    /* Shows nothing while it is quiet; Escape still cancels. */
+    void setQuiet(bool isQuiet);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -37,6 +40,7 @@ private:
     QElapsedTimer m_sinceBegin;
     QElapsedTimer m_sinceEvents;
     QTimer m_watchdog;
+    bool m_isQuiet = false;
     bool m_isAtWork = false;
     bool m_isCancelled = false;
     bool m_isHandlingEvents = false;

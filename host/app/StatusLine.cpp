@@ -1,6 +1,7 @@
 #include "app/StatusLine.h"
 
 #include "app/ProgressBar.h"
+#include "toolbox/StyleValue.h"
 
 #include <QLabel>
 
@@ -8,11 +9,37 @@ namespace vantrix::app {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isSet(const char* setting)
+{
+    bool value = true;
+    toolbox::StyleValue("Interface", setting).getValue(&value);
+    return value;
+}
+
+bool mayConcernSettings(const toolbox::StateChangeEventInterface& event)
+{
+    switch (event.kind()) {
+    case StateChange_Style:
+        return event.styleParam(1) == "Interface";
+    case StateChange_NewLayout:
+    case StateChange_CompleteReset:
+    case StateChange_UpdatesResumed:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent)
     , m_text(new QLabel(this))
     , m_progressBar(new ProgressBar(this))
     , m_coordinates(new QLabel(this))
+    , m_follower(mayConcernSettings, [this] { followSettings(); })
 {
     setObjectName(u"statusLine"_s);
     m_coordinates->setObjectName(u"coordinates"_s);
@@ -25,6 +52,14 @@ StatusLine::StatusLine(QWidget* parent)
     addWidget(m_text, 1);
     addPermanentWidget(m_progressBar);
     addPermanentWidget(m_coordinates);
+    followSettings();
+}
+
+void StatusLine::followSettings()
+{
+    setVisible(isSet("ShowStatusLine"));
+    m_coordinates->setVisible(isSet("ShowCoordinates"));
+    m_progressBar->setQuiet(!isSet("ShowContinuousStatus"));
 }
 
 void StatusLine::setText(const QString& text)

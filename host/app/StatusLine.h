@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sdk/OnIdleAfterStateChangeActionPerformer.h"
+
 #include <QStatusBar>
 
 class QLabel;
@@ -8,7 +10,8 @@ namespace vantrix::app {
 
 class ProgressBar;
 
-/* The line at the bottom of the window: messages, the progress of long work, the place of the pointer. */
+/* The line at the bottom of the window: messages, the progress of long work, the place of the pointer. What of it is
+ * shown follows the style values "Interface" / "ShowStatusLine", "ShowContinuousStatus" and "ShowCoordinates". */
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -24,9 +27,12 @@ public:
     void setCoordinates(const QString& text);
 
 private:
+    void followSettings();
+
     QLabel* m_text;
     ProgressBar* m_progressBar;
     QLabel* m_coordinates;
+    sdk::OnIdleAfterStateChangeActionPerformer m_follower;
 };
 
 } // namespace vantrix::app
