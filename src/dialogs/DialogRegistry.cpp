@@ -8,6 +8,7 @@
 #include "dialogs/frame/PrintRenderOptsDialog.h"
 #include "dialogs/zone/CreateCircularZoneDialog.h"
 #include "dialogs/zone/CreateRectangularZoneDialog.h"
+#include "dialogs/zone/DeleteZoneDialog.h"
 #include "property/ExceptionBase.h"
 
 namespace vantrix::sdk::ui::dialogs {
@@ -57,6 +58,7 @@ std::vector<DialogEntry> const& dialogRegistry()
         entry<PrintRenderOptsDialog>("&File/Print Render O&ptions...", "print_render_options"),
         entry<CreateCircularZoneDialog>("&Data/&Create Zone/&Circular...", "create_zone_circular"),
         entry<CreateRectangularZoneDialog>("&Data/&Create Zone/&Rectangular...", "create_zone_rectangular"),
+        entry<DeleteZoneDialog>("&Data/&Delete Zone...", "delete_zone"),
         entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit"),
         entry<OptionsRulerGridDialog>("&Options/&Ruler and Grid...", "options_ruler_grid"),
         entry<PerformanceDialog>("&Options/&Performance...", "performance"),

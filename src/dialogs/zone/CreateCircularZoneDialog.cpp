@@ -1,5 +1,6 @@
 #include "dialogs/zone/CreateCircularZoneDialog.h"
 
+#include "dialogs/DialogInstance.h"
 #include "propertybindings/NumberLocale.h"
 #include "propertybindings/TextFieldPropertyBinding.h"
 #include "propertymanager/managers/zone/CreateCircularZonePropertiesManager.h"
@@ -96,11 +97,7 @@ void CreateCircularZoneDialog::Impl::bindRelevanciesToControls()
 
 CreateCircularZoneDialog& CreateCircularZoneDialog::getInstance(QWidget& parent)
 {
-    static QPointer<CreateCircularZoneDialog> instance;
-    if (!instance) {
-        instance = new CreateCircularZoneDialog(parent);
-    }
-    return *instance;
+    return dialogInstance<CreateCircularZoneDialog>([&parent] { return new CreateCircularZoneDialog(parent); });
 }
 
 CreateCircularZoneDialog::Relevance CreateCircularZoneDialog::relevance()

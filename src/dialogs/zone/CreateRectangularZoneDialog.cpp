@@ -1,5 +1,6 @@
 #include "dialogs/zone/CreateRectangularZoneDialog.h"
 
+#include "dialogs/DialogInstance.h"
 #include "dialogs/zone/CreateRectangularZoneDialogImpl.h"
 #include "propertymanager/managers/zone/CreateRectangularZonePropertiesManager.h"
 #include "ui/LaunchHelpAction.h"
@@ -8,11 +9,7 @@ namespace vantrix::sdk::ui::dialogs {
 
 CreateRectangularZoneDialog& CreateRectangularZoneDialog::getInstance(QWidget& parent)
 {
-    static QPointer<CreateRectangularZoneDialog> instance;
-    if (!instance) {
-        instance = new CreateRectangularZoneDialog(parent);
-    }
-    return *instance;
+    return dialogInstance<CreateRectangularZoneDialog>([&parent] { return new CreateRectangularZoneDialog(parent); });
 }
 
 CreateRectangularZoneDialog::Relevance CreateRectangularZoneDialog::relevance()
