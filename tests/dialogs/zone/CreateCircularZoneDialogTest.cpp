@@ -262,7 +262,10 @@ TEST_F(CreateCircularZoneDialogTest, IsForCartesianPlotsAndEmptySketches)
 TEST_F(CreateCircularZoneDialogTest, DataWithoutExtentAreToldWhenTheDialogIsLaunched)
 {
     host.extents = {{1, {2.0, 2.0}}, {2, {3.0, 3.0}}};
-    DialogEntry const& entry = dialogRegistry().front();
+    auto const isCircular = [](DialogEntry const& each) {
+        return each.name() == QStringLiteral("create_zone_circular");
+    };
+    DialogEntry const& entry = *std::find_if(dialogRegistry().begin(), dialogRegistry().end(), isCircular);
     EXPECT_FALSE(entry.launch(parent));
     EXPECT_THAT(host.errors, ElementsAre("The value must be greater than 0 and less than or equal to 1.79769e+308."));
     host.extents = {{1, {2.0, 4.0}}};
