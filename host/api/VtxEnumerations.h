@@ -285,6 +285,20 @@ typedef enum
     AnchorAlignment_BottomRight = 8
 } AnchorAlignment_e;
 
+/* Which point of a text lies at its position. */
+typedef enum
+{
+    TextAnchor_BottomLeft = 0,
+    TextAnchor_BottomCenter = 1,
+    TextAnchor_BottomRight = 2,
+    TextAnchor_MiddleLeft = 3,
+    TextAnchor_MiddleCenter = 4,
+    TextAnchor_MiddleRight = 5,
+    TextAnchor_TopLeft = 6,
+    TextAnchor_TopCenter = 7,
+    TextAnchor_TopRight = 8
+} TextAnchor_e;
+
 /* Field plots */
 
 typedef enum
@@ -372,10 +386,10 @@ typedef enum
 typedef enum
 {
     Streamtrace_SurfaceLine = 0,
-    Streamtrace_VolumeLine = 1,
-    Streamtrace_VolumeRibbon = 2,
-    Streamtrace_VolumeRod = 3,
-    Streamtrace_TwoDLine = 4
+    Streamtrace_TwoDLine = 1,
+    Streamtrace_VolumeLine = 2,
+    Streamtrace_VolumeRibbon = 3,
+    Streamtrace_VolumeRod = 4
 } Streamtrace_e;
 
 typedef enum
@@ -387,11 +401,83 @@ typedef enum
 
 typedef enum
 {
-    StreamtracePlacementMethod_EnterXYZ = 0,
-    StreamtracePlacementMethod_EnterIJK = 1,
-    StreamtracePlacementMethod_MousePick = 2,
-    StreamtracePlacementMethod_SurfaceOfZones = 3
+    StreamtracePlacementMethod_PlacementTool = 0,
+    StreamtracePlacementMethod_SurfacesOfActiveObjects = 1,
+    StreamtracePlacementMethod_SurfacesOfSelectedObjects = 2,
+    StreamtracePlacementMethod_EnterXYZ = 3,
+    StreamtracePlacementMethod_EnterIJK = 4
 } StreamtracePlacementMethod_e;
+
+/* Picking and probing */
+
+typedef enum
+{
+    PickObject_None = 0,
+    PickObject_Frame = 1,
+    PickObject_Axis = 2,
+    PickObject_Geometry = 4,
+    PickObject_Text = 5,
+    PickObject_ContourLegend = 6,
+    PickObject_LineLegend = 7,
+    PickObject_LineMap = 8,
+    PickObject_Zone = 9,
+    PickObject_Streamtrace = 15,
+    PickObject_IsoSurface = 18,
+    PickObject_Slice = 19
+} PickObject_e;
+
+typedef enum
+{
+    AxisSubObject_GridArea = 0,
+    AxisSubObject_AxisLine = 1,
+    AxisSubObject_Title = 2
+} AxisSubObject_e;
+
+/* What a field probe found its values in. */
+typedef enum
+{
+    ProbeSource_Zone = 0,
+    ProbeSource_Streamtrace = 1,
+    ProbeSource_Slice = 2,
+    ProbeSource_IsoSurface = 3
+} ProbeSource_e;
+
+/* The family of cells of an ordered zone that a probed cell belongs to. */
+typedef enum
+{
+    IJKPlanes_I = 0,
+    IJKPlanes_J = 1,
+    IJKPlanes_K = 2,
+    IJKPlanes_Volume = 3
+} IJKPlanes_e;
+
+typedef enum
+{
+    FieldProbeDialogPage_NodalValues = 0,
+    FieldProbeDialogPage_CellCenteredValues = 1,
+    FieldProbeDialogPage_ZoneCellInfo = 2,
+    FieldProbeDialogPage_FaceNeighbors = 3
+} FieldProbeDialogPage_e;
+
+/* Operations of VtxUtilViewX(). */
+typedef enum
+{
+    ViewOp_Fit = 0,
+    ViewOp_DataFit = 1,
+    ViewOp_AxisFit = 2
+} ViewOp_e;
+
+/* How numbers at ticks are written. */
+typedef enum
+{
+    NumberFormat_Integer = 0,
+    NumberFormat_FixedFloat = 1,
+    NumberFormat_Exponential = 2,
+    NumberFormat_BestFloat = 3,
+    NumberFormat_SuperScript = 4,
+    NumberFormat_RangeBestFloat = 5,
+    NumberFormat_TimeDate = 9
+} NumberFormat_e;
 
 /* Blanking */
 

@@ -13,10 +13,16 @@
 #define VTX_UTIL_H
 
 #include "api/VtxUtilArgList.h"
+#include "api/VtxUtilAxis.h"
 #include "api/VtxUtilData.h"
 #include "api/VtxUtilDialog.h"
+#include "api/VtxUtilDocument.h"
 #include "api/VtxUtilFrame.h"
+#include "api/VtxUtilLineMap.h"
+#include "api/VtxUtilPick.h"
+#include "api/VtxUtilProbe.h"
 #include "api/VtxUtilState.h"
 #include "api/VtxUtilStyle.h"
+#include "api/VtxUtilText.h"
 
 #endif

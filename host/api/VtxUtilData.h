@@ -30,12 +30,6 @@ bool VtxUtilVarGetName(long variable, char** name);
 VtxSetHandle VtxUtilZoneGetEnabled(void);
 VtxSetHandle VtxUtilVarGetEnabled(void);
 
-/* How many line maps the active frame has; 0 without a frame. Line maps are numbered from 1 to the count. */
-long VtxUtilLineMapGetCount(void);
-
-/* The name of a line map of the active frame; false when there is no such number. */
-bool VtxUtilLineMapGetName(long lineMap, char** name);
-
 /*
  * The dimensions of a zone: of an ordered one I, J and K points (at least 1 each); of a finite-element one points,
  * cells and corners a cell (0 for polygons and polyhedra). Any pointer may be null. An unknown zone gives zeros.
@@ -43,6 +37,13 @@ bool VtxUtilLineMapGetName(long lineMap, char** name);
 void VtxUtilZoneGetIJK(long zone, long* iMax, long* jMax, long* kMax);
 bool VtxUtilZoneIsOrdered(long zone);
 ZoneType_e VtxUtilZoneGetType(long zone);
+
+/* Where the values of a variable in a zone belong: to the points or to the cells. Nodal where there is none. */
+ValueLocation_e VtxUtilDataValueGetLocation(long zone, long variable);
+
+/* A value of a zone's variable by its position (from 1) among the points, or cells; false, with nothing written, for one
+ * that is not there. A variable that is not loaded is loaded first. */
+bool VtxUtilDataValueGetByZoneVar(long zone, long variable, long position, double* value);
 
 /* Smallest and largest value of a variable over all enabled zones; NaN and unloaded values are left out. False when
  * there is no such variable or it has no value. */

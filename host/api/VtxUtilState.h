@@ -1,4 +1,4 @@
-/* The application lock, notification of state changes, undo, macro recording. */
+/* The application lock, notification of state changes, undo. */
 #ifndef VTX_UTIL_STATE_H
 #define VTX_UTIL_STATE_H
 
@@ -57,8 +57,6 @@ long VtxUtilStateChangeGetStyleEntry(VtxStateChangeHandle change);
 
 /* The number of the object that the change is about (a text handle, a zone), 0 where it is about none in particular. */
 long VtxUtilStateChangeGetObject(VtxStateChangeHandle change);
-
-bool VtxUtilMacroIsRecordingActive(void);
 
 VTX_END_DECLS
 

@@ -1,4 +1,4 @@
-#include "api/VtxUtilData.h"
+#include "api/VtxUtilLineMap.h"
 
 #include "kernel/interface/Boundary.h"
 

@@ -1,3 +1,4 @@
+#include "api/VtxUtilDocument.h"
 #include "api/VtxUtilState.h"
 
 #include "kernel/StateChanges.h"

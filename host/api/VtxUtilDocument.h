@@ -1,0 +1,51 @@
+/* What a layout file holds: pages, frames at their places, and files of layouts and macros. */
+#ifndef VTX_UTIL_DOCUMENT_H
+#define VTX_UTIL_DOCUMENT_H
+
+#include "api/VtxUtilBase.h"
+
+VTX_BEGIN_DECLS
+
+/* Adds a frame on top of the active page and makes it active: left and top edge in inches from the paper's upper left
+ * corner, width and height in inches, at least 0.25. */
+bool VtxUtilFrameCreate(double left, double top, double width, double height);
+
+/* Acts on a frame of the active page. Deleting the only frame leaves an empty one. */
+bool VtxUtilFrameDelete(long frameId);
+bool VtxUtilFrameActivate(long frameId);
+bool VtxUtilFramePop(long frameId);
+bool VtxUtilFramePush(long frameId);
+
+/* The identifier of frame `position` (from 1, the last is on top) of the active page; 0 when there is none. */
+long VtxUtilFrameGetIdAt(long position);
+
+/* Adds a page with one empty frame behind the others and makes it active. The last page cannot be deleted. */
+bool VtxUtilPageCreate(void);
+bool VtxUtilPageDelete(long position);
+bool VtxUtilPageActivate(long position);
+long VtxUtilPageGetActive(void);
+
+/*
+ * A layout is a readable file of every page, frame, style value, text and data file name. Saving replaces the file at
+ * once or leaves it as it was. Opening replaces everything, or on any error nothing; entries that are not known are kept
+ * for the next save and named in the status line. Not to be called under the lock.
+ */
+bool VtxUtilLayoutSave(const char* file);
+bool VtxUtilLayoutOpen(const char* file);
+
+/* Opens data files in the active frame. */
+bool VtxUtilDataRead(const char* const* files, long count);
+
+/*
+ * A macro is a text file with one command a line. Recording writes one line for each outermost lock that asks for it.
+ * Running stops at the first command that fails; what the commands before it did stays, as steps that can be undone, and
+ * the error names file and line.
+ */
+bool VtxUtilMacroRecordStart(const char* file);
+bool VtxUtilMacroRecordStop(void);
+bool VtxUtilMacroIsRecordingActive(void);
+bool VtxUtilMacroRun(const char* file);
+
+VTX_END_DECLS
+
+#endif
