@@ -1,6 +1,6 @@
 #include "ui/models/LineMapListModel.h"
 
-#include "api/VtxUtilData.h"
+#include "api/VtxUtilLineMap.h"
 #include "toolbox/HostString.h"
 
 #include <numeric>
