@@ -1,5 +1,6 @@
 #include "kernel/Document.h"
 
+#include "kernel/LineMaps.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 #include "kernel/UndoStack.h"
@@ -358,10 +359,15 @@ void Document::replaceDataSet(DataSet changed, const std::vector<StateChange_e>&
     const DataSetPointer before = frames.front()->dataSet();
     const DataSetPointer after = std::make_shared<const DataSet>(std::move(changed));
     for (const auto& frame : frames) {
-        m_style.removeZones(frame->id(), deletedZones);
+        m_style.removeObjects(frame->id(), "zone", deletedZones);
         setDataSet(*frame, after);
     }
     m_undo.record(std::make_unique<DataChange>(*this, frames, before, after, kinds));
+    for (const auto& frame : frames) {
+        if (!deletedZones.empty()) {
+            LineMaps(m_style, *frame).zonesRemoved(deletedZones);
+        }
+    }
     for (const StateChange_e kind : kinds) {
         m_changes.send(kind);
     }

@@ -3,11 +3,16 @@
 #include "api/VtxEnumerations.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Kernel.h"
+#include "kernel/LineMaps.h"
 #include "kernel/NiceNumbers.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
+#include <numbers>
+#include <numeric>
+#include <optional>
 
 namespace vantrix::kernel {
 
@@ -15,7 +20,6 @@ namespace {
 
 constexpr long contourGroupCount = 8;
 constexpr long mostLineMaps = 50;
-constexpr std::array<long, 6> lineColors{1, 2, 3, 6, 4, 0}; /* red, green, blue, magenta, cyan, black */
 
 int highestDimension(const DataSet& data)
 {
@@ -24,6 +28,14 @@ int highestDimension(const DataSet& data)
         highest = std::max(highest, zone->topologicalDimension());
     }
     return highest;
+}
+
+/* Whether a variable is named like what goes round in a polar plot: "Theta", "azimuth [deg]", "Angle_1". */
+bool isAngle(std::string name)
+{
+    std::transform(name.begin(), name.end(), name.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return name.starts_with("theta") || name.starts_with("azimuth") || name.starts_with("angle");
 }
 
 /* Whether a variable hardly changes beside how far another one goes. */
@@ -46,6 +58,7 @@ void PlotDefaults::apply(const Frame& frame)
 
 PlotDefaults::PlotDefaults(StyleStore& style, const Frame& frame)
     : m_style(style)
+    , m_frame(frame)
     , m_frameId(frame.id())
     , m_data(frame.dataSet())
 {}
@@ -70,7 +83,7 @@ long PlotDefaults::plotType() const
     }
     const int dimension = highestDimension(*m_data);
     if (dimension < 2) {
-        return PlotType_XYLine;
+        return isAngle(m_data->variables.front().name) ? PlotType_PolarLine : PlotType_XYLine;
     }
     const bool isInPlane = dimension < 3 && isFlat(*m_data, m_axes.z, m_axes.x);
     return m_axes.z == 0 || isInPlane ? PlotType_Cartesian2D : PlotType_Cartesian3D;
@@ -90,15 +103,22 @@ void PlotDefaults::setAxes()
             const std::string path = plot + detail;
             if (variable != 0 && m_style.entry((path + "/VarNum").c_str()) >= 0) {
                 set(path + "/VarNum", variable);
-                fitRange(path, variable, -1, plot == "TwoDAxis/");
+                fitRange(path, {variable}, -1, plot == "TwoDAxis/");
             }
         }
     }
 }
 
-void PlotDefaults::fitRange(const std::string& axisDetail, long variable, long axis, bool isNice)
+void PlotDefaults::fitRange(const std::string& axisDetail, const std::vector<long>& variables, long axis, bool isNice)
 {
-    const auto values = variable ? variableRange(*m_data, variable) : std::nullopt;
+    std::optional<ValueRange> values;
+    for (const long variable : variables) {
+        if (const auto range = variableRange(*m_data, variable)) {
+            values = values ? ValueRange{std::min(values->minimum, range->minimum),
+                                         std::max(values->maximum, range->maximum)}
+                            : *range;
+        }
+    }
     if (!values) {
         return;
     }
@@ -109,25 +129,67 @@ void PlotDefaults::fitRange(const std::string& axisDetail, long variable, long a
     set(axisDetail + "/GRSpacing", nice.spacing, axis);
 }
 
-/* One line map for each zone, or of a single zone for each variable, over the first variable. */
+/*
+ * One line map for each zone, or of a single zone for each variable, over the first variable. What is no line itself (a
+ * surface, a volume) is shown by its first line map alone until the user asks for more.
+ */
 void PlotDefaults::setLineMaps()
 {
-    const bool isOneZone = m_data->zoneCount() == 1;
-    const long count = std::min(isOneZone ? m_data->variableCount() - 1 : m_data->zoneCount(), mostLineMaps);
+    LineMaps maps(m_style, m_frame);
+    maps.removeAll();
     if (m_data->variableCount() < 2) {
         return;
     }
+    const bool isOneZone = m_data->zoneCount() == 1;
+    const long count = std::min(isOneZone ? m_data->variableCount() - 1 : m_data->zoneCount(), mostLineMaps);
+    std::vector<LineMapAssignment> assignments;
     for (long map = 1; map <= count; ++map) {
-        set("LineMap/Assignment/Zone", isOneZone ? 1L : map, map);
-        set("LineMap/Assignment/XAxisVar", 1L, map);
-        set("LineMap/Assignment/YAxisVar", isOneZone ? map + 1 : 2L, map);
-        const long color = lineColors[static_cast<std::size_t>(map - 1) % lineColors.size()];
-        set("LineMap/Lines/Color", color, map);
-        set("LineMap/Symbols/Color", color, map);
+        assignments.push_back({.zone = isOneZone ? 1 : map, .xVariable = 1, .yVariable = isOneZone ? map + 1 : 2});
     }
-    set("FrameSetup/NumLineMaps", count);
-    fitRange("XYLineAxis/XDetail", 1, 1, true);
-    fitRange("XYLineAxis/YDetail", 2, 1, true);
+    maps.add(assignments);
+    const bool isLine = highestDimension(*m_data) < 2;
+    for (long map = 1; map <= count; ++map) {
+        set("ActiveLineMaps", long{isLine || map == 1}, map);
+        set("LineMap/Name", isOneZone ? std::string() : m_data->zone(map)->name(), map);
+    }
+    set("GlobalLinePlot/Legend/Show", long{isLine && count > 1});
+    setLineAxes(isLine && isOneZone ? m_data->variableCount() : 2);
+}
+
+/* The second axis of each kind lies across from the first. */
+void PlotDefaults::setLineAxes(long lastVariable)
+{
+    for (const long axis : {2L, 4L}) {
+        set("XYLineAxis/XDetail/AxisLine/AxisAlignment", long{AxisAlignment_GridMax}, axis);
+        set("XYLineAxis/YDetail/AxisLine/AxisAlignment", long{AxisAlignment_GridMax}, axis);
+    }
+    fitRange("XYLineAxis/XDetail", {1}, 1, true);
+    std::vector<long> shown(static_cast<std::size_t>(lastVariable - 1));
+    std::iota(shown.begin(), shown.end(), 2);
+    fitRange("XYLineAxis/YDetail", shown, 1, true);
+    fitPolar(shown);
+}
+
+/* Theta goes round once, in degrees or, where the values look like it, in radians; R begins at the centre. */
+void PlotDefaults::fitPolar(const std::vector<long>& radii)
+{
+    constexpr double turn = 2.0 * std::numbers::pi;
+    const auto angles = variableRange(*m_data, 1);
+    const double reach = angles ? std::max(std::abs(angles->minimum), std::abs(angles->maximum)) : 0.0;
+    const bool isRadians = reach > 0.5 * turn * (1.0 - 1e-6) && reach < turn * (1.0 + 1e-6);
+    const double period = isRadians ? turn : 360.0;
+    const double start = angles && angles->minimum < 0.0 && reach <= 0.5 * period * (1.0 + 1e-6) ? -0.5 * period : 0.0;
+    set("PolarAxis/ThetaMode", long{isRadians ? ThetaMode_Radians : ThetaMode_Degrees});
+    set("PolarAxis/ThetaPeriod", period);
+    set("PolarAxis/ThetaDetail/RangeMin", start);
+    set("PolarAxis/ThetaDetail/RangeMax", start + period);
+    set("PolarAxis/ThetaDetail/AutoGrid", 0L);
+    set("PolarAxis/ThetaDetail/GRSpacing", period / 12.0);
+    fitRange("PolarAxis/RDetail", radii, -1, true);
+    const StyleData from = m_style.real(m_frameId, m_style.entry("PolarAxis/RDetail/RangeMin"));
+    const double origin = std::min(std::get<double>(from), 0.0);
+    set("PolarAxis/RDetail/RangeMin", origin);
+    set("PolarAxis/RDetail/ValueAtOrigin", origin);
 }
 
 void PlotDefaults::setContours()

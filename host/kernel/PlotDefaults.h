@@ -3,6 +3,8 @@
 #include "kernel/AxisVariables.h"
 #include "kernel/StyleStore.h"
 
+#include <vector>
+
 namespace vantrix::kernel {
 
 /*
@@ -22,13 +24,16 @@ public:
 private:
     long plotType() const;
     void setAxes();
-    void fitRange(const std::string& axisDetail, long variable, long axis, bool isNice);
+    void fitRange(const std::string& axisDetail, const std::vector<long>& variables, long axis, bool isNice);
     void setLineMaps();
+    void setLineAxes(long lastVariable);
+    void fitPolar(const std::vector<long>& radii);
     void setContours();
     void setVectors();
     void set(const std::string& path, StyleData value, long object = -1);
 
     StyleStore& m_style;
+    const Frame& m_frame;
     long m_frameId;
     std::shared_ptr<const DataSet> m_data;
     AxisVariables m_axes;

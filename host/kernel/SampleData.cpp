@@ -20,6 +20,7 @@ constexpr Sample samplesByName[] = {
     {"flow3d", "Flow behind a tapered tower", samples::makeFlow},
     {"fe2d", "Stretched plate with a hole", samples::makePlate},
     {"lines", "Damped oscillations", samples::makeOscillations},
+    {"polar", "Radiation of rows of dipoles", samples::makeAntennas},
     {"polyhedra", "Truncated octahedra", samples::makePolyhedra},
     {"mixed", "Cells of several kinds", samples::makeMixedCells},
 };

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <map>
 #include <numeric>
+#include <set>
 #include <stdexcept>
 #include <string_view>
 #include <tuple>
@@ -30,6 +31,12 @@ const StyleEntry& description(long entry)
 bool isKnown(long entry)
 {
     return entry >= 0 && entry < static_cast<long>(styleVocabulary().size());
+}
+
+bool hasOffset(const StyleEntry& about, std::string_view offset)
+{
+    const StyleOffset& first = styleOffset(about.offsets[0]);
+    return first.kind != StyleOffset::Kind::None && first.name == offset;
 }
 
 std::string noContextText(long entry)
@@ -63,10 +70,10 @@ public:
     void announce(long entry, long object);
     void touch(long scopeId, long entry);
     void record(long scopeId, long entry, std::size_t index, const StyleData& before, const StyleData& after);
-    void removeZones(long scopeId, const std::vector<long>& zones);
+    void removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers);
 
     class Edits;
-    class ZonesRemoved;
+    class ObjectsRemoved;
 
     UndoStack& m_undo;
     StateChanges& m_changes;
@@ -149,30 +156,53 @@ private:
     std::map<Place, std::size_t> m_places;
 };
 
-/* The values of a frame as they were before zones went away. */
-class StyleStore::Impl::ZonesRemoved : public UndoableChange
+/* The values of a frame as they were before objects went away. */
+class StyleStore::Impl::ObjectsRemoved : public UndoableChange
 {
 public:
-    ZonesRemoved(Impl& store, long scopeId, std::vector<long> zones, StyleValues before)
+    ObjectsRemoved(Impl& store, long scopeId, std::string_view offset, std::vector<long> numbers, StyleValues before)
         : m_store(store)
         , m_scopeId(scopeId)
-        , m_zones(std::move(zones))
+        , m_offset(offset)
+        , m_numbers(std::move(numbers))
         , m_before(std::move(before))
     {}
 
     void undo() override
     {
-        m_store.values(m_scopeId, StyleScope::Frame) = m_before;
-        m_store.values(m_scopeId, StyleScope::Frame).stamp = ++m_store.m_commonStamp;
+        StyleValues& values = m_store.values(m_scopeId, StyleScope::Frame);
+        values = m_before;
+        values.stamp = ++m_store.m_commonStamp;
+        announce();
     }
 
-    void redo() override { m_store.removeZones(m_scopeId, m_zones); }
+    void redo() override
+    {
+        m_store.removeObjects(m_scopeId, m_offset, m_numbers);
+        announce();
+    }
+
     std::size_t memory() const override { return sizeof(StyleValues) + m_before.memory(); }
 
 private:
+    /* What the descriptions of the values announce besides `StateChange_Style`, once for each kind. */
+    void announce()
+    {
+        std::set<int> kinds;
+        for (const StyleEntry& about : styleVocabulary()) {
+            if (about.announces >= 0 && hasOffset(about, m_offset)) {
+                kinds.insert(about.announces);
+            }
+        }
+        for (const int kind : kinds) {
+            m_store.m_changes.send(VtxStateChange{static_cast<StateChange_e>(kind), -1, 0});
+        }
+    }
+
     Impl& m_store;
     long m_scopeId;
-    std::vector<long> m_zones;
+    std::string_view m_offset;
+    std::vector<long> m_numbers;
     StyleValues m_before;
 };
 
@@ -348,19 +378,19 @@ void StyleStore::Impl::record(long scopeId, long entry, std::size_t index, const
     m_undo.record(std::move(edits));
 }
 
-void StyleStore::Impl::removeZones(long scopeId, const std::vector<long>& zones)
+void StyleStore::Impl::removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers)
 {
     StyleValues& frame = values(scopeId, StyleScope::Frame);
     const auto entries = styleVocabulary();
     for (long entry = 0; entry < static_cast<long>(entries.size()); ++entry) {
         const StyleEntry& about = description(entry);
-        if (styleOffset(about.offsets[0]).kind != StyleOffset::Kind::Zone) {
+        if (!hasOffset(about, offset)) {
             continue;
         }
         const StyleOffset& second = styleOffset(about.offsets[1]);
         const auto stride = static_cast<std::size_t>(second.kind == StyleOffset::Kind::None ? 1 : second.limit);
-        for (auto zone = zones.rbegin(); zone != zones.rend(); ++zone) {
-            frame.erase(entry, static_cast<std::size_t>(*zone - 1) * stride, stride);
+        for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
+            frame.erase(entry, static_cast<std::size_t>(*number - 1) * stride, stride);
         }
     }
     frame.stamp = ++m_commonStamp + frame.stamp;
@@ -508,16 +538,16 @@ void StyleStore::replaceForegroundColors(long scopeId, long from, long to)
     }
 }
 
-void StyleStore::removeZones(long scopeId, const std::vector<long>& zones)
+void StyleStore::removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers)
 {
     const auto found = m_impl->m_scopes.find(scopeId);
-    if (found == m_impl->m_scopes.end() || zones.empty()) {
+    if (found == m_impl->m_scopes.end() || numbers.empty()) {
         return;
     }
-    std::vector<long> sorted = zones;
+    std::vector<long> sorted = numbers;
     std::sort(sorted.begin(), sorted.end());
-    auto change = std::make_unique<Impl::ZonesRemoved>(*m_impl, scopeId, sorted, *found->second);
-    m_impl->removeZones(scopeId, sorted);
+    auto change = std::make_unique<Impl::ObjectsRemoved>(*m_impl, scopeId, offset, sorted, *found->second);
+    m_impl->removeObjects(scopeId, offset, sorted);
     m_impl->m_undo.record(std::move(change));
 }
 

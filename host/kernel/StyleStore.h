@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -79,8 +80,11 @@ public:
     /* Gives every foreground colour of a frame that is `from` the value `to`. Undone as part of the step. */
     void replaceForegroundColors(long scopeId, long from, long to);
 
-    /* Values of zones with these numbers are dropped and those behind move down. Undone as part of the step. */
-    void removeZones(long scopeId, const std::vector<long>& zones);
+    /*
+     * Values of objects with these numbers are dropped and those behind move down. `offset` says what is numbered, by
+     * the name that its description has: "zone", "line_map"; it must outlive the store. Undone as part of the step.
+     */
+    void removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers);
 
     /* Values of a scope are dropped with their frame or page, or copied for a new one. Not recorded. */
     void removeScope(long scopeId);

@@ -1,8 +1,10 @@
 #include "KernelFixture.h"
 
+#include "kernel/FieldValues.h"
 #include "kernel/NiceNumbers.h"
 
 #include <limits>
+#include <numbers>
 
 namespace vantrix::kernel {
 
@@ -47,6 +49,7 @@ TEST_F(PlotDefaultsTest, ThePlotTypeSuitsTheData)
     const std::vector<std::pair<std::string, PlotType_e>> cases{{"flow3d", PlotType_Cartesian3D},
                                                                 {"fe2d", PlotType_Cartesian2D},
                                                                 {"lines", PlotType_XYLine},
+                                                                {"polar", PlotType_PolarLine},
                                                                 {"polyhedra", PlotType_Cartesian3D}};
     for (const auto& [sample, expected] : cases) {
         kernel().reset();
@@ -82,6 +85,50 @@ TEST_F(PlotDefaultsTest, EachZoneOfALineDataSetHasALineMap)
     EXPECT_EQ(value("FrameSetup/NumLineMaps"), StyleData(4L));
     EXPECT_EQ(value("LineMap/Assignment/Zone", 4), StyleData(4L));
     EXPECT_NE(value("LineMap/Lines/Color", 1), value("LineMap/Lines/Color", 2));
+    EXPECT_EQ(value("GlobalLinePlot/Legend/Show"), StyleData(1L)) << "there is something to tell apart";
+    EXPECT_NE(value("XYLineAxis/YDetail/AxisLine/AxisAlignment", 1),
+              value("XYLineAxis/YDetail/AxisLine/AxisAlignment", 2));
+}
+
+TEST_F(PlotDefaultsTest, APolarPlotGoesRoundOnceInTheUnitOfItsAngles)
+{
+    struct Case
+    {
+        double first;
+        double last;
+        ThetaMode_e mode;
+        double minimum;
+        double period;
+    };
+    constexpr double pi = std::numbers::pi;
+    for (const Case& one : {Case{0, 360, ThetaMode_Degrees, 0, 360},
+                            {-180, 180, ThetaMode_Degrees, -180, 360},
+                            {0, 10, ThetaMode_Degrees, 0, 360},
+                            {0, 2 * pi, ThetaMode_Radians, 0, 2 * pi},
+                            {-pi, pi, ThetaMode_Radians, -pi, 2 * pi},
+                            {0, 1, ThetaMode_Degrees, 0, 360},
+                            {5, 5, ThetaMode_Radians, 0, 2 * pi},
+                            {-400, 20, ThetaMode_Degrees, 0, 360}}) {
+        kernel().reset();
+        const LockScope lock;
+        DataSet data = document().newDataSet();
+        data.variables = {{"angle", true}, {"radius", true}};
+        Zone zone = Zone::ordered("line", 2, 1, 1);
+        for (const auto& [from, to] : {std::pair(one.first, one.last), {2.0, 9.0}}) {
+            auto values = makeValues(FieldDataType_Double, 2);
+            values->SetComponent(0, 0, from);
+            values->SetComponent(1, 0, to);
+            zone.fields.push_back({values, ValueLocation_Nodal, {}});
+        }
+        data.addZone(std::move(zone));
+        document().attachDataSet(*document().activeFrame(), std::make_shared<const DataSet>(std::move(data)));
+        PlotDefaults::apply(*document().activeFrame());
+        SCOPED_TRACE(testing::Message() << one.first << " to " << one.last);
+        EXPECT_EQ(value("PolarAxis/ThetaMode"), StyleData(long{one.mode}));
+        EXPECT_EQ(value("PolarAxis/ThetaPeriod"), StyleData(one.period));
+        EXPECT_EQ(value("PolarAxis/ThetaDetail/RangeMin"), StyleData(one.minimum));
+        EXPECT_EQ(value("PolarAxis/RDetail/RangeMin"), StyleData(0.0)) << "the centre is part of the plot";
+    }
 }
 
 TEST(NiceNumbers, HoldTheRangeBetweenMultiplesOfTheSpacing)

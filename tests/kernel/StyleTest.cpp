@@ -211,7 +211,8 @@ TEST_F(StyleTest, ZonesThatGoAwayTakeTheirStyleAlongAndUndoBringsItBack)
 
     notices.clear();
     ASSERT_TRUE(VtxUtilUndo());
-    EXPECT_EQ(kinds(), (std::vector<int>{StateChange_ZonesAdded, StateChange_HistoryStep}));
+    EXPECT_THAT(kinds(), testing::Contains(int{StateChange_ZonesAdded}).Times(1));
+    EXPECT_EQ(kinds().back(), StateChange_HistoryStep);
     EXPECT_EQ(value("FieldMap/Mesh/Color", 2), StyleData(3L));
     EXPECT_EQ(value("FieldMap/Mesh/Color", 4), StyleData(5L));
 

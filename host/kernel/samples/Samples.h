@@ -17,6 +17,7 @@ namespace vantrix::kernel::samples {
 void makeFlow(DataSet& dataSet);
 void makePlate(DataSet& dataSet);
 void makeOscillations(DataSet& dataSet);
+void makeAntennas(DataSet& dataSet);
 void makePolyhedra(DataSet& dataSet);
 void makeMixedCells(DataSet& dataSet);
 
