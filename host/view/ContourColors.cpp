@@ -37,6 +37,7 @@ ContourColors ContourColors::make(const ContourGroupStyle& style)
 {
     ContourColors colors;
     colors.levels = style.levels;
+    colors.cutoff = style.cutoff;
     colors.table = vtkSmartPointer<vtkLookupTable>::New();
     if (style.levels.empty()) {
         return colors;

@@ -20,6 +20,7 @@ struct ContourColors
 {
     std::vector<double> levels;
     vtkSmartPointer<vtkLookupTable> table;
+    ColorCutoff cutoff;
 
     static ContourColors make(const ContourGroupStyle& style);
 };

@@ -7,6 +7,7 @@
 #include <vtkCellPicker.h>
 #include <vtkLight.h>
 #include <vtkLookupTable.h>
+#include <vtkMath.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>
 #include <vtkRenderer.h>
@@ -95,6 +96,16 @@ double placed(double value, bool isLogarithmic)
     return isLogarithmic ? std::log10(value) : value;
 }
 
+double boxDiagonal(const PlotStyle& style)
+{
+    double sum = 0.0;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const double length = (style.axes[axis].maximum - style.axes[axis].minimum) * style.axisScale[axis];
+        sum += length * length;
+    }
+    return std::sqrt(sum);
+}
+
 } // namespace
 
 FieldScene::FieldScene(OffscreenWindow& window)
@@ -104,6 +115,8 @@ FieldScene::FieldScene(OffscreenWindow& window)
 {
     m_renderer->SetAutomaticLightCreation(false);
     m_renderer->SetTwoSidedLighting(true);
+    m_renderer->SetMaximumNumberOfPeels(8);
+    m_renderer->SetOcclusionRatio(0.0);
     m_light->SetLightTypeToCameraLight();
     m_light->SetFocalPoint(0.0, 0.0, 0.0);
     m_renderer->AddLight(m_light);
@@ -125,12 +138,21 @@ void FieldScene::updateGroups(const std::vector<ContourGroupStyle>& groups)
     }
 }
 
-void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels)
+void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels, int samples)
 {
     updateGroups(style.contourGroups);
+    // Translucent surfaces are seen in their order from the viewer only when they are peeled layer by layer, and that
+    // allows one sample a pixel.
+    const bool isTranslucent =
+        std::any_of(style.zones.begin(), style.zones.end(), [](const ZoneStyle& zone) { return zone.opacity < 1.0; });
+    m_renderer->SetUseDepthPeeling(isTranslucent);
+    m_samples = isTranslucent ? 0 : samples;
+    m_oversampling = isTranslucent && samples > 0 ? 2 : 1;
     const bool isThreeD = style.type == PlotType_Cartesian3D;
     m_scale = isThreeD ? style.axisScale : std::array<double, 3>{1.0, 1.0, 0.0};
-    const LayerContext context{isThreeD, frameHeightPixels / 100.0, style.light};
+    const LayerContext context{isThreeD, m_oversampling * frameHeightPixels / 100.0, style.light, style.vectors,
+                               style.scatter};
+    m_boxDiagonal = boxDiagonal(style);
     m_light->SetPosition(style.light.direction[0], style.light.direction[1], style.light.direction[2]);
     std::erase_if(m_zones, [&](const auto& entry) {
         return std::none_of(style.zones.begin(), style.zones.end(),
@@ -165,43 +187,64 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
         zone.isFlat = isFlat;
     }
     zone.source = source;
-    zone.layers->setGeometry(zone.shape);
 
-    kernel::FieldArray flood;
-    kernel::FieldArray lines;
-    const Group* floodGroup = nullptr;
-    const Group* lineGroup = nullptr;
-    const auto group = [&](long number) {
-        return number >= 1 && number <= static_cast<long>(m_groups.size()) ? &m_groups[std::size_t(number - 1)]
-                                                                           : nullptr;
+    zone.contours.clear();
+    ZoneValues values;
+    values.contour = [&](long group) -> const ContourValues* {
+        if (group < 1 || group > static_cast<long>(m_groups.size())) {
+            return nullptr;
+        }
+        const auto [entry, isNew] = zone.contours.try_emplace(group);
+        if (isNew) {
+            const Group& colored = m_groups[std::size_t(group - 1)];
+            entry->second = {loaded(dataSet.field(zoneStyle.zone, colored.style.variable)), colored.colors};
+        }
+        return entry->second.colors.levels.empty() ? nullptr : &entry->second;
     };
-    if (zoneStyle.hasContour) {
-        floodGroup = group(zoneStyle.floodGroup);
-        lineGroup = group(zoneStyle.lineGroup);
-        flood = loaded(floodGroup ? dataSet.field(zoneStyle.zone, floodGroup->style.variable) : nullptr);
-        lines = loaded(lineGroup ? dataSet.field(zoneStyle.zone, lineGroup->style.variable) : nullptr);
+    if (zoneStyle.vector.isShown) {
+        for (std::size_t axis = 0; axis < values.vectors.size(); ++axis) {
+            values.vectors[axis] = loaded(dataSet.field(zoneStyle.zone, style.vectors.variables[axis]));
+        }
     }
-    zone.layers->setContour(flood.values ? &flood : nullptr, floodGroup ? &floodGroup->colors : nullptr,
-                            lines.values ? &lines : nullptr, lineGroup ? &lineGroup->colors : nullptr);
-    zone.layers->apply(zoneStyle, context);
+    if (zoneStyle.scatter.isShown && zoneStyle.scatter.isSizedByVariable) {
+        values.sizes = loaded(dataSet.field(zoneStyle.zone, style.scatter.variable));
+    }
+    zone.layers->update(zone.shape, zoneStyle, values, context);
 }
 
-QImage FieldScene::picture(const AxisScale& x, const AxisScale& y, QSize pixels, int samples)
+void FieldScene::place(const Placement& placement)
 {
+    for (auto& [number, zone] : m_zones) {
+        zone.layers->place(placement);
+    }
+}
+
+QImage FieldScene::rendered(QSize pixels)
+{
+    m_pixels = pixels;
+    const QImage image = m_renderer->GetUseDepthPeeling() ? m_window.renderTranslucent(m_renderer, pixels, m_samples)
+                                                          : m_window.render(m_renderer, pixels, m_samples);
+    return m_oversampling == 1 || image.isNull()
+               ? image
+               : image.scaled(pixels / m_oversampling, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+QImage FieldScene::picture(const AxisScale& x, const AxisScale& y, QSize size)
+{
+    const QSize pixels = size * m_oversampling;
     // The world of a flat plot is the picture itself: one unit a pixel.
-    std::array<double, 3> scale{1.0, 1.0, 0.0};
-    std::array<double, 3> shift{0.0, 0.0, 0.0};
+    Placement placement;
+    placement.scale[2] = 0.0;
+    placement.diagonal = std::hypot(double(pixels.width()), double(pixels.height()));
     const std::array<const AxisScale*, 2> axes{&x, &y};
     const std::array<double, 2> lengths{double(pixels.width()), double(pixels.height())};
     for (std::size_t i = 0; i < 2; ++i) {
         const double from = placed(axes[i]->minimum(), axes[i]->isLogarithmic());
         const double to = placed(axes[i]->maximum(), axes[i]->isLogarithmic());
-        scale[i] = lengths[i] / (to - from) * (axes[i]->isReversed() ? -1.0 : 1.0);
-        shift[i] = axes[i]->isReversed() ? -to * scale[i] : -from * scale[i];
+        placement.scale[i] = lengths[i] / (to - from) * (axes[i]->isReversed() ? -1.0 : 1.0);
+        placement.shift[i] = -(axes[i]->isReversed() ? to : from) * placement.scale[i];
     }
-    for (auto& [number, zone] : m_zones) {
-        zone.layers->place(scale.data(), shift.data());
-    }
+    place(placement);
     vtkCamera* camera = m_renderer->GetActiveCamera();
     camera->SetParallelProjection(true);
     camera->SetFocalPoint(0.5 * lengths[0], 0.5 * lengths[1], 0.0);
@@ -209,21 +252,27 @@ QImage FieldScene::picture(const AxisScale& x, const AxisScale& y, QSize pixels,
     camera->SetViewUp(0.0, 1.0, 0.0);
     camera->SetParallelScale(0.5 * lengths[1]);
     camera->SetClippingRange(1.0, 200.0);
-    m_pixels = pixels;
-    return m_window.render(m_renderer, pixels, samples);
+    return rendered(pixels);
 }
 
-QImage FieldScene::picture(const Camera3D& view, QSize pixels, int samples)
+QImage FieldScene::picture(const Camera3D& view, QSize size)
 {
-    const std::array<double, 3> shift{0.0, 0.0, 0.0};
-    for (auto& [number, zone] : m_zones) {
-        zone.layers->place(m_scale.data(), shift.data());
-    }
+    const QSize pixels = size * m_oversampling;
     vtkCamera* camera = m_renderer->GetActiveCamera();
     view.apply(*camera);
+    Placement placement;
+    placement.scale = m_scale;
+    placement.diagonal = m_boxDiagonal;
+    const double height =
+        camera->GetParallelProjection()
+            ? 2.0 * camera->GetParallelScale()
+            : 2.0 * camera->GetDistance() * std::tan(0.5 * vtkMath::RadiansFromDegrees(camera->GetViewAngle()));
+    placement.pixelSize = height / std::max(1, pixels.height());
+    placement.toViewer = view.toward();
+    camera->GetViewUp(placement.up.data());
+    place(placement);
     m_renderer->ResetCameraClippingRange();
-    m_pixels = pixels;
-    return m_window.render(m_renderer, pixels, samples);
+    return rendered(pixels);
 }
 
 std::optional<Point3> FieldScene::pick(double across, double up) const

@@ -25,8 +25,8 @@ bool hasField(const PlotStyle& style)
 const ContourGroupStyle* legendGroup(const PlotStyle& style)
 {
     for (const ZoneStyle& zone : style.zones) {
-        const long number = zone.contourType == ContourType_Lines ? zone.lineGroup : zone.floodGroup;
-        if (zone.hasContour && number >= 1 && number <= long(style.contourGroups.size())) {
+        const long number = zone.contour.hasFlood() ? zone.contour.floodGroup : zone.contour.lineGroup;
+        if (zone.contour.isShown && number >= 1 && number <= long(style.contourGroups.size())) {
             const ContourGroupStyle& group = style.contourGroups[std::size_t(number - 1)];
             if (group.hasLegend && !group.levels.empty()) {
                 return &group;
@@ -172,9 +172,7 @@ void FramePainter::paintFlat(const Canvas& canvas, const PlotMeasures& measures,
     }
     axes.paintGrid(area);
     if (style.type == PlotType_Cartesian2D) {
-        paintPicture(canvas, area, [&](QSize pixels, int samples) {
-            return m_scene.picture(axes.xScale(), axes.yScale(), pixels, samples);
-        });
+        paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(axes.xScale(), axes.yScale(), pixels); });
     } else {
         LinePlot(*m_dataSet, style)
             .paintCurves(canvas, area, axes.xScale(), axes.yScale(), m_frameHeight / canvas.inch);
@@ -201,8 +199,7 @@ void FramePainter::paintThreeD(const Canvas& canvas, const PlotMeasures& measure
     m_plot.camera = Camera3D(view, box, area.width() / area.height(), margin);
     const AxisBoxPainter axes(canvas, measures, style.axes, *m_plot.camera, style.axisScale, area);
     axes.paintBack();
-    paintPicture(canvas, area,
-                 [&](QSize pixels, int samples) { return m_scene.picture(*m_plot.camera, pixels, samples); });
+    paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(*m_plot.camera, pixels); });
     axes.paintAxes();
 }
 
@@ -219,8 +216,8 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     if (key != m_key || m_picture.isNull()) {
         const double height = m_frameHeight * canvas.resolution();
         const QSize size = isCoarse ? pixels / 2 : pixels;
-        m_scene.update(*m_dataSet, m_plot.style, isCoarse ? 0.5 * height : height);
-        m_picture = render(size.expandedTo({1, 1}), isCoarse ? 0 : smoothSamples);
+        m_scene.update(*m_dataSet, m_plot.style, isCoarse ? 0.5 * height : height, isCoarse ? 0 : smoothSamples);
+        m_picture = render(size.expandedTo({1, 1}));
         m_key = key;
         ++m_renderCount;
     }

@@ -6,6 +6,7 @@
 #include <vtkRendererCollection.h>
 #include <vtkUnsignedCharArray.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 // Registers the implementations behind VTK's rendering interfaces with the program that this is linked into.
@@ -31,6 +32,32 @@ void OffscreenWindow::forget(vtkRenderer* renderer)
 
 QImage OffscreenWindow::render(vtkRenderer* renderer, QSize pixels, int samples)
 {
+    // Over clear black, smoothed edges come out as colour times coverage: premultiplied, as Qt composes fastest.
+    return picture(renderer, pixels, samples, 0.0, 0.0);
+}
+
+QImage OffscreenWindow::renderTranslucent(vtkRenderer* renderer, QSize pixels, int samples)
+{
+    // What peeling leaves in the alpha channel is not the coverage; how much a white background brightens a pixel is.
+    QImage overBlack = picture(renderer, pixels, samples, 0.0, 1.0);
+    const QImage overWhite = picture(renderer, pixels, samples, 1.0, 1.0);
+    for (int y = 0; y < overBlack.height(); ++y) {
+        auto* dark = reinterpret_cast<QRgb*>(overBlack.scanLine(y));
+        const auto* bright = reinterpret_cast<const QRgb*>(overWhite.constScanLine(y));
+        for (int x = 0; x < overBlack.width(); ++x) {
+            const int background = (qRed(bright[x]) - qRed(dark[x]) + qGreen(bright[x]) - qGreen(dark[x]) +
+                                    qBlue(bright[x]) - qBlue(dark[x])) /
+                                   3;
+            const int coverage = std::clamp(255 - background, 0, 255);
+            dark[x] = qRgba(std::min(qRed(dark[x]), coverage), std::min(qGreen(dark[x]), coverage),
+                            std::min(qBlue(dark[x]), coverage), coverage);
+        }
+    }
+    return overBlack;
+}
+
+QImage OffscreenWindow::picture(vtkRenderer* renderer, QSize pixels, int samples, double background, double alpha)
+{
     if (pixels.isEmpty() || !isAvailable()) {
         return {};
     }
@@ -41,9 +68,8 @@ QImage OffscreenWindow::render(vtkRenderer* renderer, QSize pixels, int samples)
     }
     m_window->SetMultiSamples(samples);
     m_window->SetSize(pixels.width(), pixels.height());
-    // Over clear black, smoothed edges come out as colour times coverage: premultiplied, as Qt composes fastest.
-    renderer->SetBackground(0.0, 0.0, 0.0);
-    renderer->SetBackgroundAlpha(0.0);
+    renderer->SetBackground(background, background, background);
+    renderer->SetBackgroundAlpha(alpha);
     if (!m_window->HasRenderer(renderer)) {
         m_window->AddRenderer(renderer);
     }

@@ -25,6 +25,9 @@ public:
      */
     QImage render(vtkRenderer* renderer, QSize pixels, int samples);
 
+    /* The same for what has translucent surfaces; takes twice as long. */
+    QImage renderTranslucent(vtkRenderer* renderer, QSize pixels, int samples);
+
     /* Drops what is kept on the graphics card for a renderer; called before it is destroyed. */
     void forget(vtkRenderer* renderer);
 
@@ -32,6 +35,8 @@ public:
     static bool isAvailable();
 
 private:
+    QImage picture(vtkRenderer* renderer, QSize pixels, int samples, double background, double alpha);
+
     vtkSmartPointer<vtkRenderWindow> m_window;
 };
 

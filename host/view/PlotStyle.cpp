@@ -10,7 +10,6 @@
 namespace vantrix::view {
 namespace {
 
-constexpr long firstContourColor = 64; /* colour numbers from here on mean "by contour group" */
 constexpr long contourGroupCount = 8;
 constexpr std::array<const char*, 3> detailNames{"XDetail", "YDetail", "ZDetail"};
 
@@ -90,6 +89,12 @@ ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataS
     group.isContinuous = style.flag("ColorMap/IsContinuous");
     group.isReversed = style.flag("ColorMap/IsReversed");
     group.colorMap = style.text("ColorMap/Name");
+    if (style.flag("ColorCutoff/UseMin")) {
+        group.cutoff.minimum = style.real("ColorCutoff/Min");
+    }
+    if (style.flag("ColorCutoff/UseMax")) {
+        group.cutoff.maximum = style.real("ColorCutoff/Max");
+    }
     group.hasLegend = style.flag("Legend/Show");
     const double first = style.real("Levels/Min");
     const double last = style.real("Levels/Max");
@@ -100,47 +105,6 @@ ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataS
         group.levels.push_back(std::abs(level) < 1e-12 * (last - first) ? 0.0 : level);
     }
     return group;
-}
-
-QColor lineColor(const StyleReader& style)
-{
-    const long number = style.integer("Color");
-    return indexedColor(number < firstContourColor ? number : 0);
-}
-
-ZoneStyle readZone(const StyleReader& style, const StyleReader& layers, long number)
-{
-    ZoneStyle zone;
-    zone.zone = number;
-    const StyleReader mesh = style.below("Mesh");
-    const StyleReader contour = style.below("Contour");
-    const StyleReader shade = style.below("Shade");
-    const StyleReader edge = style.below("Edge");
-    const StyleReader effects = style.below("Effects");
-    const bool hasSurface = style.enumerator<SurfacesToPlot_e>("Surfaces/SurfacesToPlot") != SurfacesToPlot_None;
-    zone.hasMesh = layers.flag("ShowMesh") && mesh.flag("Show") && hasSurface;
-    zone.hasContour = layers.flag("ShowContour") && contour.flag("Show") && hasSurface;
-    zone.hasShade = layers.flag("ShowShade") && shade.flag("Show") && hasSurface;
-    zone.hasEdge = layers.flag("ShowEdge") && edge.flag("Show");
-    zone.meshType = mesh.enumerator<MeshType_e>("MeshType");
-    zone.meshColor = lineColor(mesh);
-    zone.meshThickness = mesh.real("LineThickness");
-    zone.contourType = contour.enumerator<ContourType_e>("ContourType");
-    zone.floodGroup = std::clamp(contour.integer("FloodColoring"), 1L, contourGroupCount);
-    zone.lineGroup = std::clamp(contour.integer("LineContourGroup"), 1L, contourGroupCount);
-    zone.contourLineColor = lineColor(contour);
-    zone.isContourLineColored = contour.integer("Color") >= firstContourColor;
-    zone.contourThickness = contour.real("LineThickness");
-    zone.isContourLit = layers.flag("UseLightingEffect") && contour.flag("UseLightingEffect");
-    zone.shadeColor = shade.color("Color");
-    zone.isShadeLit = layers.flag("UseLightingEffect") && shade.flag("UseLightingEffect");
-    zone.edgeColor = edge.color("Color");
-    zone.edgeThickness = edge.real("LineThickness");
-    zone.lighting = effects.enumerator<LightingEffect_e>("LightingEffect");
-    if (layers.flag("UseTranslucency") && effects.flag("UseTranslucency")) {
-        zone.opacity = 1.0 - double(effects.integer("SurfaceTranslucency")) / 100.0;
-    }
-    return zone;
 }
 
 View3D readView(const StyleReader& style)
@@ -196,9 +160,11 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
     const long activeEntry = store.entry("ActiveFieldMaps");
     for (long zone = 1; zone <= dataSet.zoneCount(); ++zone) {
         if (dataSet.zoneEnabled[std::size_t(zone - 1)] && store.flag(frame, activeEntry, zone)) {
-            plot.zones.push_back(readZone(StyleReader(store, frame, "FieldMap", zone), layers, zone));
+            plot.zones.push_back(ZoneStyle::read(StyleReader(store, frame, "FieldMap", zone), layers, zone));
         }
     }
+    plot.vectors = VectorScaleStyle::read(style);
+    plot.scatter = ScatterScaleStyle::read(style);
     if (plot.type == PlotType_Cartesian3D) {
         plot.view = readView(style.below("ThreeDView"));
         plot.light = readLight(style.below("GlobalThreeD/LightSource"));

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "api/VtxEnumerations.h"
+#include "view/ZoneStyle.h"
 
 #include <QColor>
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,16 @@ struct AxisStyle
     bool operator==(const AxisStyle&) const = default;
 };
 
+/* The values that have a colour; what lies beyond is left away. */
+struct ColorCutoff
+{
+    std::optional<double> minimum;
+    std::optional<double> maximum;
+
+    bool isActive() const { return minimum || maximum; }
+    bool operator==(const ColorCutoff&) const = default;
+};
+
 struct ContourGroupStyle
 {
     long variable = 0;
@@ -47,38 +59,11 @@ struct ContourGroupStyle
     bool isContinuous = false;
     bool isReversed = false;
     std::string colorMap;
+    ColorCutoff cutoff;
     bool hasLegend = true;
     std::string title;
 
     bool operator==(const ContourGroupStyle&) const = default;
-};
-
-/* The layers of one zone, already combined with the layers of the frame: what is false is not drawn. */
-struct ZoneStyle
-{
-    long zone = 0;
-    bool hasMesh = false;
-    bool hasContour = false;
-    bool hasShade = false;
-    bool hasEdge = false;
-    MeshType_e meshType = MeshType_Overlay;
-    ContourType_e contourType = ContourType_Flood;
-    long floodGroup = 1;
-    long lineGroup = 1;
-    QColor meshColor = Qt::black;
-    QColor shadeColor = Qt::lightGray;
-    QColor edgeColor = Qt::black;
-    QColor contourLineColor = Qt::black;
-    bool isContourLineColored = false; /* by the lines' contour group */
-    double meshThickness = 0.1;        /* thicknesses are per cent of the frame's height */
-    double edgeThickness = 0.2;
-    double contourThickness = 0.1;
-    bool isContourLit = true;
-    bool isShadeLit = true;
-    LightingEffect_e lighting = LightingEffect_Gouraud;
-    double opacity = 1.0;
-
-    bool operator==(const ZoneStyle&) const = default;
 };
 
 /*
@@ -150,6 +135,8 @@ struct PlotStyle
     LightStyle light;
     std::vector<ContourGroupStyle> contourGroups; /* group 1 first */
     std::vector<ZoneStyle> zones;
+    VectorScaleStyle vectors;
+    ScatterScaleStyle scatter;
     std::vector<LineMapStyle> lineMaps;
     bool hasLineLegend = true;
     FrameStyle frame;

@@ -1,25 +1,27 @@
 #pragma once
 
-#include "kernel/FieldArray.h"
-#include "view/ContourColors.h"
-#include "view/PlotStyle.h"
+#include "view/ZonePoints.h"
+#include "view/ZoneSurface.h"
+#include "view/layers/ContourLineLayer.h"
+#include "view/layers/EdgeLayer.h"
+#include "view/layers/FloodLayer.h"
+#include "view/layers/MeshLayer.h"
+#include "view/layers/ScatterLayer.h"
+#include "view/layers/ShadeLayer.h"
+#include "view/layers/VectorLayer.h"
 
-#include <vtkSmartPointer.h>
-
-#include <memory>
-
-class vtkDataSet;
-class vtkPolyData;
-class vtkRenderer;
+#include <array>
+#include <functional>
 
 namespace vantrix::view {
 
-/* What the zones of a plot have in common. */
-struct LayerContext
+/* What the layers of a zone show besides its shape. */
+struct ZoneValues
 {
-    bool isThreeD = false;
-    double pixelsPerPercent = 1.0; /* pixels to one per cent of the frame's height */
-    LightStyle light;
+    /* The values of a contour group (from 1) in the zone, or null. Asked only for what a shown layer needs. */
+    std::function<const ContourValues*(long group)> contour;
+    std::array<kernel::FieldArray, 3> vectors;
+    kernel::FieldArray sizes; /* of symbols */
 };
 
 /*
@@ -31,53 +33,25 @@ class ZoneLayers
 {
 public:
     explicit ZoneLayers(vtkRenderer* renderer);
-    ~ZoneLayers();
-    ZoneLayers(const ZoneLayers&) = delete;
-    ZoneLayers& operator=(const ZoneLayers&) = delete;
 
-    /* The zone's points and cells as they are to be drawn. Volumes show their outer surface. */
-    void setGeometry(vtkDataSet* geometry);
+    /* `geometry` holds the zone's points and cells as they are to be drawn. */
+    void update(vtkDataSet* geometry, const ZoneStyle& style, const ZoneValues& values, const LayerContext& context);
 
-    /* Flood and line variables; null where the zone does not have them. */
-    void setContour(const kernel::FieldArray* flood, const ContourColors* floodColors, const kernel::FieldArray* lines,
-                    const ContourColors* lineColors);
-
-    void apply(const ZoneStyle& style, const LayerContext& context);
-
-    /* Places the layers in the renderer's world: a scaling and a shift of each coordinate. */
-    void place(const double scale[3], const double shift[3]);
+    void place(const Placement& placement);
 
     /* The number of polygons and lines of the surface. */
-    long surfaceCellCount() const;
+    long surfaceCellCount();
 
 private:
-    struct Layer;
-
-    vtkPolyData* litSurface();
-    vtkSmartPointer<vtkPolyData> colored(vtkPolyData* surface, const kernel::FieldArray& field) const;
-    void updateFlood();
-    void updateLines();
-    void updateEdges();
-
-    vtkRenderer* m_renderer;
-    vtkSmartPointer<vtkDataSet> m_geometry;
-    vtkSmartPointer<vtkPolyData> m_surface;
-    vtkSmartPointer<vtkPolyData> m_litSurface;
-    vtkSmartPointer<vtkPolyData> m_edges;
-
-    kernel::FieldArray m_floodField;
-    kernel::FieldArray m_lineField;
-    ContourColors m_floodColors;
-    ContourColors m_lineColors;
-    vtkSmartPointer<vtkPolyData> m_flood;
-    vtkSmartPointer<vtkPolyData> m_lines;
-    bool m_isFloodAveraged = false;
-
-    std::unique_ptr<Layer> m_shadeLayer;
-    std::unique_ptr<Layer> m_floodLayer;
-    std::unique_ptr<Layer> m_linesLayer;
-    std::unique_ptr<Layer> m_meshLayer;
-    std::unique_ptr<Layer> m_edgeLayer;
+    ZoneSurface m_surface;
+    ZonePoints m_points;
+    ShadeLayer m_shade;
+    FloodLayer m_flood;
+    MeshLayer m_mesh;
+    ContourLineLayer m_lines;
+    EdgeLayer m_edges;
+    VectorLayer m_vectors;
+    ScatterLayer m_scatter;
 };
 
 } // namespace vantrix::view

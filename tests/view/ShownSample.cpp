@@ -44,7 +44,7 @@ void ShownSample::set(const std::string& path, const kernel::StyleData& value, l
     kernel.lock().finish();
 }
 
-double ShownSample::real(const std::string& path) const
+double ShownSample::real(const std::string& path, long offset) const
 {
-    return kernel.style().real(frame().id(), kernel.style().entry(path.c_str()));
+    return kernel.style().real(frame().id(), kernel.style().entry(path.c_str()), offset);
 }

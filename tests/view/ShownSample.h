@@ -21,5 +21,5 @@ public:
     vantrix::kernel::Frame& frame() const;
 
     void set(const std::string& path, const vantrix::kernel::StyleData& value, long offset = -1);
-    double real(const std::string& path) const;
+    double real(const std::string& path, long offset = -1) const;
 };

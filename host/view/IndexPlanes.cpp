@@ -1,0 +1,135 @@
+#include "view/IndexPlanes.h"
+
+#include <vtkCellArray.h>
+#include <vtkCellData.h>
+#include <vtkIdTypeArray.h>
+#include <vtkPointData.h>
+#include <vtkPoints.h>
+#include <vtkPolyData.h>
+#include <vtkStructuredGrid.h>
+
+#include <algorithm>
+#include <array>
+
+namespace vantrix::view {
+namespace {
+
+using Index = std::array<vtkIdType, 3>;
+
+vtkIdType number(const Index& index, const Index& size)
+{
+    return (index[2] * size[1] + index[1]) * size[0] + index[0];
+}
+
+class PlaneBuilder
+{
+public:
+    PlaneBuilder(vtkStructuredGrid& grid, const char* pointNumbers, const char* cellNumbers)
+        : m_grid(grid)
+    {
+        std::array<int, 3> size{};
+        grid.GetDimensions(size.data());
+        std::copy(size.begin(), size.end(), m_points.begin());
+        std::transform(m_points.begin(), m_points.end(), m_cells.begin(),
+                       [](vtkIdType points) { return std::max<vtkIdType>(1, points - 1); });
+        m_pointNumbers->SetName(pointNumbers);
+        m_cellNumbers->SetName(cellNumbers);
+        m_coordinates->SetDataType(grid.GetPoints()->GetDataType());
+    }
+
+    void addPlane(std::size_t axis, vtkIdType at)
+    {
+        const std::size_t across = (axis + 1) % 3;
+        const std::size_t up = (axis + 2) % 3;
+        const vtkIdType first = m_coordinates->GetNumberOfPoints();
+        Index index{};
+        index[axis] = at;
+        for (index[up] = 0; index[up] < m_points[up]; ++index[up]) {
+            for (index[across] = 0; index[across] < m_points[across]; ++index[across]) {
+                const vtkIdType point = number(index, m_points);
+                std::array<double, 3> place{};
+                m_grid.GetPoints()->GetPoint(point, place.data());
+                m_coordinates->InsertNextPoint(place.data());
+                m_pointNumbers->InsertNextValue(point);
+            }
+        }
+        index[axis] = std::min(at, m_cells[axis] - 1);
+        const vtkIdType row = m_points[across];
+        for (index[up] = 0; index[up] + 1 < m_points[up]; ++index[up]) {
+            for (index[across] = 0; index[across] + 1 < m_points[across]; ++index[across]) {
+                const vtkIdType corner = first + index[up] * row + index[across];
+                m_quads->InsertNextCell({corner, corner + 1, corner + 1 + row, corner + row});
+                m_cellNumbers->InsertNextValue(number(index, m_cells));
+            }
+        }
+    }
+
+    vtkIdType planeCount(std::size_t axis) const { return m_points[axis]; }
+
+    vtkSmartPointer<vtkPolyData> result() const
+    {
+        const auto planes = vtkSmartPointer<vtkPolyData>::New();
+        planes->SetPoints(m_coordinates);
+        planes->SetPolys(m_quads);
+        planes->GetPointData()->AddArray(m_pointNumbers);
+        planes->GetCellData()->AddArray(m_cellNumbers);
+        return planes;
+    }
+
+private:
+    vtkStructuredGrid& m_grid;
+    Index m_points{};
+    Index m_cells{};
+    vtkSmartPointer<vtkPoints> m_coordinates = vtkSmartPointer<vtkPoints>::New();
+    vtkSmartPointer<vtkCellArray> m_quads = vtkSmartPointer<vtkCellArray>::New();
+    vtkSmartPointer<vtkIdTypeArray> m_pointNumbers = vtkSmartPointer<vtkIdTypeArray>::New();
+    vtkSmartPointer<vtkIdTypeArray> m_cellNumbers = vtkSmartPointer<vtkIdTypeArray>::New();
+};
+
+} // namespace
+
+bool hasPlanes(SurfacesToPlot_e faces, std::size_t axis)
+{
+    switch (faces) {
+    case SurfacesToPlot_IPlanes:
+        return axis == 0;
+    case SurfacesToPlot_JPlanes:
+        return axis == 1;
+    case SurfacesToPlot_KPlanes:
+        return axis == 2;
+    case SurfacesToPlot_IJPlanes:
+        return axis != 2;
+    case SurfacesToPlot_JKPlanes:
+        return axis != 0;
+    case SurfacesToPlot_IKPlanes:
+        return axis != 1;
+    case SurfacesToPlot_IJKPlanes:
+    case SurfacesToPlot_EveryFace:
+        return true;
+    case SurfacesToPlot_None:
+    case SurfacesToPlot_BoundaryFaces:
+    case SurfacesToPlot_ExposedFaces:
+        break;
+    }
+    return false;
+}
+
+vtkSmartPointer<vtkPolyData> indexPlanes(vtkStructuredGrid& grid, const SurfaceSelection& selection,
+                                         const char* pointNumbers, const char* cellNumbers)
+{
+    PlaneBuilder builder(grid, pointNumbers, cellNumbers);
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (!hasPlanes(selection.faces, axis)) {
+            continue;
+        }
+        const IndexRange range = selection.faces == SurfacesToPlot_EveryFace ? IndexRange{} : selection.planes[axis];
+        const vtkIdType count = builder.planeCount(axis);
+        const vtkIdType last = range.last > 0 ? std::min<vtkIdType>(range.last, count) : count;
+        for (vtkIdType plane = std::max(1L, range.first); plane <= last; plane += std::max(1L, range.skip)) {
+            builder.addPlane(axis, plane - 1);
+        }
+    }
+    return builder.result();
+}
+
+} // namespace vantrix::view

@@ -1,0 +1,120 @@
+#include "view/ZoneStyle.h"
+
+#include "view/StyleReader.h"
+
+#include <algorithm>
+
+namespace vantrix::view {
+namespace {
+
+constexpr long firstContourColor = 64; /* colour numbers from here on mean "by contour group" */
+constexpr long contourGroupCount = 8;
+
+LayerColor readColor(const StyleReader& style, const char* key = "Color")
+{
+    const long number = style.integer(key);
+    if (number < firstContourColor) {
+        return {indexedColor(number), 0};
+    }
+    return {Qt::black, std::min(number - firstContourColor + 1, contourGroupCount)};
+}
+
+SurfaceSelection readSurfaces(const StyleReader& style)
+{
+    SurfaceSelection surfaces;
+    surfaces.faces = style.enumerator<SurfacesToPlot_e>("SurfacesToPlot");
+    constexpr std::array<const char*, 3> ranges{"IRange", "JRange", "KRange"};
+    for (std::size_t i = 0; i < ranges.size(); ++i) {
+        const StyleReader range = style.below(ranges[i]);
+        surfaces.planes[i] = {range.integer("Min"), range.integer("Max"), range.integer("Skip")};
+    }
+    return surfaces;
+}
+
+MeshStyle readMesh(const StyleReader& style, bool isLayerShown)
+{
+    return {isLayerShown && style.flag("Show"), style.enumerator<MeshType_e>("MeshType"), readColor(style),
+            style.real("LineThickness")};
+}
+
+ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit)
+{
+    return {isLayerShown && style.flag("Show"),
+            style.enumerator<ContourType_e>("ContourType"),
+            std::clamp(style.integer("FloodColoring"), 1L, contourGroupCount),
+            std::clamp(style.integer("LineContourGroup"), 1L, contourGroupCount),
+            readColor(style),
+            style.real("LineThickness"),
+            isLit && style.flag("UseLightingEffect")};
+}
+
+VectorStyle readVector(const StyleReader& style, bool isLayerShown)
+{
+    return {isLayerShown && style.flag("Show"),
+            style.enumerator<VectorType_e>("VectorType"),
+            style.enumerator<ArrowheadStyle_e>("ArrowheadStyle"),
+            style.flag("IsTangent"),
+            readColor(style),
+            style.real("LineThickness")};
+}
+
+ScatterStyle readScatter(const StyleReader& style, bool isLayerShown)
+{
+    return {isLayerShown && style.flag("Show"),
+            style.enumerator<GeomShape_e>("SymbolShape/GeomShape"),
+            readColor(style),
+            style.flag("IsFilled"),
+            readColor(style, "FillColor"),
+            style.flag("SizeByVariable"),
+            style.real("FrameSize"),
+            style.real("LineThickness")};
+}
+
+} // namespace
+
+ZoneStyle ZoneStyle::read(const StyleReader& map, const StyleReader& layers, long zone)
+{
+    ZoneStyle style;
+    style.zone = zone;
+    const bool isLit = layers.flag("UseLightingEffect");
+    style.surfaces = readSurfaces(map.below("Surfaces"));
+    style.mesh = readMesh(map.below("Mesh"), layers.flag("ShowMesh"));
+    style.contour = readContour(map.below("Contour"), layers.flag("ShowContour"), isLit);
+    style.vector = readVector(map.below("Vector"), layers.flag("ShowVector"));
+    style.scatter = readScatter(map.below("Scatter"), layers.flag("ShowScatter"));
+    const StyleReader shade = map.below("Shade");
+    style.shade = {layers.flag("ShowShade") && shade.flag("Show"), shade.color("Color"),
+                   isLit && shade.flag("UseLightingEffect")};
+    const StyleReader edge = map.below("Edge");
+    style.edge = {layers.flag("ShowEdge") && edge.flag("Show"), edge.enumerator<EdgeType_e>("EdgeType"),
+                  edge.color("Color"), edge.real("LineThickness")};
+    const StyleReader points = map.below("Points");
+    style.points = {points.enumerator<PointsToPlot_e>("PointsToPlot"),
+                    {points.integer("ISkip"), points.integer("JSkip"), points.integer("KSkip")}};
+    const StyleReader effects = map.below("Effects");
+    style.lighting = effects.enumerator<LightingEffect_e>("LightingEffect");
+    if (layers.flag("UseTranslucency") && effects.flag("UseTranslucency")) {
+        style.opacity = 1.0 - double(effects.integer("SurfaceTranslucency")) / 100.0;
+    }
+    return style;
+}
+
+VectorScaleStyle VectorScaleStyle::read(const StyleReader& frame)
+{
+    const StyleReader variables = frame.below("GlobalStream");
+    const StyleReader style = frame.below("GlobalVector");
+    return {{variables.integer("UVar"), variables.integer("VVar"), variables.integer("WVar")},
+            style.flag("UseRelative"),
+            style.real("RelativeLength"),
+            style.real("UniformLength"),
+            style.real("HeadSizeAsFraction"),
+            style.real("HeadAngle")};
+}
+
+ScatterScaleStyle ScatterScaleStyle::read(const StyleReader& frame)
+{
+    const StyleReader style = frame.below("GlobalScatter");
+    return {style.integer("Var"), style.real("RelativeSize")};
+}
+
+} // namespace vantrix::view

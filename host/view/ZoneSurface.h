@@ -1,0 +1,57 @@
+#pragma once
+
+#include "kernel/FieldArray.h"
+#include "view/ZoneStyle.h"
+
+#include <vtkSmartPointer.h>
+
+#include <map>
+
+class vtkDataSet;
+class vtkIdTypeArray;
+class vtkPolyData;
+
+namespace vantrix::view {
+
+/*
+ * What of a zone is drawn: its surface (of a volume the chosen faces or planes, of other zones all cells), the same
+ * with normals, and its edges. Each is made on demand and kept until the geometry or the selection is another one; then
+ * revision() moves.
+ */
+class ZoneSurface
+{
+public:
+    /* The name of the array that withValues() adds. */
+    static constexpr auto valuesName = "vxContour";
+
+    /* The zone's points and cells as they are to be drawn; shared, not written to. Null for nothing. */
+    void set(vtkDataSet* geometry, const SurfaceSelection& selection);
+
+    unsigned long revision() const { return m_revision; }
+
+    vtkDataSet* geometry() const { return m_geometry; }
+    bool isEmpty();
+
+    vtkPolyData* surface();
+    vtkPolyData* litSurface();
+    vtkPolyData* edges(EdgeType_e type);
+
+    /* The zone's number, from 0, of each point and cell of the surface. Null without a surface. */
+    vtkIdTypeArray* pointNumbers();
+    vtkIdTypeArray* cellNumbers();
+
+    /* A surface, lit or not, with a field's values at its points or cells as scalars; single precision. */
+    vtkSmartPointer<vtkPolyData> withValues(vtkPolyData* surface, const kernel::FieldArray& field) const;
+
+private:
+    vtkSmartPointer<vtkPolyData> makeSurface() const;
+
+    vtkSmartPointer<vtkDataSet> m_geometry;
+    SurfaceSelection m_selection;
+    unsigned long m_revision = 0;
+    vtkSmartPointer<vtkPolyData> m_surface;
+    vtkSmartPointer<vtkPolyData> m_litSurface;
+    std::map<EdgeType_e, vtkSmartPointer<vtkPolyData>> m_edges;
+};
+
+} // namespace vantrix::view

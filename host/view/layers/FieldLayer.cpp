@@ -1,0 +1,106 @@
+#include "view/layers/FieldLayer.h"
+
+#include <vtkActor.h>
+#include <vtkLookupTable.h>
+#include <vtkMapper.h>
+#include <vtkProperty.h>
+#include <vtkRenderer.h>
+
+#include <algorithm>
+
+namespace vantrix::view {
+
+float LayerContext::lineWidth(double percent) const
+{
+    return static_cast<float>(std::max(1.0, percent * pixelsPerPercent));
+}
+
+std::array<double, 3> Placement::place(const std::array<double, 3>& point) const
+{
+    return {point[0] * scale[0] + shift[0], point[1] * scale[1] + shift[1], point[2] * scale[2] + shift[2]};
+}
+
+FieldLayer::FieldLayer(vtkRenderer* renderer, vtkSmartPointer<vtkMapper> mapper, double order)
+    : m_renderer(renderer)
+    , m_mapper(std::move(mapper))
+    , m_actor(vtkSmartPointer<vtkActor>::New())
+    , m_order(order)
+{
+    m_mapper->ScalarVisibilityOff();
+    m_mapper->SetResolveCoincidentTopologyToPolygonOffset();
+    m_mapper->SetRelativeCoincidentTopologyLineOffsetParameters(0.0, -2.0 * order);
+    m_mapper->SetRelativeCoincidentTopologyPointOffsetParameter(-2.0 * order);
+    m_mapper->SetRelativeCoincidentTopologyPolygonOffsetParameters(0.0, -2.0 * order);
+    m_actor->SetMapper(m_mapper);
+    m_actor->VisibilityOff();
+    m_renderer->AddActor(m_actor);
+}
+
+FieldLayer::~FieldLayer()
+{
+    m_renderer->RemoveActor(m_actor);
+}
+
+void FieldLayer::place(const Placement& placement)
+{
+    // A flat plot has no depth of its own; its layers lie above each other.
+    const bool isFlat = placement.isFlat();
+    m_actor->SetScale(placement.scale[0], placement.scale[1], isFlat ? 1.0 : placement.scale[2]);
+    m_actor->SetPosition(placement.shift[0], placement.shift[1], isFlat ? m_order : placement.shift[2]);
+}
+
+vtkActor& FieldLayer::actor() const
+{
+    return *m_actor;
+}
+
+void FieldLayer::setShown(bool isShown)
+{
+    m_actor->SetVisibility(isShown);
+}
+
+bool FieldLayer::isShown() const
+{
+    return m_actor->GetVisibility() != 0;
+}
+
+void FieldLayer::setColor(const QColor& color)
+{
+    m_mapper->ScalarVisibilityOff();
+    m_actor->GetProperty()->SetColor(color.redF(), color.greenF(), color.blueF());
+}
+
+void FieldLayer::setColors(const ContourColors& colors, bool byCell)
+{
+    m_mapper->ScalarVisibilityOn();
+    if (byCell) {
+        m_mapper->SetScalarModeToUseCellData();
+    } else {
+        m_mapper->SetScalarModeToUsePointData();
+    }
+    m_mapper->SetInterpolateScalarsBeforeMapping(!byCell);
+    m_mapper->SetLookupTable(colors.table);
+    m_mapper->UseLookupTableScalarRangeOn();
+}
+
+void FieldLayer::setLines(float width)
+{
+    m_actor->GetProperty()->LightingOff();
+    m_actor->GetProperty()->SetLineWidth(width);
+}
+
+void FieldLayer::setLighting(LightingEffect_e effect, double opacity, bool isLit, const LayerContext& context)
+{
+    vtkProperty* property = m_actor->GetProperty();
+    property->SetLighting(isLit && context.isThreeD);
+    property->SetInterpolation(effect == LightingEffect_Paneled ? VTK_FLAT : VTK_GOURAUD);
+    // Sides turned away from the light keep enough of their colour to be found in the legend.
+    property->SetAmbient(0.25 + 0.75 * context.light.background);
+    property->SetDiffuse(0.8 * context.light.intensity);
+    // A highlight at full strength would hide the colour that is to be read.
+    property->SetSpecular(context.light.hasHighlights ? 0.25 * context.light.highlight : 0.0);
+    property->SetSpecularPower(1.0 + 0.5 * context.light.shininess);
+    property->SetOpacity(opacity);
+}
+
+} // namespace vantrix::view

@@ -1,0 +1,106 @@
+#include "view/layers/FloodLayer.h"
+
+#include "view/ZoneSurface.h"
+
+#include <vtkActor.h>
+#include <vtkCellData.h>
+#include <vtkClipPolyData.h>
+#include <vtkFloatArray.h>
+#include <vtkGeometryFilter.h>
+#include <vtkPointData.h>
+#include <vtkPolyData.h>
+#include <vtkProperty.h>
+#include <vtkThreshold.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace vantrix::view {
+namespace {
+
+/* One value a cell of a nodal field: the mean of the corners, or that of the first corner. */
+void makeCellValues(vtkPolyData& surface, bool isMean)
+{
+    vtkDataArray* points = surface.GetPointData()->GetScalars();
+    const auto cells = vtkSmartPointer<vtkFloatArray>::New();
+    cells->SetName(points->GetName());
+    cells->SetNumberOfTuples(surface.GetNumberOfCells());
+    vtkIdType count = 0;
+    const vtkIdType* corners = nullptr;
+    surface.BuildCells();
+    for (vtkIdType cell = 0; cell < surface.GetNumberOfCells(); ++cell) {
+        surface.GetCellPoints(cell, count, corners);
+        const vtkIdType taken = isMean ? count : std::min<vtkIdType>(count, 1);
+        double sum = 0.0;
+        for (vtkIdType i = 0; i < taken; ++i) {
+            sum += points->GetComponent(corners[i], 0);
+        }
+        cells->SetValue(cell, taken > 0 ? static_cast<float>(sum / double(taken)) : 0.0F);
+    }
+    surface.GetCellData()->SetScalars(cells);
+    surface.GetPointData()->SetActiveScalars(nullptr);
+}
+
+vtkSmartPointer<vtkPolyData> clipped(vtkPolyData* surface, double at, bool isAboveKept)
+{
+    const auto filter = vtkSmartPointer<vtkClipPolyData>::New();
+    filter->SetInputData(surface);
+    filter->SetValue(at);
+    filter->SetInsideOut(!isAboveKept);
+    filter->Update();
+    return filter->GetOutput();
+}
+
+/* The part of a surface whose values a cutoff leaves. */
+vtkSmartPointer<vtkPolyData> cutOff(vtkSmartPointer<vtkPolyData> surface, const ColorCutoff& cutoff, bool byCell)
+{
+    if (byCell) {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        const auto threshold = vtkSmartPointer<vtkThreshold>::New();
+        threshold->SetInputData(surface);
+        threshold->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_CELLS,
+                                          vtkDataSetAttributes::SCALARS);
+        threshold->SetThresholdFunction(vtkThreshold::THRESHOLD_BETWEEN);
+        threshold->SetLowerThreshold(cutoff.minimum.value_or(-infinity));
+        threshold->SetUpperThreshold(cutoff.maximum.value_or(infinity));
+        const auto polygons = vtkSmartPointer<vtkGeometryFilter>::New();
+        polygons->SetInputConnection(threshold->GetOutputPort());
+        polygons->Update();
+        return polygons->GetOutput();
+    }
+    if (cutoff.minimum) {
+        surface = clipped(surface, *cutoff.minimum, true);
+    }
+    if (cutoff.maximum) {
+        surface = clipped(surface, *cutoff.maximum, false);
+    }
+    return surface;
+}
+
+} // namespace
+
+void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const ContourValues* values,
+                        const LayerContext& context)
+{
+    setShown(style.contour.hasFlood() && values && values->field.values && !surface.isEmpty());
+    if (!isShown()) {
+        return;
+    }
+    const ContourType_e type = style.contour.type;
+    const bool isFlat = values->field.location == ValueLocation_CellCentered || type == ContourType_AverageCell ||
+                        type == ContourType_PrimaryValue;
+    const Source source{surface.revision(), values->field.values, values->field.location, type, values->colors.cutoff};
+    if (source != m_source) {
+        m_source = source;
+        vtkSmartPointer<vtkPolyData> flood = surface.withValues(surface.litSurface(), values->field);
+        if (isFlat && values->field.location == ValueLocation_Nodal) {
+            makeCellValues(*flood, type == ContourType_AverageCell);
+        }
+        setGeometry(source.cutoff.isActive() ? cutOff(flood, source.cutoff, isFlat) : flood);
+    }
+    setColors(values->colors, isFlat);
+    setLighting(style.lighting, style.opacity, style.contour.isLit, context);
+    actor().GetProperty()->SetLineWidth(context.lineWidth(std::max(style.mesh.thickness, 0.3)));
+}
+
+} // namespace vantrix::view
