@@ -1,6 +1,8 @@
 #include "app/SideBar.h"
 
 #include "api/VtxUtil.h"
+#include "app/VariableBox.h"
+#include "app/VectorVariablesDialog.h"
 #include "app/ZoneListView.h"
 #include "sdk/AppLock.h"
 #include "toolbox/HostString.h"
@@ -8,7 +10,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace vantrix::app {
@@ -37,6 +41,8 @@ struct Layer
 const Layer layers[] = {
     {"ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Mesh")},
     {"ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Contour")},
+    {"ShowVector", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Vector")},
+    {"ShowScatter", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&catter")},
     {"ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&hade")},
     {"ShowEdge", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ed&ge")},
 };
@@ -84,14 +90,25 @@ void SideBar::setUpPlotType()
 
 void SideBar::setUpLayers()
 {
-    auto* layout = new QVBoxLayout(m_layers);
+    auto* layout = new QGridLayout(m_layers);
+    layout->setColumnStretch(1, 1);
     for (const Layer& layer : layers) {
         auto* box = new QCheckBox(tr(layer.text), m_layers);
         box->setObjectName(QLatin1StringView(layer.styleName));
-        layout->addWidget(box);
+        layout->addWidget(box, layout->rowCount(), 0);
         connect(box, &QCheckBox::clicked, this, [this, box](bool isOn) { setLayer(*box, isOn); });
         m_layerBoxes << box;
     }
+    m_contourVariable = new VariableBox(toolbox::StyleValue("GlobalContour", "Var"), 1, false, m_layers);
+    m_contourVariable->setObjectName(u"contourVariable"_s);
+    m_contourVariable->setToolTip(tr("The variable of the first contour group"));
+    layout->addWidget(m_contourVariable, 2, 1);
+    auto* vectors = new QToolButton(m_layers);
+    vectors->setObjectName(u"vectorVariablesButton"_s);
+    vectors->setText(tr("..."));
+    vectors->setToolTip(tr("Choose the variables of the vectors"));
+    connect(vectors, &QToolButton::clicked, this, [this] { VectorVariablesDialog(this).exec(); });
+    layout->addWidget(vectors, 3, 1);
 }
 
 void SideBar::setPlotType()
@@ -110,8 +127,15 @@ void SideBar::setPlotType()
     update();
 }
 
-void SideBar::setLayer(const QCheckBox& box, bool isOn)
+void SideBar::setLayer(QCheckBox& box, bool isOn)
 {
+    if (isOn && box.objectName() == u"ShowVector"_s && !VectorVariablesDialog::areAssigned()) {
+        VectorVariablesDialog(this).exec();
+        if (!VectorVariablesDialog::areAssigned()) {
+            box.setChecked(false);
+            return;
+        }
+    }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName("Layers");
     layerStyle(box).setValue(isOn);
@@ -125,6 +149,7 @@ void SideBar::update()
     const bool isField = isFieldPlot(type) && VtxUtilDataSetIsAvailable();
     m_layers->setEnabled(isField);
     m_zones->setEnabled(isField);
+    m_contourVariable->refresh();
     for (QCheckBox* box : std::as_const(m_layerBoxes)) {
         bool isOn = false;
         layerStyle(*box).getValue(&isOn);

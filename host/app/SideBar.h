@@ -10,6 +10,8 @@ class QGroupBox;
 
 namespace vantrix::app {
 
+class VariableBox;
+
 /* Beside the plot: its type, its layers, its zones. */
 class SideBar : public QDockWidget
 {
@@ -22,12 +24,13 @@ private:
     void setUpPlotType();
     void setUpLayers();
     void setPlotType();
-    static void setLayer(const QCheckBox& box, bool isOn);
+    void setLayer(QCheckBox& box, bool isOn);
     void update();
 
     QComboBox* m_plotType;
     QGroupBox* m_layers;
     QGroupBox* m_zones;
+    VariableBox* m_contourVariable = nullptr;
     QList<QCheckBox*> m_layerBoxes;
     sdk::OnIdleAfterStateChangeActionPerformer m_updater;
 };

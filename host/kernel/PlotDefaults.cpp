@@ -230,11 +230,11 @@ void PlotDefaults::setVectors()
     const long u = find({"U", "u", "VelocityX", "X Velocity", "Velocity_X", "velocity_x"});
     const long v = find({"V", "v", "VelocityY", "Y Velocity", "Velocity_Y", "velocity_y"});
     const long w = find({"W", "w", "VelocityZ", "Z Velocity", "Velocity_Z", "velocity_z"});
-    if (u && v) {
-        set("GlobalStream/UVar", u);
-        set("GlobalStream/VVar", v);
-        set("GlobalStream/WVar", w);
-    }
+    // Variables of data shown before say nothing about these.
+    const bool areFound = u && v;
+    set("GlobalStream/UVar", areFound ? u : 0L);
+    set("GlobalStream/VVar", areFound ? v : 0L);
+    set("GlobalStream/WVar", areFound ? w : 0L);
 }
 
 } // namespace vantrix::kernel

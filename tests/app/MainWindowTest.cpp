@@ -195,6 +195,45 @@ TEST_F(MainWindowTest, TheSideBarShowsAndSetsPlotTypeAndLayers)
     EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
 }
 
+TEST_F(MainWindowTest, TheSideBarChoosesTheVariablesOfContoursAndVectors)
+{
+    ASSERT_TRUE(window.openSample(u"flow3d"_s));
+    settle();
+    auto* contour = window.findChild<QComboBox*>(u"contourVariable"_s);
+    ASSERT_TRUE(contour->isEnabled());
+    EXPECT_EQ(contour->currentText(), u"U"_s);
+    const QImage before = window.workArea().grab().toImage();
+    contour->setFocus();
+    QTest::keyClick(contour, Qt::Key_Down);
+    settle();
+    EXPECT_EQ(contour->currentText(), u"V"_s);
+    EXPECT_NE(window.workArea().grab().toImage(), before);
+
+    // Vectors without variables: the user is asked, and who names none gets no vectors.
+    ASSERT_TRUE(window.openSample(u"polyhedra"_s));
+    settle();
+    auto* vector = window.findChild<QCheckBox*>(u"ShowVector"_s);
+    const auto answer = [](const char* chosen) {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        if (chosen != nullptr) {
+            auto* box = dialog->findChild<QComboBox*>(QLatin1StringView(chosen));
+            box->setFocus();
+            QTest::keyClick(box, Qt::Key_Down);
+        }
+        QTest::keyClick(dialog, Qt::Key_Escape);
+    };
+    QTimer::singleShot(100, &window, [&] { answer(nullptr); });
+    QTest::mouseClick(vector, Qt::LeftButton, {}, QPoint(8, vector->height() / 2));
+    settle();
+    EXPECT_FALSE(vector->isChecked());
+    QTimer::singleShot(100, &window, [&] { answer("UVar"); });
+    QTest::mouseClick(vector, Qt::LeftButton, {}, QPoint(8, vector->height() / 2));
+    settle();
+    EXPECT_TRUE(vector->isChecked());
+    EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
 TEST_F(MainWindowTest, MouseModesFollowThePlot)
 {
     EXPECT_FALSE(action("mouseMode_rotate").isEnabled());
