@@ -38,12 +38,24 @@ void VtxUtilZoneGetIJK(long zone, long* iMax, long* jMax, long* kMax);
 bool VtxUtilZoneIsOrdered(long zone);
 ZoneType_e VtxUtilZoneGetType(long zone);
 
+/* The number of different faces (of flat cells: edges) of all cells of a finite-element zone; 0 of another. Counted once,
+ * so the first call for a large zone takes time. */
+long VtxUtilZoneGetFaceCount(long zone);
+
 /* Where the values of a variable in a zone belong: to the points or to the cells. Nodal where there is none. */
 ValueLocation_e VtxUtilDataValueGetLocation(long zone, long variable);
 
 /* A value of a zone's variable by its position (from 1) among the points, or cells; false, with nothing written, for one
  * that is not there. A variable that is not loaded is loaded first. */
 bool VtxUtilDataValueGetByZoneVar(long zone, long variable, long position, double* value);
+
+/* Whether the values of a variable of a zone are in memory, or, false, can be loaded; true where the zone does not have
+ * the variable. */
+bool VtxUtilDataValueIsLoaded(long zone, long variable);
+
+/* Brings the values of variables of a zone into memory; those that are there already stay. Refused for a zone or
+ * variable that does not exist. Sends `StateChange_DataAvailability` when something was loaded. */
+bool VtxUtilDataValueLoad(long zone, VtxSetHandle variables);
 
 /* Smallest and largest value of a variable over all enabled zones; NaN and unloaded values are left out. False when
  * there is no such variable or it has no value. */

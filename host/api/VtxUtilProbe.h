@@ -20,12 +20,15 @@ typedef void (*VtxProbeFunction)(char wasSuccessful, char isNearestPoint, long c
 
 /*
  * Makes a function the receiver of probes and turns on the mouse mode for it:
- *   "CallbackFunction"  long    a VtxProbeFunction, cast to a number
+ *   "CallbackFunction"  long    a VtxProbeFunction, cast to a number; 0 for none, which leaves the mouse mode alone
  *   "StatusLineText"    string  shown while the mouse is in probe mode (optional)
  *   "ClientData"        long    handed to the function (optional, 0)
- * The function stays installed until another is.
+ * The function stays installed until another is. False, with nothing changed, when the plot cannot be probed.
  */
 bool VtxUtilProbeInstallCallbackX(VtxArgListHandle arguments);
+
+/* Whether a function receives probes. */
+bool VtxUtilProbeIsCallbackInstalled(void);
 
 /* What was probed last, for VtxUtilProbePerform(); null when nothing was. Released by VtxUtilProbeInfoDealloc(), which
  * sets the handle to null. */
@@ -35,7 +38,7 @@ void VtxUtilProbeInfoDealloc(VtxProbeInfoHandle* info);
 /* Probes again what `info` says, and calls `function` (may be null) with the client data of the installed one. False when it finds nothing. */
 bool VtxUtilProbePerform(VtxProbeInfoHandle info, VtxProbeFunction function);
 
-/* The plot type that the last probe was made in. */
+/* The plot type that the last probe was made in; `PlotType_Sketch` when there was none. */
 PlotType_e VtxUtilProbeGetPlotType(void);
 
 /*
@@ -115,9 +118,11 @@ bool VtxUtilProbeLineGetPickedValues(double* x, double* y);
 
 /*
  * Looks a position up without making it the probe's result: the values of all variables there go to `values`
- * (VtxUtilDataSetGetNumVars() doubles, or null). `zones` restricts the search (null: the active ones). `startWithCell`
- * takes what *zone and *cell hold as the place to begin from. `searchVolume`, `nearestPoint` as above; `zoneOnly` leaves
- * the values alone. False when the position is outside the data; nothing is written then.
+ * (VtxUtilDataSetGetNumVars() doubles, or null; NaN where the zone does not have a variable in memory). The cell is told
+ * by I, J and K, from 1, of its first corner and by its plane; that of a finite-element zone by its number in `iCell`,
+ * the others being 1. `zones` restricts the search (null: the active ones). `startWithCell` takes what *zone, *iCell,
+ * *jCell, *kCell and *plane hold as the place to begin from. `searchVolume`, `nearestPoint` as above; `zoneOnly` leaves
+ * the values alone. Any pointer may be null. False when the position is outside the data; nothing is written then.
  */
 bool VtxUtilProbeAtPosition(double x, double y, double z, long* iCell, long* jCell, long* kCell, IJKPlanes_e* plane,
                             long* zone, bool startWithCell, double* values, VtxSetHandle zones, bool searchVolume,

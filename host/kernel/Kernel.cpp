@@ -3,6 +3,7 @@
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
 #include "kernel/MouseModes.h"
+#include "kernel/ProbeService.h"
 #include "kernel/SilentFrontEnd.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
@@ -46,6 +47,7 @@ Kernel::Kernel()
     , m_style(std::make_unique<StyleStore>(*m_undo, *m_stateChanges))
     , m_document(std::make_unique<Document>(*m_undo, *m_stateChanges, *m_style))
     , m_mouseModes(std::make_unique<MouseModes>(*m_document, *m_style, *m_stateChanges))
+    , m_probes(std::make_unique<ProbeService>(*this))
     , m_noFrontEnd(std::make_unique<SilentFrontEnd>())
 {
     m_style->setDocument(*m_document);
@@ -89,6 +91,7 @@ void Kernel::reset()
     m_undo->clear();
     m_style->clear();
     m_document->reset();
+    m_probes->reset();
     m_stateChanges->send(StateChange_NewLayout);
 }
 

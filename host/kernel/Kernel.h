@@ -9,6 +9,7 @@ class ApplicationLock;
 class Document;
 class FrontEnd;
 class MouseModes;
+class ProbeService;
 class StateChanges;
 class StyleStore;
 class UndoStack;
@@ -36,6 +37,7 @@ public:
     ApplicationLock& lock() const { return *m_lock; }
     Document& document() const { return *m_document; }
     MouseModes& mouseModes() const { return *m_mouseModes; }
+    ProbeService& probes() const { return *m_probes; }
     StateChanges& stateChanges() const { return *m_stateChanges; }
     StyleStore& style() const { return *m_style; }
     UndoStack& undoStack() const { return *m_undo; }
@@ -59,6 +61,7 @@ private:
     std::unique_ptr<StyleStore> m_style;
     std::unique_ptr<Document> m_document;
     std::unique_ptr<MouseModes> m_mouseModes;
+    std::unique_ptr<ProbeService> m_probes;
     std::unique_ptr<FrontEnd> m_noFrontEnd;
     FrontEnd* m_frontEnd = nullptr;
     std::string m_lastError;

@@ -85,4 +85,37 @@ void ZoneActions::remove(const std::set<long>& zones)
     m_kernel.document().replaceDataSet(std::move(changed), {StateChange_ZonesDeleted}, {zones.begin(), zones.end()});
 }
 
+void ZoneActions::load(long number, const std::set<long>& variables)
+{
+    const std::shared_ptr<const DataSet> present = m_kernel.document().activeDataSet();
+    const Zone* zone = present ? present->zone(number) : nullptr;
+    if (!zone) {
+        throw DataError("There is no zone " + std::to_string(number) + " whose variables could be loaded.");
+    }
+    auto changed = std::make_shared<Zone>(*zone);
+    bool isChanged = false;
+    for (const long variable : variables) {
+        const FieldArray* field = present->field(number, variable);
+        if (!field) {
+            throw DataError("There is no variable " + std::to_string(variable) + "; variables are numbered from 1 to " +
+                            std::to_string(present->variableCount()) + ".");
+        }
+        if (field->isLoaded() || !field->isAvailable()) {
+            continue;
+        }
+        const vtkSmartPointer<vtkDataArray> values = field->load();
+        if (!values) {
+            throw DataError("Variable \"" + present->variables[static_cast<std::size_t>(variable - 1)].name +
+                            "\" of zone " + std::to_string(number) + " cannot be read any more.");
+        }
+        changed->fields[static_cast<std::size_t>(variable - 1)].values = values;
+        isChanged = true;
+    }
+    if (isChanged) {
+        DataSet dataSet = *present;
+        dataSet.zones[static_cast<std::size_t>(number - 1)] = std::move(changed);
+        m_kernel.document().replaceDataSet(std::move(dataSet), {StateChange_DataAvailability});
+    }
+}
+
 } // namespace vantrix::kernel

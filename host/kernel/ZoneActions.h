@@ -26,6 +26,9 @@ public:
     /* See VtxUtilDataSetDeleteZone(). */
     void remove(const std::set<long>& zones);
 
+    /* See VtxUtilDataValueLoad(). */
+    void load(long zone, const std::set<long>& variables);
+
 private:
     template<class Description>
     void createZone(const Description& description);

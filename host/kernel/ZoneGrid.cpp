@@ -205,4 +205,20 @@ vtkSmartPointer<vtkDataSet> zoneGrid(const DataSet& dataSet, long zoneNumber, co
     return entries.front().grid;
 }
 
+bool haveSameShape(vtkDataSet* one, vtkDataSet* other)
+{
+    auto* points = vtkPointSet::SafeDownCast(one);
+    auto* otherPoints = vtkPointSet::SafeDownCast(other);
+    if (!points || !otherPoints || points->GetPoints() != otherPoints->GetPoints()) {
+        return false;
+    }
+    if (auto* grid = vtkStructuredGrid::SafeDownCast(one)) {
+        auto* otherGrid = vtkStructuredGrid::SafeDownCast(other);
+        return otherGrid && std::equal(grid->GetDimensions(), grid->GetDimensions() + 3, otherGrid->GetDimensions());
+    }
+    auto* grid = vtkUnstructuredGrid::SafeDownCast(one);
+    auto* otherGrid = vtkUnstructuredGrid::SafeDownCast(other);
+    return grid && otherGrid && grid->GetCells() == otherGrid->GetCells();
+}
+
 } // namespace vantrix::kernel

@@ -24,4 +24,7 @@ using CoordinateVariables = std::array<long, 3>;
  */
 vtkSmartPointer<vtkDataSet> zoneGrid(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates);
 
+/* Whether two grids have the very same points and cells, whatever their arrays. Null is like nothing. */
+bool haveSameShape(vtkDataSet* one, vtkDataSet* other);
+
 } // namespace vantrix::kernel

@@ -12,30 +12,12 @@
 #include <vtkPoints.h>
 #include <vtkRenderer.h>
 #include <vtkStructuredGrid.h>
-#include <vtkUnstructuredGrid.h>
 
 #include <algorithm>
 #include <cmath>
 
 namespace vantrix::view {
 namespace {
-
-/* Whether two grids have the very same points and cells, whatever their arrays. */
-bool hasSameShape(vtkDataSet* one, vtkDataSet* other)
-{
-    auto* points = vtkPointSet::SafeDownCast(one);
-    auto* otherPoints = vtkPointSet::SafeDownCast(other);
-    if (!points || !otherPoints || points->GetPoints() != otherPoints->GetPoints()) {
-        return false;
-    }
-    if (auto* grid = vtkStructuredGrid::SafeDownCast(one)) {
-        auto* otherGrid = vtkStructuredGrid::SafeDownCast(other);
-        return otherGrid && std::equal(grid->GetDimensions(), grid->GetDimensions() + 3, otherGrid->GetDimensions());
-    }
-    auto* grid = vtkUnstructuredGrid::SafeDownCast(one);
-    auto* otherGrid = vtkUnstructuredGrid::SafeDownCast(other);
-    return grid && otherGrid && grid->GetCells() == otherGrid->GetCells();
-}
 
 vtkSmartPointer<vtkPoints> logarithmicPoints(vtkPoints* points, const std::array<bool, 3>& isLogarithmic)
 {
@@ -181,7 +163,7 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
                                             !context.isThreeD && style.axes[1].isLogarithmic, false};
     const bool isFlat = !context.isThreeD;
     if (!zone.shape || isLogarithmic != zone.isLogarithmic || isFlat != zone.isFlat ||
-        !hasSameShape(zone.source, source)) {
+        !kernel::haveSameShape(zone.source, source)) {
         zone.shape = shapeOf(source, isFlat, isLogarithmic);
         zone.isLogarithmic = isLogarithmic;
         zone.isFlat = isFlat;

@@ -1,5 +1,6 @@
 #include "api/VtxUtilAxis.h"
 
+#include "kernel/AxisVariables.h"
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/StyleStore.h"
@@ -49,6 +50,25 @@ long entryOf(const AxisPlace& place, const char* path)
 }
 
 } // namespace
+
+bool VtxUtilAxisGetVarAssignments(long* xVariable, long* yVariable, long* zVariable)
+{
+    return boundary::guarded(false, [&] {
+        const Frame* frame = Kernel::instance().document().activeFrame();
+        if (!frame || !frame->dataSet()) {
+            return boundary::fail("The active frame shows no data, so no variable serves as an axis.");
+        }
+        const AxisVariables variables = axisVariables(Kernel::instance().style(), *frame);
+        const std::pair<long*, long> assigned[] = {
+            {xVariable, variables.x}, {yVariable, variables.y}, {zVariable, variables.z}};
+        for (const auto& [target, variable] : assigned) {
+            if (target) {
+                *target = variable;
+            }
+        }
+        return true;
+    });
+}
 
 NumberFormat_e VtxUtilAxisLabelGetNumberFormat(char axis, int axisNumber)
 {

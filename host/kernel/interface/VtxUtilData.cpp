@@ -178,6 +178,50 @@ ZoneType_e VtxUtilZoneGetType(long zone)
     return found ? found->type() : ZoneType_Ordered;
 }
 
+ValueLocation_e VtxUtilDataValueGetLocation(long zone, long variable)
+{
+    const auto data = dataSet();
+    const FieldArray* field = data ? data->field(zone, variable) : nullptr;
+    return field && field->isAvailable() ? field->location : ValueLocation_Nodal;
+}
+
+bool VtxUtilDataValueGetByZoneVar(long zone, long variable, long position, double* value)
+{
+    return boundary::guarded(false, [&] {
+        const auto data = dataSet();
+        if (!data) {
+            return noDataSet();
+        }
+        const FieldArray* field = data->field(zone, variable);
+        const auto values = field ? field->load() : nullptr;
+        if (!values) {
+            return boundary::fail("Zone " + std::to_string(zone) + " has no variable " + std::to_string(variable) +
+                                  ".");
+        }
+        if (position < 1 || position > values->GetNumberOfTuples()) {
+            return noSuch("value", position, static_cast<long>(values->GetNumberOfTuples()));
+        }
+        *value = values->GetComponent(position - 1, 0);
+        return true;
+    });
+}
+
+bool VtxUtilDataValueIsLoaded(long zone, long variable)
+{
+    const auto data = dataSet();
+    const FieldArray* field = data ? data->field(zone, variable) : nullptr;
+    return !field || !field->isAvailable() || field->isLoaded();
+}
+
+bool VtxUtilDataValueLoad(long zone, VtxSetHandle variables)
+{
+    return boundary::guarded(false, [&] {
+        boundary::expectLocked();
+        ZoneActions(Kernel::instance()).load(zone, variables ? variables->members : std::set<long>());
+        return true;
+    });
+}
+
 bool VtxUtilVarGetMinMax(long variable, double* minimum, double* maximum)
 {
     return boundary::guarded(false, [&] {

@@ -1,0 +1,120 @@
+#include "kernel/ProbeService.h"
+
+#include "kernel/DataError.h"
+#include "kernel/Document.h"
+#include "kernel/FrontEnd.h"
+#include "kernel/Kernel.h"
+#include "kernel/MouseModes.h"
+#include "kernel/StyleStore.h"
+
+namespace vantrix::kernel {
+
+namespace {
+
+bool isNearestPoint(const ProbeRequest& request)
+{
+    const auto* position = std::get_if<FieldPositionRequest>(&request);
+    return (position && position->isNearestPoint) || std::holds_alternative<LineNearestRequest>(request);
+}
+
+const Frame& activeFrame(const Kernel& kernel)
+{
+    const Frame* frame = kernel.document().activeFrame();
+    if (!frame) {
+        throw DataError("There is no frame to probe.");
+    }
+    return *frame;
+}
+
+} // namespace
+
+ProbeService::ProbeService(Kernel& kernel)
+    : m_kernel(kernel)
+    , m_meshes(kernel.document())
+{}
+
+void ProbeService::install(VtxProbeFunction receiver, long clientData, std::string statusLineText)
+{
+    if (receiver && !m_kernel.mouseModes().set(MouseMode_Probe)) {
+        throw DataError("There is nothing to probe: the active frame shows no plot of data.");
+    }
+    m_function = receiver;
+    m_clientData = clientData;
+    m_statusLineText = std::move(statusLineText);
+    if (!m_statusLineText.empty()) {
+        m_kernel.frontEnd().showStatus(m_statusLineText);
+    }
+}
+
+ProbeService::Result ProbeService::resultOf(const ProbeRequest& request, const Frame& frame)
+{
+    return std::visit(
+        [&](const auto& asked) -> Result {
+            using Request = std::decay_t<decltype(asked)>;
+            using OneOf = std::conditional_t<std::is_same_v<Request, FieldPositionRequest> ||
+                                                 std::is_same_v<Request, FieldIndexRequest>,
+                                             FieldProbeResult, LineProbeResult>;
+            std::optional<OneOf> found;
+            if constexpr (std::is_same_v<OneOf, FieldProbeResult>) {
+                found = FieldProbe(m_kernel.style(), frame, m_meshes).probe(asked);
+            } else {
+                found = LineProbe(m_kernel.style(), frame).probe(asked);
+            }
+            return found ? Result(std::move(*found)) : Result();
+        },
+        request);
+}
+
+bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
+{
+    const Frame& frame = activeFrame(m_kernel);
+    const ProbeRequest asked = request; // may be the one that is kept
+    m_result = resultOf(asked, frame);
+    m_request = asked;
+    m_frameId = frame.id();
+    m_plotType = static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType")));
+    const bool isFound = !std::holds_alternative<std::monostate>(m_result);
+    if (told) {
+        told(isFound ? 1 : 0, isNearestPoint(asked) ? 1 : 0, m_clientData);
+    }
+    for (const auto& [owner, listener] : m_listeners) {
+        listener();
+    }
+    return isFound;
+}
+
+void ProbeService::addListener(const void* owner, std::function<void()> listener)
+{
+    m_listeners[owner] = std::move(listener);
+}
+
+void ProbeService::removeListener(const void* owner)
+{
+    m_listeners.erase(owner);
+}
+
+const FieldProbeResult* ProbeService::fieldResult() const
+{
+    return std::get_if<FieldProbeResult>(&m_result);
+}
+
+const LineProbeResult* ProbeService::lineResult() const
+{
+    return std::get_if<LineProbeResult>(&m_result);
+}
+
+FieldProbe ProbeService::fieldProbe()
+{
+    return {m_kernel.style(), activeFrame(m_kernel), m_meshes};
+}
+
+void ProbeService::reset()
+{
+    m_meshes.clear();
+    m_request.reset();
+    m_frameId = 0;
+    m_plotType = PlotType_Sketch;
+    m_result = std::monostate();
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "api/VtxUtilProbe.h"
+#include "kernel/probe/FieldProbe.h"
+#include "kernel/probe/LineProbe.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace vantrix::kernel {
+
+class Kernel;
+
+using ProbeRequest =
+    std::variant<FieldPositionRequest, FieldIndexRequest, LinePositionRequest, LineIndexRequest, LineNearestRequest>;
+
+/*
+ * Probes the active frame, keeps what was found last, and tells the installed function of it. What was found is about
+ * the frame that was active then, and stays as it was when data or style change.
+ */
+class ProbeService
+{
+public:
+    explicit ProbeService(Kernel& kernel);
+
+    /* See VtxUtilProbeInstallCallbackX(). Throws DataError, and changes nothing, when the plot cannot be probed. */
+    void install(VtxProbeFunction receiver, long clientData, std::string statusLineText);
+    VtxProbeFunction function() const { return m_function; }
+
+    /* Empty until a function is installed with one. */
+    const std::string& statusLineText() const { return m_statusLineText; }
+
+    /*
+     * Probes, keeps request and result, and tells the installed function, or in its place `told`, which may be
+     * null. False when the position is outside the data; there is no result then. Throws DataError, and changes
+     * nothing, for what cannot be probed.
+     */
+    bool perform(const ProbeRequest& request) { return perform(request, m_function); }
+    bool perform(const ProbeRequest& request, VtxProbeFunction told);
+
+    /* What was probed last; null where nothing was. */
+    const ProbeRequest* request() const { return m_request ? &*m_request : nullptr; }
+    PlotType_e plotType() const { return m_plotType; }
+
+    /* The frame that was probed; 0 where nothing was. */
+    long frameId() const { return m_frameId; }
+
+    /* What was found; null where nothing was, or the last probe was of another kind. */
+    const FieldProbeResult* fieldResult() const;
+    const LineProbeResult* lineResult() const;
+
+    /* A probe of the active frame that is no result; for searches by the thousand. Throws as FieldProbe does. */
+    FieldProbe fieldProbe();
+
+    /* Calls back after every probe, whoever made it; for a view that marks what was found. One for an owner. */
+    void addListener(const void* owner, std::function<void()> listener);
+    void removeListener(const void* owner);
+
+    /* Nothing was probed. The function stays. */
+    void reset();
+
+private:
+    using Result = std::variant<std::monostate, FieldProbeResult, LineProbeResult>;
+    Result resultOf(const ProbeRequest& request, const Frame& frame);
+
+    Kernel& m_kernel;
+    ProbeMeshes m_meshes;
+    VtxProbeFunction m_function = nullptr;
+    long m_clientData = 0;
+    std::string m_statusLineText;
+    std::optional<ProbeRequest> m_request;
+    PlotType_e m_plotType = PlotType_Sketch;
+    long m_frameId = 0;
+    Result m_result;
+    std::map<const void*, std::function<void()>> m_listeners;
+};
+
+} // namespace vantrix::kernel

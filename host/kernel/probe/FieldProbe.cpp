@@ -1,0 +1,280 @@
+#include "kernel/probe/FieldProbe.h"
+
+#include "kernel/AxisVariables.h"
+#include "kernel/DataError.h"
+#include "kernel/StyleStore.h"
+
+#include <algorithm>
+
+namespace vantrix::kernel {
+
+namespace {
+
+/* How far from a surface, in sizes of its zone, a position still means it. */
+constexpr double surfaceTolerance = 0.01;
+
+/* How far outside, in sizes of the zone, a position still belongs to the cell next to it: rounding. */
+constexpr double borderTolerance = 1e-6;
+
+const FieldArray* loadedField(const Zone& zone, long variable)
+{
+    const auto at = static_cast<std::size_t>(variable - 1);
+    return at < zone.fields.size() && zone.fields[at].isLoaded() ? &zone.fields[at] : nullptr;
+}
+
+double weightedSum(vtkDataArray& values, const MeshPlace& place)
+{
+    double sum = 0.0;
+    for (std::size_t i = 0; i < place.points.size(); ++i) {
+        sum += place.weights[i] * values.GetComponent(place.points[i], 0);
+    }
+    return sum;
+}
+
+double mean(vtkDataArray& values, const std::vector<long>& positions)
+{
+    double sum = 0.0;
+    for (const long position : positions) {
+        sum += values.GetComponent(position, 0);
+    }
+    return sum / static_cast<double>(positions.size());
+}
+
+void checkIndex(const char* name, long index, long last)
+{
+    if (index < 1 || index > last) {
+        throw DataError(std::string(name) + " is " + std::to_string(index) + "; it must be from 1 to " +
+                        std::to_string(last) + ".");
+    }
+}
+
+} // namespace
+
+FieldProbe::FieldProbe(const StyleStore& style, const Frame& frame, ProbeMeshes& meshes)
+    : m_style(style)
+    , m_frame(frame)
+    , m_meshes(meshes)
+    , m_dataSet(frame.dataSet())
+{
+    const long plotType = style.integer(frame.id(), style.entry("PlotType"));
+    m_isThreeD = plotType == PlotType_Cartesian3D;
+    if (!m_isThreeD && plotType != PlotType_Cartesian2D) {
+        throw DataError(
+            "A position or point can be probed in a 2D or 3D Cartesian plot; the active frame has another.");
+    }
+    if (!m_dataSet || m_dataSet->zoneCount() == 0) {
+        throw DataError("The active frame has no data to probe.");
+    }
+    const AxisVariables axes = axisVariables(style, frame);
+    m_coordinates = {axes.x, axes.y, axes.z};
+}
+
+std::vector<long> FieldProbe::shownZones() const
+{
+    std::vector<long> zones;
+    static const long activeEntry = m_style.entry("ActiveFieldMaps");
+    for (long zone = 1; zone <= m_dataSet->zoneCount(); ++zone) {
+        if (m_dataSet->zoneEnabled[static_cast<std::size_t>(zone - 1)] &&
+            m_style.flag(m_frame.id(), activeEntry, zone)) {
+            zones.push_back(zone);
+        }
+    }
+    return zones;
+}
+
+std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVolume) const
+{
+    const Zone& zone = *m_dataSet->zone(number);
+    const bool isVolume = zone.topologicalDimension() == 3;
+    if (m_isThreeD && isInVolume) {
+        return isVolume ? std::optional(ProbeMesh::Part::Cells) : std::nullopt;
+    }
+    static const long surfacesEntry = m_style.entry("FieldMap/Surfaces/SurfacesToPlot");
+    if (!isVolume) {
+        return ProbeMesh::Part::Cells;
+    }
+    switch (m_style.integer(m_frame.id(), surfacesEntry, number)) {
+    case SurfacesToPlot_None:
+        return std::nullopt;
+    case SurfacesToPlot_BoundaryFaces:
+    case SurfacesToPlot_ExposedFaces:
+        break;
+    default: // faces inside of the volume are drawn: they belong to its cells
+        if (m_isThreeD) {
+            return ProbeMesh::Part::Cells;
+        }
+        break;
+    }
+    return zone.isOrdered() && !m_isThreeD ? ProbeMesh::Part::FirstLayer : ProbeMesh::Part::Surface;
+}
+
+ProbeMesh& FieldProbe::mesh(long zone, ProbeMesh::Part part)
+{
+    return m_meshes.mesh(*m_dataSet, zone, m_coordinates, part);
+}
+
+bool FieldProbe::findIn(long zone, ProbeMesh::Part part, const FieldPositionRequest& request, FieldPlace& best,
+                        long startCell)
+{
+    ProbeMesh& searched = mesh(zone, part);
+    FieldPlace found{zone, &searched, {}};
+    const int cellDimension =
+        std::min(m_dataSet->zone(zone)->topologicalDimension(), part == ProbeMesh::Part::Cells ? 3 : 2);
+    const bool fillsPlot = cellDimension == (m_isThreeD ? 3 : 2);
+    bool isFound = false;
+    if (request.isNearestPoint) {
+        isFound = searched.findNearestPoint(request.position, found.place);
+    } else if (fillsPlot) {
+        const double margin = 1e-6 * searched.size();
+        isFound =
+            searched.isNear(request.position, margin) && searched.findInside(request.position, found.place, startCell);
+    } else {
+        const double radius = surfaceTolerance * searched.size();
+        isFound =
+            searched.isNear(request.position, radius) && searched.findClosest(request.position, radius, found.place);
+    }
+    if (!isFound || (best.mesh && best.place.distance2 <= found.place.distance2)) {
+        return false;
+    }
+    best = std::move(found);
+    return true;
+}
+
+bool FieldProbe::find(const FieldPositionRequest& request, FieldPlace& place, const std::set<long>* zones,
+                      const FieldPlace* start)
+{
+    place.mesh = nullptr;
+    std::vector<long> candidates = zones ? std::vector<long>(zones->begin(), zones->end()) : shownZones();
+    // Where zones overlap, the last one covers the others; the one to start with comes before all.
+    std::reverse(candidates.begin(), candidates.end());
+    if (start) {
+        std::stable_partition(candidates.begin(), candidates.end(), [&](long zone) { return zone == start->zone; });
+    }
+    FieldPositionRequest sought = request;
+    if (!m_isThreeD) {
+        sought.position[2] = 0.0;
+    }
+    for (const long zone : candidates) {
+        if (!m_dataSet->zone(zone)) {
+            throw DataError("There is no zone " + std::to_string(zone) + "; zones are numbered from 1 to " +
+                            std::to_string(m_dataSet->zoneCount()) + ".");
+        }
+        const auto part = partToSearch(zone, request.isInVolume);
+        const bool isStart = start && start->zone == zone;
+        if (part && findIn(zone, *part, sought, place, isStart ? start->place.cell : -1) &&
+            place.place.distance2 == 0.0) {
+            return true;
+        }
+    }
+    return place.mesh != nullptr;
+}
+
+FieldPlace FieldProbe::placeOf(long number, const CellIndex& cell, bool isInVolume)
+{
+    FieldPlace place;
+    const Zone* zone = m_dataSet->zone(number);
+    const auto part = zone ? partToSearch(number, isInVolume) : std::nullopt;
+    if (part) {
+        place.zone = number;
+        place.mesh = &mesh(number, *part);
+        place.place.cell = place.mesh->findCell(*zone, cell);
+    }
+    return place;
+}
+
+std::optional<double> FieldProbe::value(const FieldPlace& place, long variable) const
+{
+    const Zone& zone = *m_dataSet->zone(place.zone);
+    const FieldArray* field = loadedField(zone, variable);
+    if (!field) {
+        return std::nullopt;
+    }
+    if (field->location == ValueLocation_Nodal) {
+        return weightedSum(*field->values, place.place);
+    }
+    if (place.place.cell < 0) {
+        return std::nullopt;
+    }
+    return field->values->GetComponent(place.mesh->cellIndex(zone, place.place.cell).storage, 0);
+}
+
+FieldProbeResult FieldProbe::newResult(long number) const
+{
+    const Zone& zone = *m_dataSet->zone(number);
+    FieldProbeResult result;
+    result.zone = number;
+    result.name = zone.name();
+    for (long variable = 1; variable <= m_dataSet->variableCount(); ++variable) {
+        const FieldArray* field = m_dataSet->field(number, variable);
+        result.fields.push_back({field ? field->location : ValueLocation_Nodal});
+    }
+    return result;
+}
+
+std::optional<FieldProbeResult> FieldProbe::probe(const FieldPositionRequest& request)
+{
+    FieldPlace found;
+    if (!find(request, found)) {
+        return std::nullopt;
+    }
+    const Zone& zone = *m_dataSet->zone(found.zone);
+    FieldProbeResult result = newResult(found.zone);
+    result.position = found.place.position;
+    result.point = request.isNearestPoint ? found.place.points.front() + 1 : 0;
+    if (found.place.cell >= 0) {
+        result.cell = found.mesh->probedCell(zone, found.place.cell);
+    }
+    for (long variable = 1; variable <= m_dataSet->variableCount(); ++variable) {
+        result.values.push_back(value(found, variable));
+        const FieldArray* field = loadedField(zone, variable);
+        std::optional<double> center;
+        if (field && result.cell) {
+            center = field->location == ValueLocation_Nodal
+                         ? mean(*field->values, result.cell->corners)
+                         : field->values->GetComponent(result.cell->index.storage, 0);
+        }
+        result.cellCenterValues.push_back(center);
+    }
+    return result;
+}
+
+FieldProbeResult FieldProbe::probe(const FieldIndexRequest& request)
+{
+    checkIndex("Zone", request.zone, m_dataSet->zoneCount());
+    const Zone& zone = *m_dataSet->zone(request.zone);
+    const auto [iMax, jMax, kMax] = zone.dimensions();
+    checkIndex("I", request.i, iMax);
+    checkIndex("J", request.j, zone.isOrdered() ? jMax : 1);
+    checkIndex("K", request.k, zone.isOrdered() ? kMax : 1);
+
+    FieldProbeResult result = newResult(request.zone);
+    const long point =
+        zone.isOrdered() ? pointNumber(zone, {request.i - 1, request.j - 1, request.k - 1}) : request.i - 1;
+    result.point = point + 1;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const FieldArray* field = m_coordinates[axis] > 0 ? loadedField(zone, m_coordinates[axis]) : nullptr;
+        if (field && field->location == ValueLocation_Nodal) {
+            result.position[axis] = field->values->GetComponent(point, 0);
+        }
+    }
+    std::vector<long> cells;
+    for (long variable = 1; variable <= m_dataSet->variableCount(); ++variable) {
+        const FieldArray* field = loadedField(zone, variable);
+        std::optional<double> value;
+        if (field && field->location == ValueLocation_Nodal) {
+            value = field->values->GetComponent(point, 0);
+        } else if (field) {
+            if (cells.empty()) {
+                cells = mesh(request.zone, ProbeMesh::Part::Cells).cellsAround(point);
+            }
+            if (!cells.empty()) {
+                value = mean(*field->values, cells);
+            }
+        }
+        result.values.push_back(value);
+    }
+    result.cellCenterValues.resize(result.values.size());
+    return result;
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,202 @@
+#include "kernel/probe/LineProbe.h"
+
+#include "kernel/DataError.h"
+#include "kernel/StyleStore.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numbers>
+
+namespace vantrix::kernel {
+
+namespace {
+
+std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, double position)
+{
+    const vtkIdType count = std::min(along.GetNumberOfTuples(), values.GetNumberOfTuples());
+    for (vtkIdType i = 0; i < count; ++i) {
+        const double here = along.GetComponent(i, 0);
+        if (here == position) {
+            return values.GetComponent(i, 0);
+        }
+        if (i + 1 == count) {
+            break;
+        }
+        const double next = along.GetComponent(i + 1, 0);
+        if ((here < position && position < next) || (next < position && position < here)) {
+            const double part = (position - here) / (next - here);
+            const double value = values.GetComponent(i, 0);
+            return value + part * (values.GetComponent(i + 1, 0) - value);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+LineProbe::LineProbe(StyleStore& style, const Frame& frame)
+    : m_style(style)
+    , m_frameId(frame.id())
+    , m_lineMaps(style, frame)
+    , m_dataSet(frame.dataSet())
+{
+    const long plotType = style.integer(frame.id(), style.entry("PlotType"));
+    m_isPolar = plotType == PlotType_PolarLine;
+    if (!m_isPolar && plotType != PlotType_XYLine) {
+        throw DataError("Line maps can be probed in an XY or polar line plot; the active frame has another.");
+    }
+    if (!m_dataSet || m_dataSet->zoneCount() == 0) {
+        throw DataError("The active frame has no data to probe.");
+    }
+}
+
+LineProbe::Map LineProbe::map(long number) const
+{
+    const LineMapAssignment assignment = m_lineMaps.assignment(number);
+    Map result;
+    result.number = number;
+    result.zone = assignment.zone;
+    result.xAxis = m_isPolar ? 1 : assignment.xAxis;
+    result.yAxis = m_isPolar ? 1 : assignment.yAxis;
+    const FieldArray* x = m_dataSet->field(assignment.zone, assignment.xVariable);
+    const FieldArray* y = m_dataSet->field(assignment.zone, assignment.yVariable);
+    if (x && y && x->isLoaded() && y->isLoaded() && x->location == y->location) {
+        result.x = x;
+        result.y = y;
+    }
+    return result;
+}
+
+std::vector<LineProbe::Map> LineProbe::shownMaps() const
+{
+    std::vector<Map> maps;
+    for (const long number : m_lineMaps.active()) {
+        const Map found = map(number);
+        if (m_dataSet->zone(found.zone) && m_dataSet->zoneEnabled[static_cast<std::size_t>(found.zone - 1)]) {
+            maps.push_back(found);
+        }
+    }
+    return maps;
+}
+
+std::optional<LineProbeResult> LineProbe::probe(const LinePositionRequest& request) const
+{
+    const std::string axes = m_isPolar ? "TR" : "XY";
+    const int lastAxis = m_isPolar ? 1 : 5;
+    if (axes.find(request.axis) == std::string::npos || request.axisNumber < 1 || request.axisNumber > lastAxis) {
+        throw DataError(std::string("The plot has no axis ") + request.axis + std::to_string(request.axisNumber) +
+                        (m_isPolar ? "; it has T and R." : "; it has X1 to X5 and Y1 to Y5."));
+    }
+    const bool isAlongX = request.axis == axes[0];
+    LineProbeResult result;
+    result.axis = request.axis;
+    result.axisNumber = request.axisNumber;
+    result.position = request.position;
+    bool hasValue = false;
+    for (const Map& shown : shownMaps()) {
+        if ((isAlongX ? shown.xAxis : shown.yAxis) != request.axisNumber) {
+            continue;
+        }
+        LineProbeResult::MapValue value{shown.number, std::nullopt};
+        if (shown.x) {
+            vtkDataArray& along = isAlongX ? *shown.x->values : *shown.y->values;
+            vtkDataArray& across = isAlongX ? *shown.y->values : *shown.x->values;
+            value.value = interpolated(along, across, request.position);
+        }
+        hasValue = hasValue || value.value;
+        result.values.push_back(value);
+    }
+    return hasValue ? std::optional(result) : std::nullopt;
+}
+
+LineProbeResult LineProbe::resultOf(const Map& from, long point) const
+{
+    LineProbeResult result;
+    result.axis = m_isPolar ? 'T' : 'X';
+    result.axisNumber = static_cast<int>(from.xAxis);
+    result.pickedMap = from.number;
+    result.point = point + 1;
+    result.pickedX = from.x->values->GetComponent(point, 0);
+    result.pickedY = from.y->values->GetComponent(point, 0);
+    result.position = result.pickedX;
+    result.values.push_back({from.number, result.pickedY});
+    return result;
+}
+
+LineProbeResult LineProbe::probe(const LineIndexRequest& request) const
+{
+    if (!m_lineMaps.has(request.lineMap)) {
+        throw DataError("There is no line map " + std::to_string(request.lineMap) + "; the plot has " +
+                        std::to_string(m_lineMaps.count()) + ".");
+    }
+    const Map probed = map(request.lineMap);
+    const Zone* zone = m_dataSet->zone(probed.zone);
+    if (!zone || !probed.x) {
+        throw DataError("Line map " + std::to_string(request.lineMap) + " has no values to probe.");
+    }
+    const auto [iMax, jMax, kMax] = zone->dimensions();
+    const std::array<long, 3> last{iMax, zone->isOrdered() ? jMax : 1, zone->isOrdered() ? kMax : 1};
+    const std::array<long, 3> index{request.i, request.j, request.k};
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (index[axis] < 1 || index[axis] > last[axis]) {
+            throw DataError(std::string(1, "IJK"[axis]) + " is " + std::to_string(index[axis]) +
+                            "; it must be from 1 to " + std::to_string(last[axis]) + ".");
+        }
+    }
+    const long point = request.i - 1 + last[0] * (request.j - 1 + last[1] * (request.k - 1));
+    if (point >= probed.x->values->GetNumberOfTuples()) {
+        throw DataError("Line map " + std::to_string(request.lineMap) + " has no value at that index.");
+    }
+    return resultOf(probed, point);
+}
+
+LineProbe::InPicture LineProbe::inPicture(const LineNearestRequest& request) const
+{
+    if (!m_isPolar) {
+        return [request](double x, double y) { return std::array{x * request.xLength, y * request.yLength}; };
+    }
+    const auto real = [this](const char* path) { return m_style.real(m_frameId, m_style.entry(path)); };
+    const double centre = real("PolarAxis/RDetail/RangeMin");
+    double period = real("PolarAxis/ThetaPeriod");
+    switch (m_style.integer(m_frameId, m_style.entry("PolarAxis/ThetaMode"))) {
+    case ThetaMode_Degrees:
+        period = 360.0;
+        break;
+    case ThetaMode_Radians:
+        period = 2.0 * std::numbers::pi;
+        break;
+    default:
+        break;
+    }
+    return [centre, turn = 2.0 * std::numbers::pi / period](double theta, double r) {
+        return std::array{(r - centre) * std::cos(theta * turn), (r - centre) * std::sin(theta * turn)};
+    };
+}
+
+std::optional<LineProbeResult> LineProbe::probe(const LineNearestRequest& request) const
+{
+    const InPicture place = inPicture(request);
+    const std::array<double, 2> sought = place(request.x, request.y);
+    double smallest = std::numeric_limits<double>::infinity();
+    std::optional<Map> nearest;
+    long nearestPoint = 0;
+    for (const Map& shown : shownMaps()) {
+        if (!shown.x) {
+            continue;
+        }
+        for (long point = 0; point < shown.x->values->GetNumberOfTuples(); ++point) {
+            const auto [across, up] =
+                place(shown.x->values->GetComponent(point, 0), shown.y->values->GetComponent(point, 0));
+            const double distance = std::hypot(across - sought[0], up - sought[1]);
+            if (distance < smallest) {
+                smallest = distance;
+                nearest = shown;
+                nearestPoint = point;
+            }
+        }
+    }
+    return nearest ? std::optional(resultOf(*nearest, nearestPoint)) : std::nullopt;
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "kernel/Frame.h"
+#include "kernel/LineMaps.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace vantrix::kernel {
+
+/* A probe along an axis ('X' or 'Y', of polar plots 'T' or 'R'): every line map shown over it is interpolated. */
+struct LinePositionRequest
+{
+    char axis = 'X';
+    int axisNumber = 1;
+    double position = 0.0;
+};
+
+/* A probe of one point of one line map; all numbers from 1. */
+struct LineIndexRequest
+{
+    long i = 1;
+    long j = 1;
+    long k = 1;
+    long lineMap = 1;
+};
+
+/* A probe of the point of all line maps that is drawn closest to a place. The lengths are what the picture of an XY
+ * plot has for one unit of X and of Y, so that closeness is that of the picture; a polar plot needs none. */
+struct LineNearestRequest
+{
+    double x = 0.0;
+    double y = 0.0;
+    double xLength = 1.0;
+    double yLength = 1.0;
+};
+
+/* What a probe of a line plot found. */
+struct LineProbeResult
+{
+    struct MapValue
+    {
+        long lineMap = 0;
+        std::optional<double> value; /* on the other axis; nothing where the line does not reach the position */
+    };
+
+    char axis = 'X';
+    int axisNumber = 1;
+    double position = 0.0;
+    std::vector<MapValue> values;
+
+    long pickedMap = 0; /* of a probe of one point */
+    long point = 0;
+    double pickedX = 0.0;
+    double pickedY = 0.0;
+};
+
+/*
+ * Probes the line plot of one frame. Between its points a line is straight in the variables; where it passes a position
+ * more than once, its first passage counts.
+ */
+class LineProbe
+{
+public:
+    /* Throws DataError when the frame's plot is no line plot, or has no data. */
+    LineProbe(StyleStore& style, const Frame& frame);
+
+    /* Throw DataError for an axis, a line map or an index that is not there. Nothing when no line has a value. */
+    std::optional<LineProbeResult> probe(const LinePositionRequest& request) const;
+    LineProbeResult probe(const LineIndexRequest& request) const;
+    std::optional<LineProbeResult> probe(const LineNearestRequest& request) const;
+
+private:
+    struct Map
+    {
+        long number = 0;
+        long zone = 0;
+        long xAxis = 1;
+        long yAxis = 1;
+        const FieldArray* x = nullptr; /* null where there is nothing to draw */
+        const FieldArray* y = nullptr;
+    };
+    Map map(long number) const;
+    std::vector<Map> shownMaps() const;
+    using InPicture = std::function<std::array<double, 2>(double, double)>;
+    InPicture inPicture(const LineNearestRequest& request) const;
+    LineProbeResult resultOf(const Map& map, long point) const;
+
+    const StyleStore& m_style;
+    long m_frameId;
+    LineMaps m_lineMaps;
+    std::shared_ptr<const DataSet> m_dataSet;
+    bool m_isPolar = false;
+};
+
+} // namespace vantrix::kernel

@@ -1,0 +1,297 @@
+#include "kernel/probe/ProbeMesh.h"
+
+#include "kernel/ZoneGrid.h"
+
+#include <vtkCellData.h>
+#include <vtkDataSetSurfaceFilter.h>
+#include <vtkIdList.h>
+#include <vtkPointData.h>
+#include <vtkPolyData.h>
+#include <vtkStructuredGrid.h>
+#include <vtkUnstructuredGrid.h>
+
+#include <algorithm>
+#include <set>
+
+namespace vantrix::kernel {
+
+namespace {
+
+vtkSmartPointer<vtkDataSet> structureOf(vtkDataSet& grid)
+{
+    const auto structure = vtkSmartPointer<vtkDataSet>::Take(grid.NewInstance());
+    structure->CopyStructure(&grid);
+    return structure;
+}
+
+vtkSmartPointer<vtkPolyData> surfaceOf(vtkDataSet* grid)
+{
+    vtkNew<vtkDataSetSurfaceFilter> filter;
+    filter->SetInputData(grid);
+    filter->PassThroughPointIdsOn();
+    filter->PassThroughCellIdsOn();
+    filter->Update();
+    return filter->GetOutput();
+}
+
+vtkSmartPointer<vtkDataSet> firstLayerOf(const Zone& zone, vtkDataSet* grid)
+{
+    const auto [iMax, jMax, kMax] = zone.dimensions();
+    auto* source = vtkPointSet::SafeDownCast(grid);
+    const auto points = vtkSmartPointer<vtkPoints>::New();
+    points->SetDataType(source->GetPoints()->GetDataType());
+    points->InsertPoints(0, iMax * jMax, 0, source->GetPoints());
+    const auto layer = vtkSmartPointer<vtkStructuredGrid>::New();
+    layer->SetDimensions(static_cast<int>(iMax), static_cast<int>(jMax), 1);
+    layer->SetPoints(points);
+    return layer;
+}
+
+/* The family of the cells of an ordered zone that is no volume. */
+IJKPlanes_e flatPlane(const Zone& zone)
+{
+    const auto [iMax, jMax, kMax] = zone.dimensions();
+    if (kMax == 1) {
+        return IJKPlanes_K;
+    }
+    if (jMax == 1) {
+        return IJKPlanes_J;
+    }
+    return iMax == 1 ? IJKPlanes_I : IJKPlanes_Volume;
+}
+
+} // namespace
+
+ProbeMesh::ProbeMesh(const Zone& zone, vtkDataSet& grid, Part part)
+    : m_part(part)
+    , m_grid(structureOf(grid))
+{
+    switch (part) {
+    case Part::Cells:
+        m_shape = m_grid;
+        break;
+    case Part::Surface: {
+        const vtkSmartPointer<vtkPolyData> surface = surfaceOf(m_grid);
+        m_pointNumbers = vtkIdTypeArray::FastDownCast(surface->GetPointData()->GetAbstractArray("vtkOriginalPointIds"));
+        m_cellNumbers = vtkIdTypeArray::FastDownCast(surface->GetCellData()->GetAbstractArray("vtkOriginalCellIds"));
+        m_shape = surface;
+        break;
+    }
+    case Part::FirstLayer:
+        m_shape = firstLayerOf(zone, m_grid);
+        break;
+    }
+    m_weights.resize(static_cast<std::size_t>(std::max(m_shape->GetMaxCellSize(), 8)));
+}
+
+bool ProbeMesh::isOf(vtkDataSet& grid) const
+{
+    return haveSameShape(m_grid, &grid);
+}
+
+double ProbeMesh::size() const
+{
+    return m_shape->GetLength();
+}
+
+bool ProbeMesh::isNear(const Position& position, double margin) const
+{
+    const double* bounds = m_shape->GetBounds();
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        if (!(position[axis] >= bounds[2 * axis] - margin && position[axis] <= bounds[2 * axis + 1] + margin)) {
+            return false;
+        }
+    }
+    return m_shape->GetNumberOfCells() > 0;
+}
+
+vtkStaticCellLocator& ProbeMesh::cellLocator()
+{
+    if (!m_cellLocator) {
+        m_cellLocator = vtkSmartPointer<vtkStaticCellLocator>::New();
+        m_cellLocator->SetDataSet(m_shape);
+        m_cellLocator->BuildLocator();
+    }
+    return *m_cellLocator;
+}
+
+vtkStaticPointLocator& ProbeMesh::pointLocator()
+{
+    if (!m_pointLocator) {
+        m_pointLocator = vtkSmartPointer<vtkStaticPointLocator>::New();
+        m_pointLocator->SetDataSet(m_shape);
+        m_pointLocator->BuildLocator();
+    }
+    return *m_pointLocator;
+}
+
+long ProbeMesh::zonePoint(vtkIdType meshPoint) const
+{
+    return static_cast<long>(m_pointNumbers ? m_pointNumbers->GetValue(meshPoint) : meshPoint);
+}
+
+/* Takes corners and weights from what was evaluated last. */
+void ProbeMesh::take(long cell, MeshPlace& place)
+{
+    const auto count = static_cast<std::size_t>(m_cell->GetNumberOfPoints());
+    place.cell = cell;
+    place.points.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        place.points[i] = zonePoint(m_cell->GetPointId(static_cast<int>(i)));
+    }
+    place.weights.assign(m_weights.begin(), m_weights.begin() + static_cast<std::ptrdiff_t>(count));
+}
+
+bool ProbeMesh::evaluate(long cell, const Position& position, MeshPlace& place)
+{
+    Position parametric{};
+    Position closest = position;
+    int subCell = 0;
+    double distance2 = 0.0;
+    m_shape->GetCell(cell, m_cell);
+    const int inside = m_cell->EvaluatePosition(position.data(), closest.data(), subCell, parametric.data(), distance2,
+                                                m_weights.data());
+    if (inside < 0) {
+        return false;
+    }
+    take(cell, place);
+    return inside == 1;
+}
+
+bool ProbeMesh::findInside(const Position& position, MeshPlace& place, long startCell)
+{
+    place.position = position;
+    place.distance2 = 0.0;
+    if (startCell >= 0 && startCell < m_shape->GetNumberOfCells() && evaluate(startCell, position, place)) {
+        return true;
+    }
+    Position parametric{};
+    Position at = position;
+    const vtkIdType cell = cellLocator().FindCell(at.data(), 0.0, m_cell, parametric.data(), m_weights.data());
+    if (cell >= 0) {
+        take(static_cast<long>(cell), place);
+        return true;
+    }
+    return false;
+}
+
+bool ProbeMesh::findClosest(const Position& position, double radius, MeshPlace& place)
+{
+    Position closest{};
+    Position at = position;
+    vtkIdType cell = -1;
+    int subCell = 0;
+    int inside = 0;
+    double distance2 = 0.0;
+    if (!cellLocator().FindClosestPointWithinRadius(at.data(), radius, closest.data(), m_cell, cell, subCell, distance2,
+                                                    inside) ||
+        cell < 0) {
+        return false;
+    }
+    evaluate(static_cast<long>(cell), closest, place);
+    place.position = closest;
+    place.distance2 = distance2;
+    return place.cell == cell;
+}
+
+bool ProbeMesh::findNearestPoint(const Position& position, MeshPlace& place)
+{
+    const vtkIdType point = pointLocator().FindClosestPoint(position.data());
+    if (point < 0) {
+        return false;
+    }
+    vtkNew<vtkIdList> cells;
+    m_shape->GetPointCells(point, cells);
+    place.cell = cells->GetNumberOfIds() > 0 ? static_cast<long>(cells->GetId(0)) : -1;
+    place.points = {zonePoint(point)};
+    place.weights = {1.0};
+    m_shape->GetPoint(point, place.position.data());
+    place.distance2 = 0.0;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        place.distance2 += (place.position[axis] - position[axis]) * (place.position[axis] - position[axis]);
+    }
+    return true;
+}
+
+CellIndex ProbeMesh::cellIndex(const Zone& zone, long meshCell) const
+{
+    CellIndex index;
+    if (!zone.isOrdered()) {
+        index.storage = static_cast<long>(m_cellNumbers ? m_cellNumbers->GetValue(meshCell) : meshCell);
+        return index;
+    }
+    if (m_part != Part::Surface) {
+        const auto [iMax, jMax, kMax] = zone.dimensions();
+        const long iCells = std::max(iMax - 1, 1L);
+        const long jCells = std::max(jMax - 1, 1L);
+        const IJKPlanes_e plane = m_part == Part::FirstLayer ? IJKPlanes_K : flatPlane(zone);
+        return orderedCellIndex(zone, {meshCell % iCells, meshCell / iCells % jCells, meshCell / iCells / jCells},
+                                plane);
+    }
+    vtkNew<vtkIdList> corners;
+    m_shape->GetCellPoints(meshCell, corners);
+    std::array<long, 3> first = pointIndices(zone, zonePoint(corners->GetId(0)));
+    std::array<long, 3> last = first;
+    for (vtkIdType i = 1; i < corners->GetNumberOfIds(); ++i) {
+        const std::array<long, 3> corner = pointIndices(zone, zonePoint(corners->GetId(i)));
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            first[axis] = std::min(first[axis], corner[axis]);
+            last[axis] = std::max(last[axis], corner[axis]);
+        }
+    }
+    const auto constant = std::find_if(std::begin(first), std::end(first), [&](const long& value) {
+        return value == last[static_cast<std::size_t>(&value - first.data())];
+    });
+    return orderedCellIndex(zone, first, static_cast<IJKPlanes_e>(constant - first.begin()));
+}
+
+ProbedCell ProbeMesh::probedCell(const Zone& zone, long meshCell) const
+{
+    const CellIndex index = cellIndex(zone, meshCell);
+    if (zone.isOrdered()) {
+        return ProbedCell::ofOrdered(zone, index);
+    }
+    return ProbedCell::ofElement(*vtkUnstructuredGrid::SafeDownCast(m_grid), index.storage);
+}
+
+long ProbeMesh::findCell(const Zone& zone, const CellIndex& index) const
+{
+    if (m_part == Part::Surface) {
+        return -1; // a surface has its own numbers; a search is as quick as finding one of them
+    }
+    return index.storage >= 0 && index.storage < zone.cellCount() ? index.storage : -1;
+}
+
+std::vector<long> ProbeMesh::cellsAround(long point)
+{
+    vtkNew<vtkIdList> cells;
+    m_grid->GetPointCells(point, cells);
+    std::vector<long> result;
+    for (vtkIdType i = 0; i < cells->GetNumberOfIds(); ++i) {
+        result.push_back(static_cast<long>(cells->GetId(i)));
+    }
+    return result;
+}
+
+long ProbeMesh::faceCount()
+{
+    if (m_faceCount >= 0) {
+        return m_faceCount;
+    }
+    std::set<std::vector<vtkIdType>> faces;
+    for (vtkIdType number = 0; number < m_grid->GetNumberOfCells(); ++number) {
+        m_grid->GetCell(number, m_cell);
+        const bool isVolume = m_cell->GetCellDimension() == 3;
+        const int count = isVolume ? m_cell->GetNumberOfFaces() : m_cell->GetNumberOfEdges();
+        for (int face = 0; face < count; ++face) {
+            vtkIdList* ids = (isVolume ? m_cell->GetFace(face) : m_cell->GetEdge(face))->GetPointIds();
+            std::vector<vtkIdType> points(ids->begin(), ids->end());
+            std::sort(points.begin(), points.end());
+            faces.insert(std::move(points));
+        }
+    }
+    m_faceCount = static_cast<long>(faces.size());
+    return m_faceCount;
+}
+
+} // namespace vantrix::kernel

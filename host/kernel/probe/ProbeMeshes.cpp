@@ -1,0 +1,39 @@
+#include "kernel/probe/ProbeMeshes.h"
+
+#include "kernel/Document.h"
+
+#include <algorithm>
+
+namespace vantrix::kernel {
+
+ProbeMesh& ProbeMeshes::mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
+                             ProbeMesh::Part part)
+{
+    const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, zone, coordinates);
+    const Key key{dataSet.id(), zone, coordinates, part};
+    const auto found = m_meshes.find(key);
+    if (found != m_meshes.end() && found->second->isOf(*grid)) {
+        return *found->second;
+    }
+    dropUnused();
+    auto made = std::make_unique<ProbeMesh>(*dataSet.zone(zone), *grid, part);
+    return *(m_meshes[key] = std::move(made));
+}
+
+void ProbeMeshes::dropUnused()
+{
+    std::map<long, long> zoneCounts; /* by the identifiers of the data sets that are shown */
+    for (const auto& page : m_document.pages()) {
+        for (const auto& frame : page->frames) {
+            if (frame->dataSet()) {
+                zoneCounts[frame->dataSet()->id()] = frame->dataSet()->zoneCount();
+            }
+        }
+    }
+    std::erase_if(m_meshes, [&](const auto& entry) {
+        const auto shown = zoneCounts.find(std::get<0>(entry.first));
+        return shown == zoneCounts.end() || std::get<1>(entry.first) > shown->second;
+    });
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "kernel/ZoneGrid.h"
+#include "kernel/probe/ProbeMesh.h"
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+namespace vantrix::kernel {
+
+class Document;
+
+/*
+ * The meshes of the zones that were probed, kept as long as a frame shows the zone with the same points and cells.
+ * Values may change meanwhile: a mesh has none.
+ */
+class ProbeMeshes
+{
+public:
+    explicit ProbeMeshes(const Document& document)
+        : m_document(document)
+    {}
+
+    /* The zone must be there. The mesh stays until the next call that has to make one. */
+    ProbeMesh& mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates, ProbeMesh::Part part);
+
+    void clear() { m_meshes.clear(); }
+
+private:
+    using Key = std::tuple<long, long, CoordinateVariables, ProbeMesh::Part>;
+    void dropUnused();
+
+    const Document& m_document;
+    std::map<Key, std::unique_ptr<ProbeMesh>> m_meshes;
+};
+
+} // namespace vantrix::kernel
