@@ -6,6 +6,9 @@
 #include "dialogs/frame/PaperSetupDialog.h"
 #include "dialogs/frame/PerformanceDialog.h"
 #include "dialogs/frame/PrintRenderOptsDialog.h"
+#include "dialogs/probe/ProbeAtDialog.h"
+#include "dialogs/probe/ProbeDialog.h"
+#include "dialogs/probe/ProbeHistoryDialog.h"
 #include "dialogs/zone/CreateCircularZoneDialog.h"
 #include "dialogs/zone/CreateRectangularZoneDialog.h"
 #include "dialogs/zone/DeleteZoneDialog.h"
@@ -59,6 +62,9 @@ std::vector<DialogEntry> const& dialogRegistry()
         entry<CreateCircularZoneDialog>("&Data/&Create Zone/&Circular...", "create_zone_circular"),
         entry<CreateRectangularZoneDialog>("&Data/&Create Zone/&Rectangular...", "create_zone_rectangular"),
         entry<DeleteZoneDialog>("&Data/&Delete Zone...", "delete_zone"),
+        entry<ProbeDialog>("&Data/&Probe...", "probe"),
+        entry<ProbeAtDialog>("&Data/Probe &At...", "probe_at"),
+        entry<ProbeHistoryDialog>("&Data/Probe &History...", "probe_history"),
         entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit"),
         entry<OptionsRulerGridDialog>("&Options/&Ruler and Grid...", "options_ruler_grid"),
         entry<PerformanceDialog>("&Options/&Performance...", "performance"),

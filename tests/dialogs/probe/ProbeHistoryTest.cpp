@@ -1,0 +1,148 @@
+#include "ProbeDialogsFixture.h"
+
+#include "dialogs/probe/ProbeHistory.h"
+#include "dialogs/probe/ProbeHistoryDialog.h"
+#include "dialogs/probe/ProbePositionsDialog.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTableView>
+
+#include <numeric>
+
+namespace vantrix::test {
+namespace {
+
+using sdk::ui::dialogs::ProbeHistory;
+using sdk::ui::dialogs::ProbeHistoryDialog;
+using sdk::ui::dialogs::ProbePositionsDialog;
+
+class ProbeHistoryTest : public ProbeDialogsTest
+{
+protected:
+    ProbeHistoryTest() { clear(); }
+    ~ProbeHistoryTest() override { clear(); }
+
+    void SetUp() override
+    {
+        {
+            sdk::AppLock const lock;
+            ASSERT_TRUE(VtxUtilCreateRectangularZone(6, 5, 1, 0, 0, 0, 5, 4, 0, FieldDataType_Double));
+        }
+        launch<ProbeDialog>();
+    }
+
+    static void clear()
+    {
+        std::vector<int> rows(static_cast<std::size_t>(history().rowCount()));
+        std::iota(rows.begin(), rows.end(), 0);
+        history().remove(rows);
+    }
+
+    static ProbeHistory& history() { return ProbeHistory::getInstance(); }
+
+    static std::string text(int row, int column)
+    {
+        return history().index(row, column).data().toString().toStdString();
+    }
+
+    static void press(QWidget const& dialog, char const* button)
+    {
+        QTest::mouseClick(&find<QPushButton>(dialog, button), Qt::LeftButton);
+        idle();
+    }
+};
+
+TEST_F(ProbeHistoryTest, ProbesAreListedAndTwoOfThemCompared)
+{
+    ASSERT_TRUE(probeAt(1.0, 1.0, 0.0));
+    ASSERT_TRUE(probeAt(4.0, 1.0, 0.0));
+    ASSERT_TRUE(probeAt(4.0, 3.0, 0.0));
+    EXPECT_FALSE(probeAt(40.0, 3.0, 0.0));
+    ASSERT_EQ(history().rowCount(), 3);
+    EXPECT_EQ(text(1, ProbeHistory::XColumn), "4");
+    auto& dialog = launch<ProbeHistoryDialog>();
+    auto& list = find<QTableView>(dialog, "probeHistory_tableView");
+    list.selectRow(0);
+    list.selectionModel()->select(history().index(2, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    EXPECT_EQ(find<QLabel>(dialog, "probeHistory_comparison_label").text().toStdString(),
+              "Distance: " + QString::asprintf("%.18g", std::hypot(3.0, 2.0, 0.0)).toStdString());
+    auto& differences = table(dialog, "probeHistory_differences_tableWidget");
+    ASSERT_EQ(differences.rowCount(), 2);
+    EXPECT_EQ(cell(differences, 0, 3), "3");
+    EXPECT_EQ(cell(differences, 1, 3), "2");
+    press(dialog, "probeHistory_remove_pushButton");
+    ASSERT_EQ(history().rowCount(), 1);
+    EXPECT_EQ(text(0, ProbeHistory::XColumn), "4");
+}
+
+TEST_F(ProbeHistoryTest, ProbingAgainTakesTheDataOfNowAndLeavesTheLastProbe)
+{
+    ASSERT_TRUE(probeIndex(2, 2, 1));
+    ASSERT_TRUE(probeIndex(5, 5, 1));
+    changeVariable(0, 1, 10.0);
+    auto& dialog = launch<ProbeHistoryDialog>();
+    EXPECT_EQ(history().record(0).values.at(QStringLiteral("Y")), 1.0);
+    press(dialog, "probeHistory_probeAgain_pushButton");
+    EXPECT_EQ(history().record(0).values.at(QStringLiteral("Y")), 10.0);
+    EXPECT_EQ(VtxUtilProbeFieldGetPoint(), 29);
+    EXPECT_EQ(history().rowCount(), 2) << "probing again adds none";
+    EXPECT_THAT(frontEnd.messages, testing::IsEmpty());
+
+    kernel::Kernel::instance().reset();
+    open("fe2d");
+    press(dialog, "probeHistory_probeAgain_pushButton");
+    EXPECT_THAT(frontEnd.messages, testing::ElementsAre(testing::HasSubstr("0 of 2 probes")));
+    EXPECT_EQ(history().record(0).values.at(QStringLiteral("Y")), 10.0);
+}
+
+TEST_F(ProbeHistoryTest, OldProbesAreDroppedButNotThePinnedOnes)
+{
+    ASSERT_TRUE(probeIndex(1, 1, 1));
+    history().setData(history().index(0, ProbeHistory::NumberColumn), Qt::Checked, Qt::CheckStateRole);
+    std::string const pinned = text(0, ProbeHistory::NumberColumn);
+    for (int i = 0; i < ProbeHistory::largestCount + 5; ++i) {
+        history().addLastProbe();
+    }
+    EXPECT_EQ(history().rowCount(), ProbeHistory::largestCount);
+    EXPECT_EQ(text(0, ProbeHistory::NumberColumn), pinned);
+}
+
+TEST_F(ProbeHistoryTest, TheTableIsExportedAndAFileThatCannotBeWrittenIsTold)
+{
+    ASSERT_TRUE(probeAt(1.0, 2.0, 0.0));
+    auto& dialog = launch<ProbeHistoryDialog>();
+    QTemporaryDir const folder;
+    QString const name = folder.filePath(QStringLiteral("probes.txt"));
+    EXPECT_EQ(dialog.exportTo(name), QString());
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QString const text = QString::fromUtf8(file.readAll());
+    EXPECT_THAT(text.toStdString(), testing::StartsWith("Probe\tItem\tX\tY\tZ\t"));
+    EXPECT_EQ(text.count(u'\n'), 2);
+    EXPECT_THAT(text.toStdString(), testing::HasSubstr("\t1\t2\t0\t"));
+    EXPECT_THAT(dialog.exportTo(folder.filePath(QStringLiteral("missing/probes.txt"))).toStdString(),
+                testing::HasSubstr("could not be written"));
+}
+
+TEST_F(ProbeHistoryTest, SeveralPositionsAreProbedAtOnce)
+{
+    auto& dialog = launch<ProbePositionsDialog>();
+    auto& positions = find<QPlainTextEdit>(dialog, "probePositions_plainTextEdit");
+    positions.setPlainText(QStringLiteral("# x y\n1 1\n2;1.5\t0\n\n4e0, 3, 0\n99 1\n"));
+    click(dialog, QDialogButtonBox::Apply);
+    ASSERT_EQ(history().rowCount(), 3);
+    EXPECT_EQ(text(1, ProbeHistory::YColumn), "1.5");
+    EXPECT_THAT(frontEnd.messages, testing::ElementsAre("1 of 4 positions are outside of the data."));
+
+    positions.setPlainText(QStringLiteral("1 1\n1,5;2 x\n"));
+    click(dialog, QDialogButtonBox::Apply);
+    EXPECT_EQ(history().rowCount(), 3) << "a line that cannot be read keeps all from being probed";
+    EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("Line 2, \"1,5;2 x\", is no position"));
+    positions.setPlainText(QString());
+    click(dialog, QDialogButtonBox::Apply);
+    EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("There is no position"));
+}
+
+} // namespace
+} // namespace vantrix::test
