@@ -1,6 +1,7 @@
 #include "app/MouseModeBar.h"
 
 #include "api/VtxUtilFrame.h"
+#include "dialogs/probe/ProbeDialog.h"
 #include "sdk/AppLock.h"
 
 #include <QActionGroup>
@@ -30,6 +31,8 @@ const Mode modes[] = {
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag the plot to another place"), "translate", Qt::Key_T},
     {MouseMode_Rotate, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Rotate"),
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag to turn a 3D plot"), "rotate", Qt::Key_R},
+    {MouseMode_Probe, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Probe"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to see the values at a place"), "probe", Qt::Key_P},
 };
 
 } // namespace
@@ -40,7 +43,7 @@ MouseModeBar::MouseModeBar(QWidget* parent)
     , m_updater([](const toolbox::StateChangeEventInterface&) { return true; }, [this] { update(); })
 {
     setObjectName(u"mouseModeBar"_s);
-    // None is down while another mode is on: probing, placing texts.
+    // None is down while another mode is on, such as placing texts.
     m_modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (const Mode& mode : modes) {
         const QIcon icon(u":/vxplot/icons/%1.svg"_s.arg(QLatin1StringView(mode.icon)));
@@ -54,10 +57,7 @@ MouseModeBar::MouseModeBar(QWidget* parent)
         m_modes->addAction(action);
     }
     connect(m_modes, &QActionGroup::triggered, this, [this](const QAction* action) {
-        {
-            sdk::AppLock lock;
-            VtxUtilMouseSetMode(static_cast<MouseMode_e>(action->data().toInt()));
-        }
+        setMode(static_cast<MouseMode_e>(action->data().toInt()));
         update();
     });
     update();
@@ -66,6 +66,16 @@ MouseModeBar::MouseModeBar(QWidget* parent)
 QList<QAction*> MouseModeBar::modeActions() const
 {
     return m_modes->actions();
+}
+
+void MouseModeBar::setMode(MouseMode_e mode)
+{
+    if (mode == MouseMode_Probe) { // what is probed has to be shown to be of use
+        sdk::ui::dialogs::ProbeDialog::getInstance(*window()).launch();
+        return;
+    }
+    sdk::AppLock lock;
+    VtxUtilMouseSetMode(mode);
 }
 
 void MouseModeBar::update()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "api/VtxEnumerations.h"
 #include "sdk/OnIdleAfterStateChangeActionPerformer.h"
 
 #include <QToolBar>
@@ -20,6 +21,7 @@ public:
     QList<QAction*> modeActions() const;
 
 private:
+    void setMode(MouseMode_e mode);
     void update();
 
     QActionGroup* m_modes;
