@@ -1,45 +1,50 @@
 #include "view/AxisBoxPainter.h"
 
+#include "view/LinePattern.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace vantrix::view {
 namespace {
 
+constexpr double shortestEdge = 8.0; /* per cent of the frame's height; a shorter one cannot be read */
+
 double length(QPointF vector)
 {
     return std::hypot(vector.x(), vector.y());
 }
 
-AxisScale scaleOf(const AxisStyle& axis)
+AxisScale paddedScale(const PlotStyle& style, std::size_t axis)
 {
-    return {axis.minimum, axis.maximum, false, false};
-}
-
-/* How far a box of that size reaches from its middle in a direction. */
-double reach(QSizeF size, QPointF direction)
-{
-    return 0.5 * (std::abs(direction.x()) * size.width() + std::abs(direction.y()) * size.height());
+    const AxisScale range(style.axes[axis].minimum, style.axes[axis].maximum);
+    const double padding = style.boxPadding * (range.maximum() - range.minimum());
+    return {range.minimum() - padding, range.maximum() + padding};
 }
 
 } // namespace
 
-AxisBoxPainter::AxisBoxPainter(const Canvas& canvas, const PlotMeasures& measures, const std::array<AxisStyle, 3>& axes,
-                               const Camera3D& camera, const std::array<double, 3>& scale, const QRectF& picture)
+Box3 AxisBoxPainter::box(const PlotStyle& style)
+{
+    Box3 box;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const AxisScale scale = paddedScale(style, i);
+        box.minimum[i] = scale.minimum() * style.axisScale[i];
+        box.maximum[i] = scale.maximum() * style.axisScale[i];
+    }
+    return box;
+}
+
+AxisBoxPainter::AxisBoxPainter(const Canvas& canvas, double frameHeight, const PlotStyle& style, const Camera3D& camera,
+                               const QRectF& picture)
     : m_canvas(canvas)
-    , m_measures(measures)
-    , m_axes(axes)
-    , m_scales{scaleOf(axes[0]), scaleOf(axes[1]), scaleOf(axes[2])}
+    , m_frameHeight(frameHeight)
+    , m_style(style)
     , m_camera(camera)
     , m_picture(picture)
-{
-    for (std::size_t i = 0; i < 3; ++i) {
-        m_box.minimum[i] = m_scales[i].minimum() * scale[i];
-        m_box.maximum[i] = m_scales[i].maximum() * scale[i];
-        m_labelFonts[i] = canvas.font(measures.label * axes[i].labelScale);
-        m_titleFonts[i] = canvas.font(measures.title * axes[i].titleScale);
-    }
-}
+    , m_box(box(style))
+    , m_scales{paddedScale(style, 0), paddedScale(style, 1), paddedScale(style, 2)}
+{}
 
 QPointF AxisBoxPainter::place(const Point3& world) const
 {
@@ -53,11 +58,32 @@ bool AxisBoxPainter::isFacing(std::size_t axis, bool atMaximum) const
     return atMaximum ? component > 1e-9 : component < -1e-9;
 }
 
+/* The edge along an axis from one of the corners at its minimum. */
+AxisBoxPainter::Edge AxisBoxPainter::edgeAt(std::size_t axis, int corner) const
+{
+    const QPointF from = place(m_box.corner(corner));
+    const QPointF to = place(m_box.corner(corner | (1 << axis)));
+    const QPointF along = to - from;
+    if (length(along) < shortestEdge / 100.0 * m_frameHeight * m_canvas.inch) {
+        return {};
+    }
+    QPointF outward = QPointF(-along.y(), along.x()) / length(along);
+    if (QPointF::dotProduct(outward, 0.5 * (from + to) - place(m_box.center())) < 0.0) {
+        outward = -outward;
+    }
+    return {from, to, outward, corner, true};
+}
+
 AxisBoxPainter::Edge AxisBoxPainter::edge(std::size_t axis) const
 {
     const std::size_t first = (axis + 1) % 3;
     const std::size_t second = (axis + 2) % 3;
-    const QPointF middle = place(m_box.center());
+    if (const int wanted = m_style.axes[axis].line.edge; wanted > 0) {
+        // Counted around the axis: both others at their minimum, the first at its maximum, both, the second.
+        const bool atFirst = wanted == 2 || wanted == 3;
+        const bool atSecond = wanted == 3 || wanted == 4;
+        return edgeAt(axis, (atFirst ? 1 << first : 0) | (atSecond ? 1 << second : 0));
+    }
     Edge best;
     double bestRank = 0.0;
     for (int number = 0; number < 8; ++number) {
@@ -66,136 +92,186 @@ AxisBoxPainter::Edge AxisBoxPainter::edge(std::size_t axis) const
         if ((number & (1 << axis)) || isFacing(first, atFirst) == isFacing(second, atSecond)) {
             continue;
         }
-        const QPointF from = place(m_box.corner(number));
-        const QPointF to = place(m_box.corner(number | (1 << axis)));
-        const QPointF along = to - from;
-        if (length(along) < 6.0 * m_measures.label * m_canvas.inch) {
-            continue;
-        }
-        QPointF outward = QPointF(-along.y(), along.x()) / length(along);
-        if (QPointF::dotProduct(outward, 0.5 * (from + to) - middle) < 0.0) {
-            outward = -outward;
-        }
+        const Edge one = edgeAt(axis, number);
         // X and Y belong at the bottom of the picture, Z at its left.
-        const double rank = axis == 2 ? -0.5 * (from.x() + to.x()) : 0.5 * (from.y() + to.y());
-        if (!best.isUsable || rank > bestRank) {
-            best = {from, to, outward, number, true};
+        const double rank = axis == 2 ? -0.5 * (one.from.x() + one.to.x()) : 0.5 * (one.from.y() + one.to.y());
+        if (one.isUsable && (!best.isUsable || rank > bestRank)) {
+            best = one;
             bestRank = rank;
         }
     }
     return best;
 }
 
-AxisTicks AxisBoxPainter::ticks(std::size_t axis, const Edge& edge) const
+int AxisBoxPainter::oppositeCorner(std::size_t axis, int corner) const
 {
-    const QPointF along = edge.to - edge.from;
-    const double size = length(along);
-    const QPointF direction = along / size;
-    const double height = m_canvas.textSize(QStringLiteral("0"), m_labelFonts[axis]).height();
-    TickRequest request;
-    request.length = size;
-    request.minimumDistance = 3.0 * height;
-    request.labelExtent = [&](const std::string& label) {
-        // Two boxes clear each other when they are apart across or up.
-        const QSizeF box = m_canvas.textSize(QString::fromStdString(label), m_labelFonts[axis]);
-        const double across =
-            std::abs(direction.x()) > 1e-6 ? (box.width() + 0.8 * height) / std::abs(direction.x()) : 1e9;
-        const double up = std::abs(direction.y()) > 1e-6 ? 1.15 * box.height() / std::abs(direction.y()) : 1e9;
-        return std::min(across, up);
-    };
-    request.spacing = m_axes[axis].spacing;
-    request.anchor = m_axes[axis].anchor;
-    request.minorCount = m_axes[axis].minorTicks;
-    return AxisTicks::make(m_scales[axis], request);
+    return corner ^ (1 << ((axis + 1) % 3)) ^ (1 << ((axis + 2) % 3));
 }
 
-void AxisBoxPainter::paintBack() const
+AxisPath AxisBoxPainter::path(std::size_t axis, const Edge& edge) const
 {
-    QPainter& painter = m_canvas.painter;
-    for (std::size_t normal = 0; normal < 3; ++normal) {
-        const bool atMaximum = isFacing(normal, false);
-        if (!atMaximum && !isFacing(normal, true)) {
-            continue; // seen edge on
-        }
-        const double side = atMaximum ? m_box.maximum[normal] : m_box.minimum[normal];
-        const std::size_t first = (normal + 1) % 3;
-        const std::size_t second = (normal + 2) % 3;
-        const auto point = [&](double a, double b) {
-            Point3 world{};
-            world[normal] = side;
-            world[first] = a;
-            world[second] = b;
-            return place(world);
-        };
-        const std::array<QPointF, 4> corners{
-            point(m_box.minimum[first], m_box.minimum[second]), point(m_box.maximum[first], m_box.minimum[second]),
-            point(m_box.maximum[first], m_box.maximum[second]), point(m_box.minimum[first], m_box.maximum[second])};
-        const QColor color = faint(m_axes[first].lineColor);
-        if (!m_axes[first].isShown && !m_axes[second].isShown) {
+    // Through the camera: perspective makes equal steps unequal in the picture.
+    const auto along = [this, axis, edge](double fraction) {
+        Point3 world = m_box.corner(edge.corner);
+        world[axis] = std::lerp(m_box.minimum[axis], m_box.maximum[axis], fraction);
+        const QPointF whole = edge.to - edge.from;
+        return QPointF::dotProduct(place(world) - edge.from, whole) / QPointF::dotProduct(whole, whole);
+    };
+    const QPointF offset = edge.outward * (m_style.axes[axis].line.offset / 100.0 * m_frameHeight * m_canvas.inch);
+    return AxisPath::line(edge.from + offset, edge.to + offset, edge.outward, along);
+}
+
+std::vector<AxisLinePainter> AxisBoxPainter::lines() const
+{
+    std::vector<AxisLinePainter> lines;
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const AxisStyle& style = m_style.axes[axis];
+        const Edge carrier = edge(axis);
+        if (!style.isShown || !carrier.isUsable) {
             continue;
         }
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(m_canvas.pen(color, m_measures.line));
-        painter.drawPolygon(corners.data(), 4);
-        for (const auto& [axis, across] : {std::pair(first, second), std::pair(second, first)}) {
-            const Edge carrier = edge(axis);
-            if (!m_axes[axis].hasGridLines || !m_axes[axis].isShown || !carrier.isUsable) {
+        lines.emplace_back(m_canvas, m_frameHeight, style, m_scales[axis], path(axis, carrier),
+                           AxisParts::of(style, style.line.isShown, &ShownOn::axisLine));
+        // Where axes meet, each one's first or last number would lie near the other's.
+        lines.back().clearIntersections({0.0, 1.0});
+        const AxisParts parts = AxisParts::of(style, style.line.hasOppositeEdge, &ShownOn::oppositeEdge);
+        const Edge opposite = edgeAt(axis, oppositeCorner(axis, carrier.corner));
+        if (opposite.isUsable && (parts.hasLine || parts.hasTicks || parts.hasLabels || parts.hasTitle)) {
+            lines.emplace_back(m_canvas, m_frameHeight, style, m_scales[axis], path(axis, opposite), parts);
+        }
+    }
+    return lines;
+}
+
+QRectF AxisBoxPainter::bounds() const
+{
+    QRectF bounds;
+    for (const AxisLinePainter& line : lines()) {
+        bounds |= line.bounds();
+    }
+    return bounds;
+}
+
+std::vector<AxisBoxPainter::Side> AxisBoxPainter::farSides() const
+{
+    std::vector<Side> sides;
+    for (std::size_t normal = 0; normal < 3; ++normal) {
+        const bool atMaximum = isFacing(normal, false);
+        if (atMaximum || isFacing(normal, true)) { // else it is seen edge on
+            sides.push_back({normal, atMaximum ? m_box.maximum[normal] : m_box.minimum[normal], (normal + 1) % 3,
+                             (normal + 2) % 3});
+        }
+    }
+    return sides;
+}
+
+QColor AxisBoxPainter::fill(const Side& side) const
+{
+    if (!m_style.area.usesLight) {
+        return m_style.area.fill;
+    }
+    // The light comes from beside the eye: the more a side is turned to the eye, the brighter it is.
+    const double facing = std::abs(m_camera.toward()[side.normal]);
+    const double brightness = std::clamp(m_style.light.background + m_style.light.intensity * facing, 0.2, 1.0);
+    const QColor& color = m_style.area.fill;
+    return QColor::fromRgbF(float(color.redF() * brightness), float(color.greenF() * brightness),
+                            float(color.blueF() * brightness));
+}
+
+void AxisBoxPainter::paintGrid(const Side& side, bool isLast) const
+{
+    const double inches = m_frameHeight / 100.0;
+    for (const auto& [axis, across] : {std::pair(side.first, side.second), std::pair(side.second, side.first)}) {
+        const AxisStyle& style = m_style.axes[axis];
+        const Edge carrier = edge(axis);
+        if (!style.isShown || !carrier.isUsable) {
+            continue;
+        }
+        AxisTicks ticks;
+        for (const bool isMinor : {true, false}) {
+            const GridLineStyle& grid = isMinor ? style.minorGrid : style.grid;
+            if (!grid.isShown || grid.isLast != isLast) {
                 continue;
             }
-            painter.setPen(m_canvas.pen(faint(m_axes[axis].gridColor), 0.7 * m_measures.line));
-            for (const Tick& tick : ticks(axis, carrier).major) {
-                const double value = std::lerp(m_box.minimum[axis], m_box.maximum[axis], tick.fraction);
+            if (ticks.major.empty()) {
+                ticks =
+                    AxisLinePainter::ticksAlong(m_canvas, m_frameHeight, style, m_scales[axis], path(axis, carrier));
+            }
+            m_canvas.painter.setPen(
+                patternPen(m_canvas, grid.color, grid.thickness * inches, grid.pattern, grid.patternLength * inches));
+            for (const Tick& tick : isMinor ? ticks.minor : ticks.major) {
                 Point3 from{};
-                from[normal] = side;
-                from[axis] = value;
+                from[side.normal] = side.place;
+                from[axis] = std::lerp(m_box.minimum[axis], m_box.maximum[axis], tick.fraction);
                 Point3 to = from;
                 from[across] = m_box.minimum[across];
                 to[across] = m_box.maximum[across];
-                painter.drawLine(place(from), place(to));
+                m_canvas.painter.drawLine(place(from), place(to));
             }
         }
     }
 }
 
-void AxisBoxPainter::paintAxes() const
+void AxisBoxPainter::paintBack() const
 {
     QPainter& painter = m_canvas.painter;
-    const double tick = m_measures.tick * m_canvas.inch;
-    const double gap = m_measures.gap * m_canvas.inch;
-    for (std::size_t axis = 0; axis < 3; ++axis) {
-        const AxisStyle& style = m_axes[axis];
-        const Edge carrier = edge(axis);
-        if (!style.isShown || !carrier.isUsable) {
+    for (const Side& side : farSides()) {
+        const AxisStyle& first = m_style.axes[side.first];
+        if (!first.isShown && !m_style.axes[side.second].isShown) {
             continue;
         }
-        painter.setPen(m_canvas.pen(style.lineColor, m_measures.line * 1.4));
-        painter.drawLine(carrier.from, carrier.to);
-        const AxisTicks marks = ticks(axis, carrier);
-        double depth = 0.0;
-        for (const auto* set : {&marks.minor, &marks.major}) {
-            for (const Tick& mark : *set) {
-                // Through the camera: perspective makes equal steps unequal in the picture.
-                Point3 world = m_box.corner(carrier.corner);
-                world[axis] = std::lerp(m_box.minimum[axis], m_box.maximum[axis], mark.fraction);
-                const QPointF at = place(world);
-                painter.setPen(m_canvas.pen(style.lineColor, m_measures.line));
-                painter.drawLine(at, at + carrier.outward * (mark.label.empty() ? 0.55 * tick : tick));
-                if (mark.label.empty()) {
-                    continue;
-                }
-                const QString text = QString::fromStdString(mark.label);
-                const QSizeF size = m_canvas.textSize(text, m_labelFonts[axis]);
-                const double off = tick + 0.8 * gap + reach(size, carrier.outward);
-                m_canvas.drawText(at + carrier.outward * off, Qt::AlignCenter, text, m_labelFonts[axis],
-                                  style.labelColor);
-                depth = std::max(depth, off + reach(size, carrier.outward));
-            }
+        const auto point = [&](double a, double b) {
+            Point3 world{};
+            world[side.normal] = side.place;
+            world[side.first] = a;
+            world[side.second] = b;
+            return place(world);
+        };
+        const Point3& low = m_box.minimum;
+        const Point3& high = m_box.maximum;
+        const std::array<QPointF, 4> corners{
+            point(low[side.first], low[side.second]), point(high[side.first], low[side.second]),
+            point(high[side.first], high[side.second]), point(low[side.first], high[side.second])};
+        painter.setBrush(m_style.area.isFilled ? QBrush(fill(side)) : QBrush(Qt::NoBrush));
+        painter.setPen(m_style.area.hasBorder
+                           ? m_canvas.pen(first.grid.color, m_style.area.borderThickness / 100.0 * m_frameHeight)
+                           : QPen(Qt::NoPen));
+        painter.drawPolygon(corners.data(), 4);
+        paintGrid(side, false);
+    }
+}
+
+void AxisBoxPainter::paintAxes() const
+{
+    for (const Side& side : farSides()) {
+        paintGrid(side, true);
+    }
+    for (const AxisLinePainter& line : lines()) {
+        line.paint();
+    }
+    if (m_style.tripod.isShown) {
+        paintTripod();
+    }
+}
+
+void AxisBoxPainter::paintTripod() const
+{
+    const TripodStyle& style = m_style.tripod;
+    const double size = style.size / 100.0 * m_frameHeight * m_canvas.inch;
+    const double text = 0.28 * style.size / 100.0 * m_frameHeight;
+    const QPointF origin(m_picture.left() + style.position.x() * m_picture.width(),
+                         m_picture.bottom() - style.position.y() * m_picture.height());
+    const QFont font = m_canvas.font(text);
+    m_canvas.painter.setPen(m_canvas.pen(style.color, 0.15 / 100.0 * m_frameHeight));
+    constexpr std::array<const char*, 3> names{"X", "Y", "Z"};
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+        const QPointF seen(m_camera.right()[axis], -m_camera.up()[axis]);
+        const QPointF tip = origin + seen * size;
+        m_canvas.painter.drawLine(origin, tip);
+        if (length(seen) > 0.15) {
+            m_canvas.drawText(tip + seen / length(seen) * (0.7 * text * m_canvas.inch), Qt::AlignCenter,
+                              QString::fromLatin1(names[axis]), font, style.color);
         }
-        const QString title = QString::fromStdString(style.title);
-        const QSizeF size = m_canvas.textSize(title, m_titleFonts[axis]);
-        const QPointF middle = 0.5 * (carrier.from + carrier.to);
-        m_canvas.drawText(middle + carrier.outward * (depth + gap + reach(size, carrier.outward)), Qt::AlignCenter,
-                          title, m_titleFonts[axis], style.titleColor);
     }
 }
 

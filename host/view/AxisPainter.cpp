@@ -1,182 +1,297 @@
 #include "view/AxisPainter.h"
 
-#include <QMarginsF>
+#include "view/LinePattern.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace vantrix::view {
+namespace {
 
-PlotMeasures PlotMeasures::forFrame(QSizeF inches)
+constexpr double edgePercent = 1.0; /* of the frame's height, kept free around everything */
+
+AxisScale scaleOf(const AxisStyle& axis)
 {
-    const double size = std::clamp(std::min(inches.width(), inches.height() * 1.1), 0.5, 20.0);
-    const double label = std::clamp(0.021 * size, 0.055, 0.3);
-    return {label, label * 1.15, label * 0.5, label * 0.45, label * 0.07};
+    return {axis.minimum, axis.maximum, axis.isLogarithmic, axis.isReversed};
 }
 
-QColor faint(const QColor& color)
+AxisScale widened(const AxisScale& scale, double range)
 {
-    QColor result = color;
-    result.setAlphaF(0.16F);
-    return result;
+    const double middle = 0.5 * (scale.minimum() + scale.maximum());
+    return {middle - 0.5 * range, middle + 0.5 * range, false, scale.isReversed()};
 }
 
-AxisPainter::AxisPainter(const Canvas& canvas, const PlotMeasures& measures, const AxisStyle& x, const AxisStyle& y)
+double range(const AxisScale& scale)
+{
+    return scale.maximum() - scale.minimum();
+}
+
+bool isOn(const ShownOn& ticks, const ShownOn& labels, const ShownOn& title, bool ShownOn::*where)
+{
+    return ticks.*where || labels.*where || title.*where;
+}
+
+} // namespace
+
+AxisPainter::AxisPainter(const Canvas& canvas, double frameHeight, const PlotStyle& style)
     : m_canvas(canvas)
-    , m_measures(measures)
-    , m_styles{x, y}
-    , m_scales{AxisScale(x.minimum, x.maximum, x.isLogarithmic, x.isReversed),
-               AxisScale(y.minimum, y.maximum, y.isLogarithmic, y.isReversed)}
-    , m_labelFonts{canvas.font(measures.label * x.labelScale), canvas.font(measures.label * y.labelScale)}
-    , m_titleFonts{canvas.font(measures.title * x.titleScale), canvas.font(measures.title * y.titleScale)}
-{}
-
-AxisTicks AxisPainter::ticks(std::size_t axis, const QRectF& area) const
+    , m_frameHeight(frameHeight)
+    , m_style(style)
 {
-    const double labelHeight = m_canvas.textSize(QStringLiteral("0"), m_labelFonts[axis]).height();
-    TickRequest request;
-    request.length = std::max(1.0, axis == 0 ? area.width() : area.height());
-    request.minimumDistance = labelHeight * (axis == 0 ? 3.5 : 2.2);
-    request.labelExtent = [&, axis](const std::string& label) {
-        const QSizeF size = m_canvas.textSize(QString::fromStdString(label), m_labelFonts[axis]);
-        return axis == 0 ? size.width() + 1.2 * labelHeight : size.height() * 1.3;
-    };
-    request.spacing = m_styles[axis].spacing;
-    request.anchor = m_styles[axis].anchor;
-    request.minorCount = m_styles[axis].minorTicks;
-    return AxisTicks::make(m_scales[axis], request);
+    for (std::size_t kind = 0; kind < 2; ++kind) {
+        m_axes.push_back({kind, 1, &style.axes[kind], scaleOf(style.axes[kind])});
+    }
+    for (const NumberedAxis& more : style.moreAxes) {
+        m_axes.push_back({more.kind, more.number, &more.style, scaleOf(more.style)});
+    }
 }
 
-double AxisPainter::labelWidth(std::size_t axis, const AxisTicks& ticks) const
+const AxisScale& AxisPainter::scale(std::size_t kind, int number) const
 {
-    double width = 0.0;
-    for (const Tick& tick : ticks.major) {
-        width = std::max(width, m_canvas.textSize(QString::fromStdString(tick.label), m_labelFonts[axis]).width());
-    }
-    return width;
+    const auto found = std::find_if(m_axes.begin(), m_axes.end(),
+                                    [&](const Axis& axis) { return axis.kind == kind && axis.number == number; });
+    return found != m_axes.end() ? found->scale : m_axes[kind].scale;
 }
 
-QMarginsF AxisPainter::margins(const QRectF& area) const
+/* Length of a unit of X over one of Y; 0 where each axis has its own. */
+double AxisPainter::unitRatio() const
 {
-    const double inch = m_canvas.inch;
-    const double labelHeight = m_canvas.textSize(QStringLiteral("0"), m_labelFonts[0]).height();
-    const double edge = 1.5 * m_measures.gap * inch;
-    const double outside = (m_measures.tick + m_measures.gap) * inch;
-    QMarginsF result(edge, edge, edge, edge);
-    if (m_styles[0].isShown) {
-        result.setBottom(edge + outside + labelHeight);
-        if (!m_styles[0].title.empty()) {
-            result.setBottom(result.bottom() + 0.5 * m_measures.gap * inch +
-                             m_canvas.textSize(QStringLiteral("X"), m_titleFonts[0]).height());
-        }
-        // The last number reaches beyond the end of its axis.
-        for (const Tick& tick : ticks(0, area).major) {
-            const double half = 0.5 * m_canvas.textSize(QString::fromStdString(tick.label), m_labelFonts[0]).width();
-            result.setRight(std::max(result.right(), edge + half - (1.0 - tick.fraction) * area.width()));
-            result.setLeft(std::max(result.left(), edge + half - tick.fraction * area.width()));
-        }
-    }
-    if (m_styles[1].isShown) {
-        double left = edge + outside + labelWidth(1, ticks(1, area));
-        if (!m_styles[1].title.empty()) {
-            left += m_measures.gap * inch + m_canvas.textSize(QStringLiteral("X"), m_titleFonts[1]).height();
-        }
-        result.setLeft(std::max(result.left(), left));
-        result.setTop(std::max(result.top(), edge + 0.5 * labelHeight));
-    }
-    return result;
+    const bool isAllowed = m_axes.size() == 2 && !m_axes[0].scale.isLogarithmic() && !m_axes[1].scale.isLogarithmic();
+    return isAllowed ? m_style.xToYRatio : 0.0;
 }
 
-QRectF AxisPainter::plotArea(const QRectF& room, const QRectF& viewport, double ratio) const
+QRectF AxisPainter::layOut(const QRectF& room, const QRectF& frame)
 {
+    const AxisAreaStyle& style = m_style.area;
+    m_viewport = QRectF(QPointF(frame.left() + std::min(style.left, style.right) * frame.width(),
+                                frame.bottom() - std::max(style.bottom, style.top) * frame.height()),
+                        QPointF(frame.left() + std::max(style.left, style.right) * frame.width(),
+                                frame.bottom() - std::min(style.bottom, style.top) * frame.height()));
     // Which numbers there are depends on the length of the axis, and its length on the room for the numbers.
-    QRectF area = room.intersected(viewport);
-    for (int round = 0; round < 2; ++round) {
-        area = room.marginsRemoved(margins(area.isValid() ? area : room)).intersected(viewport);
+    const double edge = edgePercent / 100.0 * m_frameHeight * m_canvas.inch;
+    const QRectF inside = room.adjusted(edge, edge, -edge, -edge);
+    const QRectF smallest(inside.center() - QPointF(0.5, 0.5), QSizeF(1.0, 1.0));
+    const QRectF most = inside.intersected(m_viewport).isValid() ? inside.intersected(m_viewport) : smallest;
+    QRectF area = most;
+    for (int round = 0; round < 3; ++round) {
+        m_area = area;
+        keepProportion(area);
+        const QRectF all = bounds();
+        const QMarginsF needed(m_area.left() - all.left(), m_area.top() - all.top(), all.right() - m_area.right(),
+                               all.bottom() - m_area.bottom());
+        area = inside.marginsRemoved(needed).intersected(most);
+        if (area.width() < 1.0 || area.height() < 1.0) {
+            area = smallest;
+        }
     }
-    if (area.width() < 1.0 || area.height() < 1.0) {
-        return {room.center(), QSizeF(1.0, 1.0)};
-    }
-    if (ratio > 0.0) {
-        const double width = std::min(area.width(), area.height() / ratio);
-        const QSizeF size(std::max(1.0, width), std::max(1.0, width * ratio));
-        area = QRectF(area.center() - QPointF(0.5 * size.width(), 0.5 * size.height()), size);
-    }
-    return area;
+    m_area = area;
+    keepProportion(area);
+    m_area = m_canvas.aligned(m_area);
+    return m_area;
 }
 
-void AxisPainter::paintGrid(const QRectF& area) const
+/* Fits the area into `room`, or the ranges to the area where the lengths of axes are to be kept. */
+void AxisPainter::keepProportion(const QRectF& room)
 {
-    for (std::size_t axis = 0; axis < 2; ++axis) {
-        if (!m_styles[axis].hasGridLines) {
+    const double ratio = unitRatio();
+    if (ratio <= 0.0) {
+        return;
+    }
+    const double xRange = range(scaleOf(*m_axes[0].style));
+    const double yRange = range(scaleOf(*m_axes[1].style));
+    const double xUnit = room.width() / xRange;
+    const double yUnit = room.height() / yRange;
+    if (m_style.keepsAxisLengths) {
+        const bool isXWidened = xUnit > ratio * yUnit;
+        const AxisScale x = scaleOf(*m_axes[0].style);
+        const AxisScale y = scaleOf(*m_axes[1].style);
+        m_axes[0].scale = isXWidened ? widened(x, room.width() / (ratio * yUnit)) : x;
+        m_axes[1].scale = isXWidened ? y : widened(y, room.height() * ratio / xUnit);
+        return;
+    }
+    const double unit = std::min(xUnit, ratio * yUnit);
+    const QSizeF size(std::max(1.0, unit * xRange), std::max(1.0, unit / ratio * yRange));
+    m_area = QRectF(room.center() - QPointF(0.5 * size.width(), 0.5 * size.height()), size);
+}
+
+/* Where an axis lies across the area: 0 at the lower or left border, 1 at the other. */
+double AxisPainter::place(const Axis& axis) const
+{
+    const AxisLineStyle& line = axis.style->line;
+    switch (line.alignment) {
+    case AxisAlignment_GridMax:
+    case AxisAlignment_GridAreaTop:
+    case AxisAlignment_GridAreaRight:
+        return 1.0;
+    case AxisAlignment_OpposingAxisValue:
+        return std::clamp(scale(1 - axis.kind, 1).fraction(line.opposingValue), 0.0, 1.0);
+    case AxisAlignment_Viewport:
+        return axis.kind == 0
+                   ? (m_area.bottom() - (m_viewport.bottom() - line.position / 100.0 * m_viewport.height())) /
+                         m_area.height()
+                   : (m_viewport.left() + line.position / 100.0 * m_viewport.width() - m_area.left()) / m_area.width();
+    default:
+        return 0.0;
+    }
+}
+
+AxisPath AxisPainter::path(std::size_t kind, double across, bool isOutwardUp) const
+{
+    if (kind == 0) {
+        const double y = m_area.bottom() - across * m_area.height();
+        return AxisPath::line({m_area.left(), y}, {m_area.right(), y}, {0.0, isOutwardUp ? -1.0 : 1.0});
+    }
+    const double x = m_area.left() + across * m_area.width();
+    return AxisPath::line({x, m_area.bottom()}, {x, m_area.top()}, {isOutwardUp ? 1.0 : -1.0, 0.0});
+}
+
+std::vector<AxisPainter::Line> AxisPainter::lines() const
+{
+    std::vector<Line> lines;
+    // How far the axes that stand at a border already reach; by kind and side.
+    std::array<std::array<double, 2>, 2> taken{};
+    for (const Axis& axis : m_axes) {
+        const AxisStyle& style = *axis.style;
+        if (!style.isShown) {
             continue;
         }
-        m_canvas.painter.setPen(m_canvas.pen(faint(m_styles[axis].gridColor), m_measures.line * 0.8));
-        for (const Tick& tick : ticks(axis, area).major) {
-            if (axis == 0) {
-                const double x = area.left() + tick.fraction * area.width();
-                m_canvas.painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-            } else {
-                const double y = area.bottom() - tick.fraction * area.height();
-                m_canvas.painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
+        const double at = place(axis);
+        const bool isUp = at > 1.0 - 1e-6;
+        const bool isAtBorder = isUp || at < 1e-6;
+        double& reached = taken[axis.kind][isUp ? 1 : 0];
+        const double size = axis.kind == 0 ? m_area.height() : m_area.width();
+        const double unit = m_frameHeight / 100.0 * m_canvas.inch;
+        const double offset = style.line.offset * unit + (isAtBorder ? reached : 0.0);
+        const AxisPath own = path(axis.kind, at + (isUp ? 1.0 : -1.0) * offset / size, isUp);
+        lines.push_back({&axis,
+                         {m_canvas, m_frameHeight, style, axis.scale, own,
+                          AxisParts::of(style, style.line.isShown, &ShownOn::axisLine)},
+                         isAtBorder});
+        std::vector<double> crossings;
+        for (const Axis& other : m_axes) {
+            if (other.kind != axis.kind && other.style->isShown) {
+                crossings.push_back(place(other));
             }
+        }
+        lines.back().painter.clearIntersections(crossings);
+        if (isAtBorder) {
+            reached = offset + lines.back().painter.reach() + 1.5 * unit;
+        }
+        for (const auto& [where, across] :
+             {std::pair(&ShownOn::gridMinimum, 0.0), std::pair(&ShownOn::gridMaximum, 1.0)}) {
+            if (isOn(style.ticks.shownOn, style.labels.shownOn, style.title.shownOn, where)) {
+                lines.push_back({&axis,
+                                 {m_canvas, m_frameHeight, style, axis.scale, path(axis.kind, across, across > 0.5),
+                                  AxisParts::of(style, false, where)},
+                                 true});
+            }
+        }
+    }
+    return lines;
+}
+
+QRectF AxisPainter::bounds() const
+{
+    QRectF bounds = m_area;
+    for (const Line& line : lines()) {
+        bounds |= line.painter.bounds();
+    }
+    return bounds;
+}
+
+AxisTicks AxisPainter::ticks(const Axis& axis) const
+{
+    return AxisLinePainter::ticksAlong(m_canvas, m_frameHeight, *axis.style, axis.scale, path(axis.kind, 0.0, false));
+}
+
+void AxisPainter::paintGridLines(const Axis& axis, const GridLineStyle& grid, const std::vector<Tick>& ticks) const
+{
+    if (!grid.isShown) {
+        return;
+    }
+    const double inches = m_frameHeight / 100.0;
+    m_canvas.painter.setPen(
+        patternPen(m_canvas, grid.color, grid.thickness * inches, grid.pattern, grid.patternLength * inches));
+    for (const Tick& tick : ticks) {
+        if (axis.kind == 0) {
+            const double x = m_area.left() + tick.fraction * m_area.width();
+            m_canvas.painter.drawLine(QPointF(x, m_area.bottom()), QPointF(x, m_area.top()));
+        } else {
+            const double y = m_area.bottom() - tick.fraction * m_area.height();
+            m_canvas.painter.drawLine(QPointF(m_area.left(), y), QPointF(m_area.right(), y));
         }
     }
 }
 
-void AxisPainter::paintAxes(const QRectF& area) const
+void AxisPainter::paintGrid(bool isLast) const
 {
-    QPainter& painter = m_canvas.painter;
-    const double tick = m_measures.tick * m_canvas.inch;
-    const double gap = m_measures.gap * m_canvas.inch;
-    const double labelHeight = m_canvas.textSize(QStringLiteral("0"), m_labelFonts[0]).height();
-    const double titleHeight = m_canvas.textSize(QStringLiteral("X"), m_titleFonts[1]).height();
-    const AxisStyle& x = m_styles[0];
-    const AxisStyle& y = m_styles[1];
-    if (x.isShown && y.isShown) {
-        painter.setPen(m_canvas.pen(x.lineColor, m_measures.line));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(area);
+    for (const Axis& axis : m_axes) {
+        const AxisStyle& style = *axis.style;
+        const bool isMinorNow = style.minorGrid.isShown && style.minorGrid.isLast == isLast;
+        const bool isMajorNow = style.grid.isShown && style.grid.isLast == isLast;
+        if (!style.isShown || !(isMinorNow || isMajorNow)) {
+            continue;
+        }
+        const AxisTicks marks = ticks(axis);
+        if (isMinorNow) {
+            paintGridLines(axis, style.minorGrid, marks.minor);
+        }
+        if (isMajorNow) {
+            paintGridLines(axis, style.grid, marks.major);
+        }
     }
-    if (x.isShown) {
-        painter.setPen(m_canvas.pen(x.lineColor, m_measures.line * 1.4));
-        painter.drawLine(area.bottomLeft(), area.bottomRight());
-        const AxisTicks marks = ticks(0, area);
-        for (const auto* set : {&marks.minor, &marks.major}) {
-            for (const Tick& mark : *set) {
-                const double place = area.left() + mark.fraction * area.width();
-                const double length = mark.label.empty() ? 0.55 * tick : tick;
-                painter.setPen(m_canvas.pen(x.lineColor, m_measures.line));
-                painter.drawLine(QPointF(place, area.bottom()), QPointF(place, area.bottom() + length));
-                if (!mark.label.empty()) {
-                    m_canvas.drawText({place, area.bottom() + tick + 0.6 * gap}, Qt::AlignHCenter | Qt::AlignTop,
-                                      QString::fromStdString(mark.label), m_labelFonts[0], x.labelColor);
-                }
+}
+
+void AxisPainter::paintPreciseGrid() const
+{
+    const AxisAreaStyle& style = m_style.area;
+    if (!style.hasPreciseGrid) {
+        return;
+    }
+    constexpr double inchesPerCentimetre = 1.0 / 2.54;
+    const double size =
+        std::max(style.preciseGridSize * inchesPerCentimetre * m_canvas.inch, 1.0 / m_canvas.resolution());
+    const auto fractions = [](const AxisTicks& ticks) {
+        std::vector<double> found;
+        for (const auto* set : {&ticks.major, &ticks.minor}) {
+            for (const Tick& tick : *set) {
+                found.push_back(tick.fraction);
             }
         }
-        m_canvas.drawText({area.center().x(), area.bottom() + tick + gap + labelHeight + 0.5 * gap},
-                          Qt::AlignHCenter | Qt::AlignTop, QString::fromStdString(x.title), m_titleFonts[0],
-                          x.titleColor);
-    }
-    if (y.isShown) {
-        painter.setPen(m_canvas.pen(y.lineColor, m_measures.line * 1.4));
-        painter.drawLine(area.bottomLeft(), area.topLeft());
-        const AxisTicks marks = ticks(1, area);
-        for (const auto* set : {&marks.minor, &marks.major}) {
-            for (const Tick& mark : *set) {
-                const double place = area.bottom() - mark.fraction * area.height();
-                const double length = mark.label.empty() ? 0.55 * tick : tick;
-                painter.setPen(m_canvas.pen(y.lineColor, m_measures.line));
-                painter.drawLine(QPointF(area.left(), place), QPointF(area.left() - length, place));
-                if (!mark.label.empty()) {
-                    m_canvas.drawText({area.left() - tick - 0.6 * gap, place}, Qt::AlignRight | Qt::AlignVCenter,
-                                      QString::fromStdString(mark.label), m_labelFonts[1], y.labelColor);
-                }
-            }
+        return found;
+    };
+    const std::vector<double> across = fractions(ticks(m_axes[0]));
+    for (const double up : fractions(ticks(m_axes[1]))) {
+        for (const double along : across) {
+            const QPointF middle(m_area.left() + along * m_area.width(), m_area.bottom() - up * m_area.height());
+            m_canvas.painter.fillRect(QRectF(middle - QPointF(0.5 * size, 0.5 * size), QSizeF(size, size)),
+                                      style.preciseGridColor);
         }
-        const double offset = tick + 0.6 * gap + labelWidth(1, marks) + gap + 0.5 * titleHeight;
-        m_canvas.drawTurnedText({area.left() - offset, area.center().y()}, 90.0, QString::fromStdString(y.title),
-                                m_titleFonts[1], y.titleColor);
+    }
+}
+
+void AxisPainter::paintBehind() const
+{
+    if (m_style.area.isFilled) {
+        m_canvas.painter.fillRect(m_area, m_style.area.fill);
+    }
+    paintGrid(false);
+}
+
+void AxisPainter::paintFront() const
+{
+    paintGrid(true);
+    paintPreciseGrid();
+    const AxisAreaStyle& style = m_style.area;
+    if (style.hasBorder) {
+        m_canvas.painter.setPen(m_canvas.pen(style.borderColor, style.borderThickness / 100.0 * m_frameHeight));
+        m_canvas.painter.setBrush(Qt::NoBrush);
+        m_canvas.painter.drawRect(m_area);
+    }
+    const QColor behind = style.isFilled ? style.fill : m_style.frame.background;
+    for (const Line& line : lines()) {
+        line.painter.paint(line.isAtBorder ? std::nullopt : std::optional(behind));
     }
 }
 

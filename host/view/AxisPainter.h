@@ -1,63 +1,77 @@
 #pragma once
 
-#include "view/AxisTicks.h"
+#include "view/AxisLinePainter.h"
 #include "view/Canvas.h"
 #include "view/PlotStyle.h"
 
 #include <QRectF>
 
-#include <array>
+#include <vector>
 
 namespace vantrix::view {
 
-/* Sizes of texts and marks of a plot, in inches; they follow the frame's size. */
-struct PlotMeasures
-{
-    double label;
-    double title;
-    double tick;
-    double gap;
-    double line;
-
-    static PlotMeasures forFrame(QSizeF inches);
-};
-
-/* The colour of a grid line: fainter than what is plotted. */
-QColor faint(const QColor& color);
-
 /*
- * The axes around the rectangle of a 2D or line plot: lines, ticks, numbers, titles, grid lines. What it draws outside
- * of the rectangle never overlaps itself, and margins() says how much room that takes.
+ * The axes of a 2D plot, an XY line plot (with up to five of each kind) or a sketch: the area that they span, grid
+ * lines, and each axis at its own place. Axes at the same border of the area stand beside each other, so that nothing
+ * overlaps, and the area gives way where numbers and titles would be cut off.
  */
 class AxisPainter
 {
 public:
-    AxisPainter(const Canvas& canvas, const PlotMeasures& measures, const AxisStyle& x, const AxisStyle& y);
+    /* `frameHeight` in inches. The style must outlive this. */
+    AxisPainter(const Canvas& canvas, double frameHeight, const PlotStyle& style);
 
     /*
-     * The part of `viewport` that is left for the plot when axes, numbers and titles are to fit into `room` as well.
-     * `ratio` is the plot's height over its width, 0 for any.
+     * Places the plot: at the viewport in `frame`, smaller where axes, numbers and titles would not fit into `room`.
+     * Axes that depend on each other keep their proportion. To be called before anything is painted.
      */
-    QRectF plotArea(const QRectF& room, const QRectF& viewport, double ratio) const;
+    QRectF layOut(const QRectF& room, const QRectF& frame);
 
-    /* Grid lines lie below the data, everything else above. */
-    void paintGrid(const QRectF& area) const;
-    void paintAxes(const QRectF& area) const;
+    /* The area's fill and the grid lines that lie below the data. */
+    void paintBehind() const;
 
-    const AxisScale& xScale() const { return m_scales[0]; }
-    const AxisScale& yScale() const { return m_scales[1]; }
+    /* Everything else; lies above the data. */
+    void paintFront() const;
+
+    const QRectF& area() const { return m_area; }
+
+    /* Valid after layOut(), which may widen ranges. Axis 1 stands in for one that the plot does not have. */
+    const AxisScale& xScale(int number = 1) const { return scale(0, number); }
+    const AxisScale& yScale(int number = 1) const { return scale(1, number); }
 
 private:
-    AxisTicks ticks(std::size_t axis, const QRectF& area) const;
-    double labelWidth(std::size_t axis, const AxisTicks& ticks) const;
-    QMarginsF margins(const QRectF& area) const;
+    struct Axis
+    {
+        std::size_t kind; /* 0 X, 1 Y */
+        int number;
+        const AxisStyle* style;
+        AxisScale scale;
+    };
+    struct Line
+    {
+        const Axis* axis;
+        AxisLinePainter painter;
+        bool isAtBorder;
+    };
+
+    const AxisScale& scale(std::size_t kind, int number) const;
+    double unitRatio() const;
+    void keepProportion(const QRectF& room);
+    double place(const Axis& axis) const;
+    AxisPath path(std::size_t kind, double across, bool isOutwardUp) const;
+    std::vector<Line> lines() const;
+    QRectF bounds() const;
+    AxisTicks ticks(const Axis& axis) const;
+    void paintGrid(bool isLast) const;
+    void paintGridLines(const Axis& axis, const GridLineStyle& grid, const std::vector<Tick>& ticks) const;
+    void paintPreciseGrid() const;
 
     const Canvas& m_canvas;
-    PlotMeasures m_measures;
-    std::array<AxisStyle, 2> m_styles;
-    std::array<AxisScale, 2> m_scales;
-    std::array<QFont, 2> m_labelFonts;
-    std::array<QFont, 2> m_titleFonts;
+    double m_frameHeight;
+    const PlotStyle& m_style;
+    std::vector<Axis> m_axes;
+    QRectF m_area;
+    QRectF m_viewport;
 };
 
 } // namespace vantrix::view

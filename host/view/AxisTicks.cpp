@@ -56,12 +56,20 @@ struct Step
         }
     }
 
-    /* The number of minor ticks that divides the step at round values. */
-    int minorCount() const { return mantissa == 2 ? 3 : 4; }
+    /* The number of minor ticks, at most `most`, that divides the step at round values. */
+    int minorCount(int most) const
+    {
+        for (const int count : mantissa == 2 ? std::array{19, 9, 3, 1} : std::array{19, 9, 4, 1}) {
+            if (count <= most) {
+                return count;
+            }
+        }
+        return 0;
+    }
 };
 
 /* `digits` times ten to the power `exponent`, written with `decimals` decimals. */
-std::string fixedText(std::int64_t digits, int exponent, int decimals)
+std::string decimalText(std::int64_t digits, int exponent, int decimals)
 {
     std::string text = std::to_string(std::abs(digits));
     if (exponent > 0 && digits != 0) {
@@ -103,7 +111,7 @@ std::vector<std::string> labelTexts(const std::vector<std::int64_t>& multiples, 
     std::size_t scientificLength = 0;
     for (const std::int64_t multiple : multiples) {
         const std::int64_t digits = multiple * step.mantissa;
-        fixed.push_back(fixedText(digits, step.exponent, std::max(0, -step.exponent)));
+        fixed.push_back(decimalText(digits, step.exponent, std::max(0, -step.exponent)));
         scientific.push_back(
             scientificText(digits, step.exponent, static_cast<int>(std::to_string(std::abs(digits)).size())));
         fixedLength = std::max(fixedLength, fixed.back().size());
@@ -112,10 +120,22 @@ std::vector<std::string> labelTexts(const std::vector<std::int64_t>& multiples, 
     return fixedLength <= std::max<std::size_t>(7, scientificLength) ? fixed : scientific;
 }
 
-Tick labelledTick(const AxisScale& scale, std::string label)
+/* A tick at the value of a text. */
+Tick labelledTick(const AxisScale& scale, std::string text)
 {
-    const double value = parsed(label);
-    return {value, scale.fraction(value), std::move(label)};
+    const double value = parsed(text);
+    return {value, scale.fraction(value), NumberText::ofExact(std::move(text))};
+}
+
+/* Writes the labels in the style asked for; those skipped are empty. */
+void writeLabels(std::vector<Tick>& ticks, const TickRequest& request)
+{
+    const NumberWriter writer(request.number);
+    long number = 0;
+    for (Tick& tick : ticks) {
+        const bool isSkipped = number++ % std::max(1, request.skip) != 0;
+        tick.label = isSkipped ? NumberText() : writer.written(tick.value, tick.label);
+    }
 }
 
 std::vector<Tick> multiplesOf(const Step& step, const AxisScale& scale)
@@ -140,16 +160,23 @@ std::vector<Tick> multiplesOf(const Step& step, const AxisScale& scale)
 
 bool labelsFit(const std::vector<Tick>& ticks, const TickRequest& request)
 {
-    for (std::size_t i = 1; i < ticks.size(); ++i) {
-        const double distance = std::abs(ticks[i].fraction - ticks[i - 1].fraction) * request.length;
-        double needed = request.minimumDistance;
-        if (request.labelExtent) {
-            needed =
-                std::max(needed, 0.5 * (request.labelExtent(ticks[i].label) + request.labelExtent(ticks[i - 1].label)));
+    const Tick* previous = nullptr;
+    for (const Tick& tick : ticks) {
+        if (tick.label.isEmpty()) {
+            continue;
         }
-        if (distance < needed * (1.0 - 1e-9)) {
-            return false;
+        if (previous) {
+            const double distance = std::abs(tick.fraction - previous->fraction) * request.length;
+            double needed = request.minimumDistance;
+            if (request.labelExtent) {
+                needed =
+                    std::max(needed, 0.5 * (request.labelExtent(tick.label) + request.labelExtent(previous->label)));
+            }
+            if (distance < needed * (1.0 - 1e-9)) {
+                return false;
+            }
         }
+        previous = &tick;
     }
     return true;
 }
@@ -179,6 +206,28 @@ void addMinorTicks(AxisTicks& ticks, const AxisScale& scale, double spacing, int
     }
 }
 
+/* The numbers with as few decimals as write them to a hundredth of their distance; see NumberText::ofExact(). */
+std::vector<std::string> textsApart(const std::vector<double>& values, double spacing)
+{
+    std::vector<std::string> texts;
+    for (int digits = 0; digits <= 12; ++digits) {
+        texts.clear();
+        bool isClose = true;
+        for (const double value : values) {
+            texts.push_back(fixedText(value, digits));
+            isClose = isClose && std::abs(parsed(texts.back()) - value) <= 0.01 * spacing;
+        }
+        if (isClose && std::none_of(texts.begin(), texts.end(), [](auto& text) { return text.size() > 9; })) {
+            return texts;
+        }
+    }
+    texts.clear();
+    for (const double value : values) {
+        texts.push_back(numberText(value, 12));
+    }
+    return texts;
+}
+
 /* The smallest difference that numbers of the range's size can still show. */
 double resolution(const AxisScale& scale)
 {
@@ -189,20 +238,24 @@ double resolution(const AxisScale& scale)
 AxisTicks linearTicks(const AxisScale& scale, const TickRequest& request)
 {
     const double range = scale.maximum() - scale.minimum();
-    const double most = std::clamp(request.length / std::max(request.minimumDistance, 1e-12), 1.0, double(mostTicks));
+    const double room = request.length * std::max(1, request.skip);
+    const double most = std::clamp(room / std::max(request.minimumDistance, 1e-12), 1.0, double(mostTicks));
+    const double least =
+        std::max({range / most, resolution(scale), NumberWriter(request.number).smallestStep(), 1e-300});
     AxisTicks ticks;
-    for (Step step = Step::atLeast(std::max({range / most, resolution(scale), 1e-300}));; step = step.next()) {
+    for (Step step = Step::atLeast(least);; step = step.next()) {
         ticks.major = multiplesOf(step, scale);
+        writeLabels(ticks.major, request);
         ticks.spacing = step.value();
         if (ticks.major.size() <= mostTicks && labelsFit(ticks.major, request)) {
             addMinorTicks(ticks, scale, ticks.spacing,
-                          request.minorCount >= 0 ? request.minorCount : step.minorCount());
+                          step.minorCount(request.minorCount >= 0 ? request.minorCount : 4));
             return ticks;
         }
     }
 }
 
-/* Ticks at a spacing of the user's choice; none where they would crowd the axis. */
+/* Ticks at a spacing from an anchor; none where they would crowd the axis. */
 AxisTicks spacedTicks(const AxisScale& scale, const TickRequest& request)
 {
     AxisTicks ticks;
@@ -211,17 +264,19 @@ AxisTicks spacedTicks(const AxisScale& scale, const TickRequest& request)
     if (!(last - first < mostTicks)) {
         return ticks;
     }
+    std::vector<double> values;
     for (double i = first; i <= last; i += 1.0) {
-        double value = request.anchor + i * request.spacing;
-        if (std::abs(value) < request.spacing * 1e-9) {
-            value = 0.0;
-        }
-        Tick tick = labelledTick(scale, numberText(value, 12));
-        if (tick.value >= scale.minimum() && tick.value <= scale.maximum()) {
-            ticks.major.push_back(std::move(tick));
-        }
+        const double value = request.anchor + i * request.spacing;
+        values.push_back(std::abs(value) < request.spacing * 1e-9 ? 0.0 : value);
+    }
+    const std::vector<std::string> texts = textsApart(values, request.spacing);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const double value =
+            std::clamp(values[i], scale.minimum(), scale.maximum()); // but for rounding they are inside
+        ticks.major.push_back({value, scale.fraction(value), NumberText::ofExact(texts[i])});
     }
     ticks.spacing = request.spacing;
+    writeLabels(ticks.major, request);
     if (!labelsFit(ticks.major, request)) {
         return {};
     }
@@ -229,9 +284,47 @@ AxisTicks spacedTicks(const AxisScale& scale, const TickRequest& request)
     return ticks;
 }
 
+/* Ticks at whole seconds, minutes and hours; nothing where the range asks for days. */
+AxisTicks clockTicks(const AxisScale& scale, TickRequest request)
+{
+    struct ClockStep
+    {
+        int seconds;
+        int minorCount;
+    };
+    constexpr std::array<ClockStep, 18> steps{{{1, 0},
+                                               {2, 1},
+                                               {5, 4},
+                                               {10, 4},
+                                               {15, 2},
+                                               {30, 2},
+                                               {60, 3},
+                                               {120, 1},
+                                               {300, 4},
+                                               {600, 4},
+                                               {900, 2},
+                                               {1800, 2},
+                                               {3600, 3},
+                                               {7200, 1},
+                                               {10800, 2},
+                                               {21600, 5},
+                                               {43200, 3},
+                                               {86400, 3}}};
+    request.anchor = 0.0;
+    for (const ClockStep& step : steps) {
+        request.spacing = step.seconds / 86400.0;
+        request.minorCount = std::min(request.minorCount >= 0 ? request.minorCount : 4, step.minorCount);
+        AxisTicks ticks = spacedTicks(scale, request);
+        if (!ticks.major.empty()) {
+            return ticks;
+        }
+    }
+    return {};
+}
+
 std::string decadeText(int mantissa, int exponent, bool plain)
 {
-    return plain ? fixedText(mantissa, exponent, std::max(0, -exponent))
+    return plain ? decimalText(mantissa, exponent, std::max(0, -exponent))
                  : std::to_string(mantissa) + "e" + std::to_string(exponent);
 }
 
@@ -252,7 +345,7 @@ AxisTicks decadeTicks(const AxisScale& scale, const TickRequest& request, const 
             if (isLabelled && std::find(mantissas.begin(), mantissas.end(), mantissa) != mantissas.end()) {
                 ticks.major.push_back(std::move(tick));
             } else if (stride == 1 || mantissa == 1) {
-                tick.label.clear();
+                tick.label = {};
                 ticks.minor.push_back(std::move(tick));
             }
         }
@@ -260,6 +353,7 @@ AxisTicks decadeTicks(const AxisScale& scale, const TickRequest& request, const 
     if (request.minorCount == 0) {
         ticks.minor.clear();
     }
+    writeLabels(ticks.major, request);
     return ticks;
 }
 
@@ -340,6 +434,12 @@ AxisTicks AxisTicks::make(const AxisScale& scale, const TickRequest& request)
     if (scale.isLogarithmic()) {
         return logarithmicTicks(scale, request);
     }
+    if (request.number.format == NumberFormat_TimeDate && request.spacing <= 0.0) {
+        AxisTicks ticks = clockTicks(scale, request);
+        if (ticks.major.size() > 1) {
+            return ticks;
+        }
+    }
     if (request.spacing > 0.0) {
         AxisTicks ticks = spacedTicks(scale, request);
         if (!ticks.major.empty()) {
@@ -347,17 +447,6 @@ AxisTicks AxisTicks::make(const AxisScale& scale, const TickRequest& request)
         }
     }
     return linearTicks(scale, request);
-}
-
-std::string numberText(double value, int digits)
-{
-    if (value == 0.0) {
-        return "0";
-    }
-    std::array<char, 64> buffer{};
-    const auto result =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, digits);
-    return {buffer.data(), result.ptr};
 }
 
 } // namespace vantrix::view

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "view/NumberText.h"
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -36,25 +38,30 @@ struct TickRequest
     double length = 100.0;         /* of the axis, in any unit */
     double minimumDistance = 20.0; /* between two labelled ticks, in the same unit */
 
-    /* The room a label takes along the axis, its gap to the next included; no ticks are set closer than that. */
-    std::function<double(const std::string& label)> labelExtent;
+    /* The room a label takes along the axis, its gap to the next included; no labelled ticks are set closer than that.
+     */
+    std::function<double(const NumberText& label)> labelExtent;
 
     double spacing = 0.0; /* of labelled ticks, from the anchor; 0 chooses. Ignored where it would crowd the axis. */
     double anchor = 0.0;
-    int minorCount = -1; /* minor ticks between two labelled ones; -1 chooses */
+    int minorCount = -1; /* minor ticks between two labelled ones; -1 chooses. Where the spacing is chosen, at most so
+                            many: as many as divide it at round values. */
+    NumberStyle number;  /* how labels are written */
+    int skip = 1;        /* every how many ticks have a label; the others have none and need no room for it */
 };
 
 struct Tick
 {
     double value;
-    double fraction;   /* see AxisScale */
-    std::string label; /* empty for a minor tick; else a number in the C locale that reads back as `value` */
+    double fraction;  /* see AxisScale */
+    NumberText label; /* empty for a minor tick and one whose label is skipped */
 };
 
 /*
- * The ticks of an axis: labelled ones at round values (1, 2 or 5 times a power of ten apart; decades of a logarithmic
- * axis) and minor ones between them. Values increase strictly and lie inside the scale's range. All labels have the
- * same number of decimals, just as many as tell neighbours apart.
+ * The ticks of an axis: major ones at round values (1, 2 or 5 times a power of ten apart; decades of a logarithmic
+ * axis; whole seconds, minutes and hours where labels are times) and minor ones between them. Values increase strictly
+ * and lie inside the scale's range. Labels of `NumberFormat_BestFloat` and `NumberFormat_RangeBestFloat` have just as
+ * many digits as tell neighbours apart and read back as the tick's value where that is a round one.
  */
 struct AxisTicks
 {
@@ -64,8 +71,5 @@ struct AxisTicks
 
     static AxisTicks make(const AxisScale& scale, const TickRequest& request);
 };
-
-/* A number as it is shown to people: up to `digits` significant digits, C locale, no trailing zeros. */
-std::string numberText(double value, int digits = 6);
 
 } // namespace vantrix::view

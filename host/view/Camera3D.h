@@ -45,6 +45,10 @@ public:
     /* The unit vector from the plot to the eye. */
     const Point3& toward() const { return m_toward; }
 
+    /* The unit vectors that point to the right and up in the picture. */
+    const Point3& right() const { return m_right; }
+    const Point3& up() const { return m_up; }
+
     /* The view with the width and the position that this camera has, as it is written to the style. */
     View3D view() const;
 

@@ -21,6 +21,36 @@ QFont Canvas::font(double height, bool isBold) const
     return font;
 }
 
+QFont Canvas::font(Font_e kind, double height) const
+{
+    const bool isBold = kind == Font_HelveticaBold || kind == Font_TimesBold || kind == Font_TimesItalicBold ||
+                        kind == Font_CourierBold;
+    QFont result = font(height, isBold);
+    switch (kind) {
+    case Font_Times:
+    case Font_TimesItalic:
+    case Font_TimesBold:
+    case Font_TimesItalicBold:
+    case Font_Greek:
+    case Font_Math:
+        result.setFamilies({QStringLiteral("Noto Serif"), QStringLiteral("Liberation Serif"), QStringLiteral("Times")});
+        result.setStyleHint(QFont::Serif);
+        result.setItalic(kind == Font_TimesItalic || kind == Font_TimesItalicBold);
+        break;
+    case Font_Courier:
+    case Font_CourierBold:
+        result.setFamilies(
+            {QStringLiteral("Noto Sans Mono"), QStringLiteral("Liberation Mono"), QStringLiteral("Courier")});
+        result.setStyleHint(QFont::Monospace);
+        break;
+    case Font_Helvetica:
+    case Font_HelveticaBold:
+    case Font_UserDefined:
+        break;
+    }
+    return result;
+}
+
 QPen Canvas::pen(const QColor& color, double thickness) const
 {
     return {color, std::max(thickness * inch, 1.0 / resolution()), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};

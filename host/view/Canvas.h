@@ -1,5 +1,7 @@
 #pragma once
 
+#include "api/VtxEnumerations.h"
+
 #include <QFont>
 #include <QPainter>
 #include <QPointF>
@@ -26,6 +28,9 @@ public:
 
     /* A sans-serif font of a height in inches. */
     QFont font(double height, bool isBold = false) const;
+
+    /* The font that stands for one of the style; Greek and mathematical ones are serif fonts. */
+    QFont font(Font_e kind, double height) const;
 
     /* A line never thinner than a pixel of the device. */
     QPen pen(const QColor& color, double thickness) const;

@@ -1,7 +1,7 @@
 #include "view/ContourLegend.h"
 
-#include "view/AxisTicks.h"
 #include "view/ContourColors.h"
+#include "view/NumberText.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "view/AxisPainter.h"
 #include "view/Canvas.h"
+#include "view/PlotMeasures.h"
 #include "view/PlotStyle.h"
 
 namespace vantrix::view {

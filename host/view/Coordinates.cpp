@@ -1,6 +1,6 @@
 #include "view/Coordinates.h"
 
-#include "view/AxisTicks.h"
+#include "view/NumberText.h"
 
 namespace vantrix::view {
 namespace {
@@ -12,7 +12,7 @@ QString number(double value, int digits)
 
 QString name(const AxisStyle& axis, const char* otherwise)
 {
-    return axis.title.empty() ? QString::fromLatin1(otherwise) : QString::fromStdString(axis.title);
+    return axis.title.words.empty() ? QString::fromLatin1(otherwise) : QString::fromStdString(axis.title.words);
 }
 
 } // namespace
@@ -22,8 +22,8 @@ QString coordinatesText(const FramePlot* plot, QPointF inFrame, QPointF onPaper)
     if (plot) {
         if (const auto data = plot->dataAt(inFrame)) {
             return QStringLiteral("%1 = %2   %3 = %4")
-                .arg(name(plot->style.axes[0], "X"), number(data->x(), 6), name(plot->style.axes[1], "Y"),
-                     number(data->y(), 6));
+                .arg(name(plot->style.axes[0], plot->polar ? "Theta" : "X"), number(data->x(), 6),
+                     name(plot->style.axes[1], plot->polar ? "R" : "Y"), number(data->y(), 6));
         }
     }
     return QStringLiteral("Paper: %1, %2 in")

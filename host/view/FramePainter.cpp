@@ -4,7 +4,10 @@
 #include "view/AxisBoxPainter.h"
 #include "view/AxisPainter.h"
 #include "view/ContourLegend.h"
+#include "view/LineLegend.h"
 #include "view/LinePlot.h"
+#include "view/PlotMeasures.h"
+#include "view/PolarAxisPainter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,6 +66,8 @@ void FramePainter::paint(const Canvas& canvas, const QRectF& rect, bool isCoarse
     m_plot.x.reset();
     m_plot.y.reset();
     m_plot.camera.reset();
+    m_plot.polar.reset();
+    m_plot.moreScales.clear();
 
     const FrameStyle& style = m_plot.style.frame;
     QPainter& painter = canvas.painter;
@@ -109,7 +114,7 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
 {
     const PlotStyle& style = m_plot.style;
     m_plot.area = QRectF((inside.topLeft() - m_rect.topLeft()) / canvas.inch, inside.size() / canvas.inch);
-    if (style.type == PlotType_Sketch || !m_dataSet) {
+    if (style.type != PlotType_Sketch && !m_dataSet) {
         return;
     }
     if (hasField(style) && !OffscreenWindow::isAvailable()) {
@@ -120,84 +125,121 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
     const double gap = measures.gap * canvas.inch;
     QRectF room = inside;
     const ContourGroupStyle* group = hasField(style) ? legendGroup(style) : nullptr;
-    const LinePlot curves(*m_dataSet, style);
+    const LineLegend lineLegend(canvas, frameHeightInches(canvas), style);
+    const bool hasLineColumn = lineLegend.isShown() && !style.lineLegend.isPlaced;
     double legendWidth = 0.0;
     if (group) {
         legendWidth = ContourLegend(canvas, measures, *group).width();
-    } else if (style.type == PlotType_XYLine && style.hasLineLegend) {
-        legendWidth = curves.legendWidth(canvas, measures);
+    } else if (hasLineColumn) {
+        legendWidth = lineLegend.size().width();
     }
     legendWidth = std::min(legendWidth, 0.4 * inside.width());
     if (legendWidth > 0.0) {
         room.setRight(room.right() - legendWidth - 3.0 * gap);
     }
-    if (style.type == PlotType_Cartesian3D) {
-        paintThreeD(canvas, measures, room);
-    } else {
-        paintFlat(canvas, measures, room);
+    switch (style.type) {
+    case PlotType_Cartesian3D:
+        paintThreeD(canvas, room);
+        break;
+    case PlotType_PolarLine:
+        paintPolar(canvas, room);
+        break;
+    default:
+        paintFlat(canvas, room);
+        break;
     }
-    const QRectF area(m_rect.topLeft() + m_plot.area.topLeft() * canvas.inch, m_plot.area.size() * canvas.inch);
     if (legendWidth > 0.0) {
         const bool isThreeD = style.type == PlotType_Cartesian3D;
-        const double left = isThreeD ? room.right() : area.right() + 2.0 * gap;
+        const QRectF area(m_rect.topLeft() + m_plot.area.topLeft() * canvas.inch, m_plot.area.size() * canvas.inch);
+        const double left = isThreeD || hasLineColumn ? room.right() : area.right() + 2.0 * gap;
         const QRectF column(left, isThreeD ? inside.top() + 3.0 * gap : area.top(), legendWidth,
                             isThreeD ? inside.height() - 6.0 * gap : area.height());
         if (group) {
             ContourLegend(canvas, measures, *group).paint(column);
         } else {
-            curves.paintLegend(canvas, measures, column);
+            lineLegend.paint({column.topLeft(), QSizeF(legendWidth, lineLegend.size().height())});
         }
     }
+    if (lineLegend.isShown() && style.lineLegend.isPlaced) {
+        lineLegend.paint(lineLegend.placedRect(m_rect));
+    }
 }
 
-void FramePainter::paintFlat(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room)
+double FramePainter::frameHeightInches(const Canvas& canvas) const
+{
+    return m_frameHeight / canvas.inch;
+}
+
+QRectF FramePainter::inFrame(const Canvas& canvas, const QRectF& rect) const
+{
+    return {(rect.topLeft() - m_rect.topLeft()) / canvas.inch, rect.size() / canvas.inch};
+}
+
+void FramePainter::paintFlat(const Canvas& canvas, const QRectF& room)
 {
     const PlotStyle& style = m_plot.style;
-    const AxisPainter axes(canvas, measures, style.axes[0], style.axes[1]);
-    double ratio = 0.0;
-    if (style.xToYRatio > 0.0 && !axes.xScale().isLogarithmic() && !axes.yScale().isLogarithmic()) {
-        ratio = (axes.yScale().maximum() - axes.yScale().minimum()) /
-                (axes.xScale().maximum() - axes.xScale().minimum()) / style.xToYRatio;
-    }
-    const QRectF frame(m_rect.left(), room.top(), m_rect.width(), room.height());
-    const auto& [left, right, bottom, top] = style.viewport;
-    const QRectF viewport(QPointF(frame.left() + left * frame.width(), frame.bottom() - top * frame.height()),
-                          QPointF(frame.left() + right * frame.width(), frame.bottom() - bottom * frame.height()));
-    const QRectF area = canvas.aligned(axes.plotArea(room, viewport, ratio));
-    m_plot.area = QRectF((area.topLeft() - m_rect.topLeft()) / canvas.inch, area.size() / canvas.inch);
+    AxisPainter axes(canvas, frameHeightInches(canvas), style);
+    const QRectF area = axes.layOut(room, {m_rect.left(), room.top(), m_rect.width(), room.height()});
+    m_plot.area = inFrame(canvas, area);
     m_plot.x = axes.xScale();
     m_plot.y = axes.yScale();
-    if (style.isFilled) {
-        canvas.painter.fillRect(area, style.fill);
+    for (const NumberedAxis& more : style.moreAxes) {
+        m_plot.moreScales.push_back(
+            {more.kind, more.number, more.kind == 0 ? axes.xScale(more.number) : axes.yScale(more.number)});
     }
-    axes.paintGrid(area);
+    axes.paintBehind();
     if (style.type == PlotType_Cartesian2D) {
         paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(axes.xScale(), axes.yScale(), pixels); });
-    } else {
-        LinePlot(*m_dataSet, style)
-            .paintCurves(canvas, area, axes.xScale(), axes.yScale(), m_frameHeight / canvas.inch);
+    } else if (m_dataSet) {
+        LinePlot(canvas, frameHeightInches(canvas), *m_dataSet, style).paint(area, {}, [&](const LineMapStyle& map) {
+            return [&area, &xScale = axes.xScale(map.xAxis), &yScale = axes.yScale(map.yAxis)](double x, double y) {
+                return QPointF(area.left() + xScale.fraction(x) * area.width(),
+                               area.bottom() - yScale.fraction(y) * area.height());
+            };
+        });
     }
-    axes.paintAxes(area);
+    axes.paintFront();
 }
 
-void FramePainter::paintThreeD(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room)
+void FramePainter::paintPolar(const Canvas& canvas, const QRectF& room)
+{
+    const PlotStyle& style = m_plot.style;
+    PolarAxisPainter axes(canvas, frameHeightInches(canvas), style);
+    const QRectF area = axes.layOut(room, {m_rect.left(), room.top(), m_rect.width(), room.height()});
+    m_plot.area = inFrame(canvas, area);
+    m_plot.polar = axes.scale();
+    m_plot.polarCenter = (axes.center() - m_rect.topLeft()) / canvas.inch;
+    m_plot.polarRadius = axes.radius() / canvas.inch;
+    axes.paintBehind();
+    const QPainterPath clip = axes.clip();
+    LinePlot(canvas, frameHeightInches(canvas), *m_dataSet, style)
+        .paint(clip.isEmpty() ? room : room.intersected(clip.boundingRect()), clip,
+               [&](const LineMapStyle&) { return [&axes](double theta, double r) { return axes.place(theta, r); }; });
+    axes.paintFront();
+}
+
+void FramePainter::paintThreeD(const Canvas& canvas, const QRectF& room)
 {
     const PlotStyle& style = m_plot.style;
     const QRectF area = canvas.aligned(room);
-    m_plot.area = QRectF((area.topLeft() - m_rect.topLeft()) / canvas.inch, area.size() / canvas.inch);
-    Box3 box;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const AxisScale scale(style.axes[i].minimum, style.axes[i].maximum);
-        box.minimum[i] = scale.minimum() * style.axisScale[i];
-        box.maximum[i] = scale.maximum() * style.axisScale[i];
-    }
+    m_plot.area = inFrame(canvas, area);
+    const Box3 box = AxisBoxPainter::box(style);
     View3D view = style.view;
     for (std::size_t i = 0; i < 3; ++i) {
         view.position[i] *= style.axisScale[i];
     }
-    const double margin = (measures.tick + 3.0 * measures.gap + 3.2 * measures.label) * canvas.inch / area.width();
+    // A plot that is fitted leaves just the room that numbers and titles need, which depends on how large it is.
+    double margin = 0.02;
     m_plot.camera = Camera3D(view, box, area.width() / area.height(), margin);
-    const AxisBoxPainter axes(canvas, measures, style.axes, *m_plot.camera, style.axisScale, area);
+    for (int round = 0; view.width <= 0.0 && round < 4; ++round) {
+        const QRectF all =
+            AxisBoxPainter(canvas, frameHeightInches(canvas), style, *m_plot.camera, area).bounds().united(area);
+        margin += std::max({area.left() - all.left(), all.right() - area.right(), area.top() - all.top(),
+                            all.bottom() - area.bottom()}) /
+                  area.width();
+        m_plot.camera = Camera3D(view, box, area.width() / area.height(), margin);
+    }
+    const AxisBoxPainter axes(canvas, frameHeightInches(canvas), style, *m_plot.camera, area);
     axes.paintBack();
     paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(*m_plot.camera, pixels); });
     axes.paintAxes();

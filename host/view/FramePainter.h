@@ -1,6 +1,5 @@
 #pragma once
 
-#include "view/AxisPainter.h"
 #include "view/Canvas.h"
 #include "view/FieldScene.h"
 #include "view/FramePlot.h"
@@ -46,8 +45,11 @@ private:
     void paintHeader(const Canvas& canvas, const QRectF& header) const;
     void paintNotice(const Canvas& canvas, const QRectF& rect, const QString& text) const;
     void paintPlot(const Canvas& canvas, const QRectF& inside);
-    void paintFlat(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room);
-    void paintThreeD(const Canvas& canvas, const PlotMeasures& measures, const QRectF& room);
+    void paintFlat(const Canvas& canvas, const QRectF& room);
+    void paintPolar(const Canvas& canvas, const QRectF& room);
+    void paintThreeD(const Canvas& canvas, const QRectF& room);
+    double frameHeightInches(const Canvas& canvas) const;
+    QRectF inFrame(const Canvas& canvas, const QRectF& rect) const;
     template<typename Render>
     void paintPicture(const Canvas& canvas, const QRectF& area, Render render);
 

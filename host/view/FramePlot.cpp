@@ -1,9 +1,16 @@
 #include "view/FramePlot.h"
 
+#include <cmath>
+
 namespace vantrix::view {
 
 std::optional<QPointF> FramePlot::dataAt(QPointF place) const
 {
+    if (polar && polarRadius > 0.0 && area.contains(place)) {
+        const QPointF from = (place - polarCenter) / polarRadius;
+        const QPointF values = polar->valuesAt({from.x(), -from.y()});
+        return std::isfinite(values.y()) ? std::optional(values) : std::nullopt;
+    }
     if (!x || !y || !area.contains(place)) {
         return std::nullopt;
     }

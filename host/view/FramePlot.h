@@ -3,12 +3,14 @@
 #include "view/AxisTicks.h"
 #include "view/Camera3D.h"
 #include "view/PlotStyle.h"
+#include "view/PolarScale.h"
 
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 
 #include <optional>
+#include <vector>
 
 namespace vantrix::view {
 
@@ -22,9 +24,22 @@ public:
     QRectF area;                /* between the axes; of a 3D plot the whole picture */
     std::optional<AxisScale> x; /* of 2D and line plots with axes to measure by */
     std::optional<AxisScale> y;
-    std::optional<Camera3D> camera; /* of 3D plots */
 
-    /* Data coordinates in a 2D or line plot; none outside of its area. */
+    /* Of XY line plots with more than one axis of a kind, the others. */
+    struct MoreScale
+    {
+        std::size_t kind; /* 0 X, 1 Y */
+        int number;
+        AxisScale scale;
+    };
+    std::vector<MoreScale> moreScales;
+    std::optional<Camera3D> camera;  /* of 3D plots */
+    std::optional<PolarScale> polar; /* of polar plots */
+    QPointF polarCenter;
+    double polarRadius = 0.0;
+
+    /* Data coordinates in a 2D or line plot, of an XY line plot those of X1 and Y1, of a polar one theta and R; none
+     * outside of its area. */
     std::optional<QPointF> dataAt(QPointF place) const;
 
     /* Where on the picture of a 3D plot a place is: in picture widths from its middle, Y up. */

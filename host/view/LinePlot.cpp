@@ -1,8 +1,9 @@
 #include "view/LinePlot.h"
 
 #include "kernel/DataSet.h"
-
-#include <QPolygonF>
+#include "view/LinePattern.h"
+#include "view/MarkSymbol.h"
+#include "view/Polyline.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,101 +11,97 @@
 namespace vantrix::view {
 namespace {
 
-QPen curvePen(const Canvas& canvas, const LineMapStyle& map, double frameHeight)
+/* Which pixels have a symbol already: more than one on the same would not be seen. */
+class TakenPixels
 {
-    QPen pen = canvas.pen(map.color, map.thickness / 100.0 * frameHeight);
-    pen.setCapStyle(Qt::RoundCap);
-    pen.setJoinStyle(Qt::RoundJoin);
-    switch (map.pattern) {
-    case LinePattern_Dashed:
-        pen.setStyle(Qt::DashLine);
-        break;
-    case LinePattern_DashDot:
-        pen.setStyle(Qt::DashDotLine);
-        break;
-    case LinePattern_Dotted:
-        pen.setStyle(Qt::DotLine);
-        break;
-    case LinePattern_LongDash:
-        pen.setDashPattern({8.0, 4.0});
-        break;
-    case LinePattern_DashDotDot:
-        pen.setStyle(Qt::DashDotDotLine);
-        break;
-    case LinePattern_Solid:
-        break;
+public:
+    TakenPixels(const QRectF& area, double pixel)
+        : m_area(area)
+        , m_pixel(pixel)
+        , m_columns(static_cast<std::size_t>(area.width() / pixel) + 1)
+        , m_isTaken(m_columns * (static_cast<std::size_t>(area.height() / pixel) + 1))
+    {}
+
+    /* Whether a place inside of the area was free. */
+    bool take(QPointF place)
+    {
+        if (!m_area.contains(place)) {
+            return false;
+        }
+        const auto column = static_cast<std::size_t>((place.x() - m_area.left()) / m_pixel);
+        const auto row = static_cast<std::size_t>((place.y() - m_area.top()) / m_pixel);
+        const std::size_t index = row * m_columns + column;
+        if (m_isTaken[index]) {
+            return false;
+        }
+        m_isTaken[index] = true;
+        return true;
     }
-    return pen;
-}
+
+private:
+    QRectF m_area;
+    double m_pixel;
+    std::size_t m_columns;
+    std::vector<bool> m_isTaken;
+};
 
 } // namespace
 
-void LinePlot::paintCurves(const Canvas& canvas, const QRectF& area, const AxisScale& x, const AxisScale& y,
-                           double frameHeight) const
+QPen LinePlot::pen(const Canvas& canvas, double frameHeight, const LineMapStyle& map)
 {
-    QPainter& painter = canvas.painter;
+    const double inches = frameHeight / 100.0;
+    return patternPen(canvas, map.color, map.thickness * inches, map.pattern, map.patternLength * inches);
+}
+
+void LinePlot::paint(const QRectF& area, const QPainterPath& clip,
+                     const std::function<Places(const LineMapStyle&)>& placesOf) const
+{
+    QPainter& painter = m_canvas.painter;
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
-    painter.setBrush(Qt::NoBrush);
+    if (!clip.isEmpty()) {
+        painter.setClipPath(clip, Qt::IntersectClip);
+    }
     for (const LineMapStyle& map : m_style.lineMaps) {
-        const kernel::FieldArray* xField = m_dataSet.field(map.zone, map.xVariable);
-        const kernel::FieldArray* yField = m_dataSet.field(map.zone, map.yVariable);
-        const auto xs = xField ? xField->load() : nullptr;
-        const auto ys = yField ? yField->load() : nullptr;
-        if (!xs || !ys || !map.hasLines) {
-            continue;
-        }
-        painter.setPen(curvePen(canvas, map, frameHeight));
-        QPolygonF curve;
-        const auto finish = [&] {
-            painter.drawPolyline(curve);
-            curve.clear();
-        };
-        const vtkIdType count = std::min(xs->GetNumberOfTuples(), ys->GetNumberOfTuples());
-        for (vtkIdType i = 0; i < count; ++i) {
-            const double across = x.fraction(xs->GetComponent(i, 0));
-            const double up = y.fraction(ys->GetComponent(i, 0));
-            if (!std::isfinite(across) || !std::isfinite(up)) {
-                finish(); // a gap where a value is missing or has no logarithm
-                continue;
-            }
-            // Far outside of the area the painter would lose precision.
-            curve << QPointF(area.left() + std::clamp(across, -100.0, 100.0) * area.width(),
-                             area.bottom() - std::clamp(up, -100.0, 100.0) * area.height());
-        }
-        finish();
+        paint(map, area, placesOf(map));
     }
     painter.restore();
 }
 
-double LinePlot::legendWidth(const Canvas& canvas, const PlotMeasures& measures) const
+void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& places) const
 {
-    if (m_style.lineMaps.size() < 2) {
-        return 0.0;
+    const kernel::FieldArray* xField = m_dataSet.field(map.zone, map.xVariable);
+    const kernel::FieldArray* yField = m_dataSet.field(map.zone, map.yVariable);
+    const auto xs = xField ? xField->load() : nullptr;
+    const auto ys = yField ? yField->load() : nullptr;
+    if (!xs || !ys) {
+        return;
     }
-    const QFont font = canvas.font(measures.label);
-    double widest = 0.0;
-    for (const LineMapStyle& map : m_style.lineMaps) {
-        widest = std::max(widest, canvas.textSize(QString::fromStdString(map.name), font).width());
-    }
-    return widest + 3.0 * measures.label * canvas.inch;
-}
-
-void LinePlot::paintLegend(const Canvas& canvas, const PlotMeasures& measures, const QRectF& column) const
-{
-    const QFont font = canvas.font(measures.label);
-    const double height = canvas.textSize(QStringLiteral("X"), font).height() * 1.25;
-    double y = column.top() + 0.5 * height;
-    for (const LineMapStyle& map : m_style.lineMaps) {
-        if (y + 0.5 * height > column.bottom()) {
-            break;
+    const double pixel = 1.0 / m_canvas.resolution();
+    const vtkIdType count = std::min(xs->GetNumberOfTuples(), ys->GetNumberOfTuples());
+    if (map.hasLines) {
+        const QPen curvePen = pen(m_canvas, m_frameHeight, map);
+        const double margin = 2.0 * curvePen.widthF();
+        Polyline curve(area.adjusted(-margin, -margin, margin, margin), pixel);
+        for (vtkIdType i = 0; i < count; ++i) {
+            curve.add(places(xs->GetComponent(i, 0), ys->GetComponent(i, 0)));
         }
-        canvas.painter.setPen(curvePen(canvas, map, 40.0 * measures.label));
-        canvas.painter.drawLine(QPointF(column.left(), y),
-                                QPointF(column.left() + 2.0 * measures.label * canvas.inch, y));
-        canvas.drawText({column.left() + 2.6 * measures.label * canvas.inch, y}, Qt::AlignLeft | Qt::AlignVCenter,
-                        QString::fromStdString(map.name), font, Qt::black);
-        y += height;
+        m_canvas.painter.setPen(curvePen);
+        m_canvas.painter.setBrush(Qt::NoBrush);
+        for (const QPolygonF& piece : curve.take()) {
+            m_canvas.painter.drawPolyline(piece);
+        }
+    }
+    if (map.hasSymbols) {
+        const MarkSymbol symbol(m_canvas, m_frameHeight, map.symbol);
+        const double margin = symbol.radius();
+        TakenPixels taken(area.adjusted(-margin, -margin, margin, margin), pixel);
+        for (vtkIdType i = 0; i < count; i += map.skip) {
+            const QPointF place = places(xs->GetComponent(i, 0), ys->GetComponent(i, 0));
+            if (taken.take(place)) {
+                symbol.draw(place);
+            }
+        }
     }
 }
 

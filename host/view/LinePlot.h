@@ -1,9 +1,12 @@
 #pragma once
 
-#include "view/AxisPainter.h"
-#include "view/AxisTicks.h"
 #include "view/Canvas.h"
 #include "view/PlotStyle.h"
+
+#include <QPainterPath>
+#include <QRectF>
+
+#include <functional>
 
 namespace vantrix::kernel {
 class DataSet;
@@ -11,23 +14,34 @@ class DataSet;
 
 namespace vantrix::view {
 
-/* The curves of an XY line plot and their legend. */
+/* The line maps of an XY or polar line plot. */
 class LinePlot
 {
 public:
-    LinePlot(const kernel::DataSet& dataSet, const PlotStyle& style)
-        : m_dataSet(dataSet)
+    /* Where a point of a line map lies, in logical units; not finite for nowhere. */
+    using Places = std::function<QPointF(double x, double y)>;
+
+    /* `frameHeight` in inches. */
+    LinePlot(const Canvas& canvas, double frameHeight, const kernel::DataSet& dataSet, const PlotStyle& style)
+        : m_canvas(canvas)
+        , m_frameHeight(frameHeight)
+        , m_dataSet(dataSet)
         , m_style(style)
     {}
 
-    void paintCurves(const Canvas& canvas, const QRectF& area, const AxisScale& x, const AxisScale& y,
-                     double frameHeight) const;
+    /* Nothing is drawn outside of `area`, nor of `clip` where that is not empty. `placesOf` is asked once a line map.
+     */
+    void paint(const QRectF& area, const QPainterPath& clip,
+               const std::function<Places(const LineMapStyle&)>& placesOf) const;
 
-    /* Width of the legend in logical units; 0 when there is nothing to tell apart. */
-    double legendWidth(const Canvas& canvas, const PlotMeasures& measures) const;
-    void paintLegend(const Canvas& canvas, const PlotMeasures& measures, const QRectF& column) const;
+    /* The pen of a line map's line. */
+    static QPen pen(const Canvas& canvas, double frameHeight, const LineMapStyle& map);
 
 private:
+    void paint(const LineMapStyle& map, const QRectF& area, const Places& places) const;
+
+    const Canvas& m_canvas;
+    double m_frameHeight;
     const kernel::DataSet& m_dataSet;
     const PlotStyle& m_style;
 };

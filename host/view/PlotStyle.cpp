@@ -11,10 +11,7 @@ namespace vantrix::view {
 namespace {
 
 constexpr long contourGroupCount = 8;
-constexpr std::array<const char*, 3> detailNames{"XDetail", "YDetail", "ZDetail"};
-
-/* Texts are as high as their style says relative to the height that the plot would give them. */
-constexpr double usualTextHeight = 2.8;
+constexpr int lineAxisCount = 5;
 
 FrameStyle readFrame(const StyleReader& style)
 {
@@ -24,61 +21,34 @@ FrameStyle readFrame(const StyleReader& style)
             layout.real("BorderThickness")};
 }
 
-double textScale(const StyleReader& shape)
-{
-    const double height = shape.real("Height");
-    return shape.enumerator<Units_e>("SizeUnits") == Units_Frame ? height / usualTextHeight : 1.0;
-}
-
 std::string variableName(const kernel::DataSet* dataSet, long number)
 {
     const bool isThere = dataSet && number >= 1 && number <= dataSet->variableCount();
     return isThere ? dataSet->variables[std::size_t(number - 1)].name : std::string();
 }
 
-AxisStyle readAxis(const StyleReader& style, const std::string& variable)
+/* Where the axes of a plot type are, and how many. */
+struct AxisNames
 {
-    AxisStyle axis;
-    axis.isShown = style.flag("ShowAxis");
-    axis.isLogarithmic = style.has("CoordScale") && style.enumerator<CoordScale_e>("CoordScale") == CoordScale_Log;
-    axis.isReversed = style.flag("IsReversed");
-    axis.minimum = style.real("RangeMin");
-    axis.maximum = style.real("RangeMax");
-    if (!style.flag("AutoGrid")) {
-        axis.spacing = style.real("GRSpacing");
-        axis.anchor = style.real("GRAnchor");
-    }
-    axis.minorTicks = axis.spacing > 0.0 ? static_cast<int>(style.integer("Ticks/NumMinorTicks")) : -1;
-    axis.lineColor = style.color("AxisLine/Color");
-    axis.labelColor = style.color("TickLabel/Color");
-    axis.titleColor = style.color("Title/Color");
-    axis.labelScale = textScale(style.below("TickLabel/TextShape"));
-    axis.titleScale = textScale(style.below("Title/TextShape"));
-    axis.hasGridLines = style.flag("GridLines/Show");
-    axis.gridColor = style.color("GridLines/Color");
-    switch (style.enumerator<AxisTitleMode_e>("Title/TitleMode")) {
-    case AxisTitleMode_None:
-        break;
-    case AxisTitleMode_VariableName:
-        axis.title = variable;
-        break;
-    case AxisTitleMode_Text:
-        axis.title = style.text("Title/Text");
-        break;
-    }
-    return axis;
-}
+    std::string root;
+    std::vector<const char*> details;
+};
 
-const char* axisRoot(PlotType_e type)
+AxisNames axisNames(PlotType_e type)
 {
     switch (type) {
     case PlotType_Cartesian3D:
-        return "ThreeDAxis";
+        return {"ThreeDAxis", {"XDetail", "YDetail", "ZDetail"}};
     case PlotType_XYLine:
-        return "XYLineAxis";
-    default:
-        return "TwoDAxis";
+        return {"XYLineAxis", {"XDetail", "YDetail"}};
+    case PlotType_PolarLine:
+        return {"PolarAxis", {"ThetaDetail", "RDetail"}};
+    case PlotType_Sketch:
+        return {"SketchAxis", {"XDetail", "YDetail"}};
+    case PlotType_Cartesian2D:
+        break;
     }
+    return {"TwoDAxis", {"XDetail", "YDetail"}};
 }
 
 ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataSet& dataSet)
@@ -133,21 +103,73 @@ LightStyle readLight(const StyleReader& style)
     return light;
 }
 
-LineMapStyle readLineMap(const StyleReader& style, bool hasLines, const kernel::DataSet& dataSet)
+SymbolStyle readSymbol(const StyleReader& style)
+{
+    const StyleReader shape = style.below("SymbolShape");
+    SymbolStyle symbol;
+    symbol.shape = shape.enumerator<GeomShape_e>("GeomShape");
+    if (shape.flag("IsASCII")) {
+        symbol.character = shape.text("ASCIIShape/ASCIIChar");
+    }
+    if (!shape.flag("ASCIIShape/UseBaseFont")) {
+        symbol.font = shape.enumerator<Font_e>("ASCIIShape/FontOverride");
+    }
+    symbol.color = style.color("Color");
+    symbol.isFilled = style.flag("IsFilled");
+    symbol.fill = style.color("FillColor");
+    symbol.size = style.real("Size");
+    symbol.thickness = style.real("LineThickness");
+    return symbol;
+}
+
+LineMapStyle readLineMap(const StyleReader& style, const StyleReader& layers, const kernel::DataSet& dataSet)
 {
     LineMapStyle map;
     map.zone = style.integer("Assignment/Zone");
     map.xVariable = style.integer("Assignment/XAxisVar");
     map.yVariable = style.integer("Assignment/YAxisVar");
+    map.xAxis = static_cast<int>(style.integer("Assignment/XAxis"));
+    map.yAxis = static_cast<int>(style.integer("Assignment/YAxis"));
     map.name = style.text("Name");
     if (map.name.empty()) {
         map.name = variableName(&dataSet, map.yVariable);
     }
-    map.hasLines = hasLines && style.flag("Lines/Show");
+    map.hasLines = layers.flag("ShowLines") && style.flag("Lines/Show");
     map.color = style.color("Lines/Color");
     map.thickness = style.real("Lines/LineThickness");
     map.pattern = style.enumerator<LinePattern_e>("Lines/LinePattern");
+    map.patternLength = style.real("Lines/PatternLength");
+    map.hasSymbols = layers.flag("ShowSymbols") && style.flag("Symbols/Show");
+    map.symbol = readSymbol(style.below("Symbols"));
+    map.skip = style.integer("Symbols/Skip");
     return map;
+}
+
+LegendStyle readLegend(const StyleReader& style)
+{
+    LegendStyle legend;
+    legend.isShown = style.flag("Show");
+    legend.isPlaced = style.flag("IsPlaced");
+    legend.position = {style.real("XYPos/X") / 100.0, style.real("XYPos/Y") / 100.0};
+    legend.anchor = style.enumerator<AnchorAlignment_e>("AnchorAlignment");
+    legend.text = TextStyle::read(style.below("TextShape"));
+    legend.text.color = style.color("TextColor");
+    legend.rowSpacing = style.real("RowSpacing");
+    legend.hasNames = style.flag("ShowText");
+    legend.box = style.enumerator<TextBox_e>("Box/BoxType");
+    legend.boxColor = style.color("Box/Color");
+    legend.boxFill = style.color("Box/FillColor");
+    legend.boxThickness = style.real("Box/LineThickness");
+    legend.boxMargin = style.real("Box/Margin");
+    return legend;
+}
+
+TripodStyle readTripod(const StyleReader& style)
+{
+    return {style.flag("Show"),
+            style.real("Size"),
+            style.color("Color"),
+            {style.real("XYPos/X") / 100.0, style.real("XYPos/Y") / 100.0}};
 }
 
 void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, const kernel::DataSet& dataSet)
@@ -170,21 +192,90 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
         plot.light = readLight(style.below("GlobalThreeD/LightSource"));
         const StyleReader scale = style.below("GlobalThreeD/AxisScale");
         plot.axisScale = {scale.real("X"), scale.real("Y"), scale.real("Z")};
+        plot.boxPadding = style.real("GlobalThreeD/AxisBoxPadding") / 100.0;
+        plot.resetsEdges = style.flag("ThreeDAxis/EdgeAutoReset");
+        plot.tripod = readTripod(style.below("ThreeDAxis/FrameAxis"));
     }
 }
 
 void readLines(PlotStyle& plot, const kernel::StyleStore& store, long frame, const kernel::DataSet& dataSet)
 {
     const StyleReader style(store, frame);
-    const bool hasLines = style.flag("LinePlotLayers/ShowLines");
+    const StyleReader layers = style.below("LinePlotLayers");
     const long activeEntry = store.entry("ActiveLineMaps");
     const long count = style.integer("FrameSetup/NumLineMaps");
     for (long map = 1; map <= count; ++map) {
         if (store.flag(frame, activeEntry, map)) {
-            plot.lineMaps.push_back(readLineMap(StyleReader(store, frame, "LineMap", map), hasLines, dataSet));
+            plot.lineMaps.push_back(readLineMap(StyleReader(store, frame, "LineMap", map), layers, dataSet));
         }
     }
-    plot.hasLineLegend = style.flag("GlobalLinePlot/Legend/Show");
+    plot.lineLegend = readLegend(style.below("GlobalLinePlot/Legend"));
+}
+
+/* The names, each once, of what line maps show over an axis. */
+std::string namesOver(const PlotStyle& plot, const kernel::DataSet* dataSet, std::size_t kind, int number)
+{
+    constexpr std::size_t most = 3;
+    std::vector<long> variables;
+    for (const LineMapStyle& map : plot.lineMaps) {
+        const long variable = kind == 0 ? map.xVariable : map.yVariable;
+        const int axis = plot.type == PlotType_PolarLine ? 1 : kind == 0 ? map.xAxis : map.yAxis;
+        if (axis == number && std::find(variables.begin(), variables.end(), variable) == variables.end()) {
+            variables.push_back(variable);
+        }
+    }
+    std::string names;
+    for (std::size_t i = 0; i < std::min(most, variables.size()); ++i) {
+        names += (i > 0 ? ", " : "") + variableName(dataSet, variables[i]);
+    }
+    return variables.size() > most ? names + ", \u2026" : names;
+}
+
+bool isUsed(const PlotStyle& plot, std::size_t kind, int number)
+{
+    return std::any_of(plot.lineMaps.begin(), plot.lineMaps.end(),
+                       [&](const LineMapStyle& map) { return (kind == 0 ? map.xAxis : map.yAxis) == number; });
+}
+
+void readAxes(PlotStyle& plot, const kernel::StyleStore& store, long frame, const kernel::DataSet* dataSet)
+{
+    const bool isXYLine = plot.type == PlotType_XYLine;
+    const bool isField = plot.type == PlotType_Cartesian2D || plot.type == PlotType_Cartesian3D;
+    const AxisNames names = axisNames(plot.type);
+    const StyleReader axes(store, frame, names.root);
+    for (std::size_t kind = 0; kind < names.details.size(); ++kind) {
+        const std::string path = names.root + "/" + names.details[kind];
+        for (int number = 1; number <= (isXYLine ? lineAxisCount : 1); ++number) {
+            const StyleReader detail(store, frame, path, isXYLine ? number : -1);
+            if (number > 1 && !isUsed(plot, kind, number)) {
+                continue;
+            }
+            const long variable = isField ? detail.integer("VarNum") : 0;
+            AxisStyle axis = AxisStyle::read(detail, isField ? variableName(dataSet, variable)
+                                                             : namesOver(plot, dataSet, kind, number));
+            axis.variable = variable;
+            if (number > 1) {
+                plot.moreAxes.push_back({kind, number, std::move(axis)});
+                continue;
+            }
+            if (!isField && !plot.lineMaps.empty()) {
+                const LineMapStyle& first = plot.lineMaps.front();
+                axis.variable = kind == 0 ? first.xVariable : first.yVariable;
+            }
+            // An axis that no line map is drawn over says nothing.
+            const bool isIdle = isXYLine && !plot.lineMaps.empty() && !isUsed(plot, kind, number);
+            axis.isShown = axis.isShown && !isIdle;
+            plot.axes[kind] = std::move(axis);
+        }
+    }
+    plot.area = AxisAreaStyle::read(axes);
+    plot.keepsAxisLengths = axes.flag("PreserveAxisScale");
+    if (plot.type == PlotType_PolarLine) {
+        plot.thetaPeriod = axes.real("ThetaPeriod");
+        plot.thetaMode = axes.enumerator<ThetaMode_e>("ThetaMode");
+    } else if (plot.type != PlotType_Cartesian3D && axes.enumerator<AxisMode_e>("AxisMode") != AxisMode_Independent) {
+        plot.xToYRatio = axes.real("DepXToYRatio");
+    }
 }
 
 } // namespace
@@ -196,41 +287,22 @@ PlotStyle PlotStyle::read(const kernel::StyleStore& store, const kernel::Frame& 
     result.type = style.enumerator<PlotType_e>("PlotType");
     result.frame = readFrame(style);
     const kernel::DataSet* dataSet = frame.dataSet().get();
-    const bool isField = result.type == PlotType_Cartesian2D || result.type == PlotType_Cartesian3D;
-    if (!dataSet || !(isField || result.type == PlotType_XYLine)) {
+    if (!dataSet && result.type != PlotType_Sketch) {
         return result;
     }
-    if (isField) {
+    switch (result.type) {
+    case PlotType_Cartesian3D:
+    case PlotType_Cartesian2D:
         readField(result, store, frame.id(), *dataSet);
-    } else {
+        break;
+    case PlotType_XYLine:
+    case PlotType_PolarLine:
         readLines(result, store, frame.id(), *dataSet);
+        break;
+    case PlotType_Sketch:
+        break;
     }
-
-    const std::string root = axisRoot(result.type);
-    const StyleReader axes = style.below(root);
-    const std::size_t axisCount = result.type == PlotType_Cartesian3D ? 3 : 2;
-    for (std::size_t i = 0; i < axisCount; ++i) {
-        const long number = isField ? -1 : 1;
-        const StyleReader detail(store, frame.id(), root + "/" + detailNames[i], number);
-        long variable = 0;
-        if (isField) {
-            variable = detail.integer("VarNum");
-        } else if (!result.lineMaps.empty()) {
-            variable = i == 0 ? result.lineMaps.front().xVariable : result.lineMaps.front().yVariable;
-        }
-        result.axes[i] = readAxis(detail, variableName(dataSet, variable));
-        result.axes[i].variable = variable;
-    }
-    if (result.type != PlotType_Cartesian3D) {
-        if (axes.enumerator<AxisMode_e>("AxisMode") != AxisMode_Independent) {
-            result.xToYRatio = axes.real("DepXToYRatio");
-        }
-        result.isFilled = axes.flag("GridArea/IsFilled");
-        result.fill = axes.color("GridArea/FillColor");
-        const StyleReader viewport = axes.below("ViewportPosition");
-        result.viewport = {viewport.real("X1") / 100.0, viewport.real("X2") / 100.0, viewport.real("Y1") / 100.0,
-                           viewport.real("Y2") / 100.0};
-    }
+    readAxes(result, store, frame.id(), dataSet);
     return result;
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "api/VtxEnumerations.h"
+#include "view/AxisStyle.h"
 #include "view/ZoneStyle.h"
 
 #include <QColor>
+#include <QPointF>
 
 #include <array>
 #include <optional>
@@ -18,28 +19,14 @@ class StyleStore;
 
 namespace vantrix::view {
 
-/* How one axis is to look; a copy of the frame's style. */
-struct AxisStyle
+/* An axis of an XY line plot besides the first of its kind. */
+struct NumberedAxis
 {
-    bool isShown = true;
-    bool isLogarithmic = false;
-    bool isReversed = false;
-    long variable = 0; /* number from 1; 0 where the axis shows no variable */
-    double minimum = 0.0;
-    double maximum = 1.0;
-    double spacing = 0.0; /* of labelled ticks; 0 chooses */
-    double anchor = 0.0;
-    int minorTicks = -1; /* between two labelled ones; -1 chooses */
-    bool hasGridLines = false;
-    QColor lineColor = Qt::black;
-    QColor labelColor = Qt::black;
-    QColor titleColor = Qt::black;
-    double labelScale = 1.0; /* of the size that the plot would choose */
-    double titleScale = 1.0;
-    QColor gridColor = Qt::black; /* drawn faintly */
-    std::string title;
+    std::size_t kind = 0; /* 0 X, 1 Y */
+    int number = 2;
+    AxisStyle style;
 
-    bool operator==(const AxisStyle&) const = default;
+    bool operator==(const NumberedAxis&) const = default;
 };
 
 /* The values that have a colour; what lies beyond is left away. */
@@ -96,19 +83,58 @@ struct LightStyle
     bool operator==(const LightStyle&) const = default;
 };
 
+/* A shape, or a character in place of it. */
+struct SymbolStyle
+{
+    GeomShape_e shape = GeomShape_Circle;
+    std::string character; /* empty for the shape */
+    Font_e font = Font_Helvetica;
+    QColor color = Qt::black;
+    bool isFilled = false;
+    QColor fill = Qt::black;
+    double size = 2.5;      /* like all lengths here per cent of the frame's height */
+    double thickness = 0.1; /* of its outline */
+
+    bool operator==(const SymbolStyle&) const = default;
+};
+
 struct LineMapStyle
 {
     std::string name;
     long zone = 0;
     long xVariable = 0;
     long yVariable = 0;
+    int xAxis = 1;
+    int yAxis = 1;
+    bool hasLines = true;
     QColor color = Qt::black;
     double thickness = 0.4;
     LinePattern_e pattern = LinePattern_Solid;
-    bool hasLines = true;
+    double patternLength = 2.0;
     bool hasSymbols = false;
+    SymbolStyle symbol;
+    long skip = 1; /* every how many points have a symbol */
 
     bool operator==(const LineMapStyle&) const = default;
+};
+
+/* A legend: where its anchor lies, its text and its box. */
+struct LegendStyle
+{
+    bool isShown = false;
+    bool isPlaced = false; /* by the user; else the plot makes room for it */
+    QPointF position;      /* of the anchor: parts of the frame, from its lower left corner */
+    AnchorAlignment_e anchor = AnchorAlignment_TopRight;
+    TextStyle text;
+    double rowSpacing = 1.2; /* text heights */
+    bool hasNames = true;
+    TextBox_e box = TextBox_Hollow;
+    QColor boxColor = Qt::black;
+    QColor boxFill = Qt::white;
+    double boxThickness = 0.1;
+    double boxMargin = 10.0; /* per cent of the text's height */
+
+    bool operator==(const LegendStyle&) const = default;
 };
 
 /* The frame around the plot. */
@@ -125,11 +151,23 @@ struct FrameStyle
     bool operator==(const FrameStyle&) const = default;
 };
 
+/* The small axes that tell how a 3D plot is turned. */
+struct TripodStyle
+{
+    bool isShown = false;
+    double size = 8.0; /* per cent of the frame's height */
+    QColor color = Qt::black;
+    QPointF position; /* parts of the frame, from its lower left corner */
+
+    bool operator==(const TripodStyle&) const = default;
+};
+
 /* Everything that decides what a frame's plot looks like, read from the style store at once. */
 struct PlotStyle
 {
     PlotType_e type = PlotType_Sketch;
-    std::array<AxisStyle, 3> axes;
+    std::array<AxisStyle, 3> axes;                  /* X, Y, Z; of a line plot X1 and Y1; theta and R of a polar one */
+    std::vector<NumberedAxis> moreAxes;             /* of an XY line plot, those that are used */
     std::array<double, 3> axisScale{1.0, 1.0, 1.0}; /* of a 3D plot: lengths on the screen to lengths in the data */
     View3D view;
     LightStyle light;
@@ -138,13 +176,17 @@ struct PlotStyle
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
     std::vector<LineMapStyle> lineMaps;
-    bool hasLineLegend = true;
+    LegendStyle lineLegend;
     FrameStyle frame;
+    AxisAreaStyle area;
     double xToYRatio = 0.0; /* of a flat plot: length of a unit of X to one of Y; 0 where each axis has its own */
-    std::array<double, 4> viewport{0.0, 1.0, 0.0,
-                                   1.0}; /* left, right, bottom, top of a flat plot; parts of the frame */
-    bool isFilled = false;               /* the area between the axes has a fill colour of its own */
-    QColor fill = Qt::white;
+    bool keepsAxisLengths =
+        false;                  /* where that makes it necessary, ranges are widened and the area is not made smaller */
+    double thetaPeriod = 360.0; /* of a polar plot: theta of one full circle */
+    ThetaMode_e thetaMode = ThetaMode_Degrees;
+    bool resetsEdges = true; /* of a 3D plot: its axes choose their edges anew when it is turned */
+    double boxPadding = 0.0; /* of a 3D plot: space between data and box, as part of the range */
+    TripodStyle tripod;
 
     bool operator==(const PlotStyle&) const = default;
 

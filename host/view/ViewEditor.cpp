@@ -38,16 +38,41 @@ struct Bounds
     }
 };
 
-Bounds shownBounds(const kernel::DataSet& dataSet, const PlotStyle& style, std::size_t axis)
+/* Of what is shown over an axis; `number` counts the axes of an XY line plot. */
+Bounds shownBounds(const kernel::DataSet& dataSet, const PlotStyle& style, std::size_t kind, int number)
 {
     Bounds bounds;
     for (const ZoneStyle& zone : style.zones) {
-        bounds.include(dataSet.field(zone.zone, style.axes[axis].variable));
+        bounds.include(dataSet.field(zone.zone, style.axes[kind].variable));
     }
     for (const LineMapStyle& map : style.lineMaps) {
-        bounds.include(dataSet.field(map.zone, axis == 0 ? map.xVariable : map.yVariable));
+        const int axis = style.type == PlotType_PolarLine ? 1 : kind == 0 ? map.xAxis : map.yAxis;
+        if (axis == number) {
+            bounds.include(dataSet.field(map.zone, kind == 0 ? map.xVariable : map.yVariable));
+        }
     }
     return bounds;
+}
+
+/* The axes of a flat plot with their scales. */
+std::vector<FramePlot::MoreScale> allScales(const FramePlot& plot)
+{
+    std::vector<FramePlot::MoreScale> scales = plot.moreScales;
+    scales.push_back({0, 1, *plot.x});
+    scales.push_back({1, 1, *plot.y});
+    return scales;
+}
+
+const char* axesOf(PlotType_e type)
+{
+    switch (type) {
+    case PlotType_XYLine:
+        return "XYLineAxis";
+    case PlotType_Sketch:
+        return "SketchAxis";
+    default:
+        return "TwoDAxis";
+    }
 }
 
 double wrapped(double degrees)
@@ -81,18 +106,15 @@ void ViewEditor::write(const kernel::Frame& frame, const std::string& path, doub
     style.setOf(frame.id(), style.entry(path.c_str()), offset, -1, value);
 }
 
-void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t axis, double minimum,
+void ViewEditor::writeRange(const kernel::Frame& frame, const std::string& detail, long offset, double minimum,
                             double maximum)
 {
     if (!std::isfinite(minimum) || !std::isfinite(maximum) || !(maximum > minimum)) {
         return;
     }
-    const bool isLine = plot.style.type == PlotType_XYLine;
-    const std::string detail =
-        std::string(isLine ? "XYLineAxis" : "TwoDAxis") + (axis == 0 ? "/XDetail/" : "/YDetail/");
     // A range must never be empty, not even between the two writes.
-    const double oldMaximum = (axis == 0 ? plot.x : plot.y)->maximum();
-    const long offset = isLine ? 1 : -1;
+    const kernel::StyleStore& style = m_kernel.style();
+    const double oldMaximum = style.real(frame.id(), style.entry((detail + "RangeMax").c_str()), offset);
     if (minimum < oldMaximum) {
         write(frame, detail + "RangeMin", minimum, offset);
         write(frame, detail + "RangeMax", maximum, offset);
@@ -100,6 +122,13 @@ void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, s
         write(frame, detail + "RangeMax", maximum, offset);
         write(frame, detail + "RangeMin", minimum, offset);
     }
+}
+
+void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t kind, int number,
+                            double minimum, double maximum)
+{
+    const std::string detail = std::string(axesOf(plot.style.type)) + (kind == 0 ? "/XDetail/" : "/YDetail/");
+    writeRange(frame, detail, plot.style.type == PlotType_XYLine ? number : -1, minimum, maximum);
 }
 
 void ViewEditor::showRect(const kernel::Frame& frame, const FramePlot& plot, const QRectF& rect)
@@ -122,14 +151,14 @@ void ViewEditor::showRect(const kernel::Frame& frame, const FramePlot& plot, con
         shown.setSize(plot.area.size() * factor);
         shown.moveCenter(rect.center());
     }
-    const auto across = [&](double x) { return plot.x->value((x - plot.area.left()) / plot.area.width()); };
-    const auto up = [&](double y) { return plot.y->value((plot.area.bottom() - y) / plot.area.height()); };
-    const double left = across(shown.left());
-    const double right = across(shown.right());
-    const double bottom = up(shown.bottom());
-    const double top = up(shown.top());
-    writeRange(frame, plot, 0, std::min(left, right), std::max(left, right));
-    writeRange(frame, plot, 1, std::min(bottom, top), std::max(bottom, top));
+    for (const auto& [kind, number, scale] : allScales(plot)) {
+        const double size = kind == 0 ? plot.area.width() : plot.area.height();
+        const double from = kind == 0 ? shown.left() - plot.area.left() : plot.area.bottom() - shown.bottom();
+        const double to = kind == 0 ? shown.right() - plot.area.left() : plot.area.bottom() - shown.top();
+        const double first = scale.value(from / size);
+        const double last = scale.value(to / size);
+        writeRange(frame, plot, kind, number, std::min(first, last), std::max(first, last));
+    }
 }
 
 void ViewEditor::move(const kernel::Frame& frame, const FramePlot& plot, QPointF by)
@@ -157,6 +186,16 @@ void ViewEditor::turn(const kernel::Frame& frame, const FramePlot& plot, double 
         return;
     }
     const View3D& view = plot.style.view;
+    if (plot.style.resetsEdges) {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            if (plot.style.axes[axis].line.edge != 0) {
+                constexpr std::array<const char*, 3> details{"XDetail", "YDetail", "ZDetail"};
+                kernel::StyleStore& style = m_kernel.style();
+                const std::string path = std::string("ThreeDAxis/") + details[axis] + "/AxisLine/Edge";
+                style.setOf(frame.id(), style.entry(path.c_str()), -1, -1, 0L);
+            }
+        }
+    }
     writeView(frame, plot,
               plot.camera->turned(std::clamp(view.psi + psi, 0.0, 180.0), wrapped(view.theta + theta), view.alpha));
 }
@@ -181,14 +220,26 @@ void ViewEditor::fit(const kernel::Frame& frame, const FramePlot& plot)
         }
         return;
     }
-    if (!plot.x || !plot.y || !frame.dataSet()) {
+    if (!frame.dataSet()) {
         return;
     }
-    for (std::size_t axis = 0; axis < 2; ++axis) {
-        const Bounds bounds = shownBounds(*frame.dataSet(), plot.style, axis);
+    if (plot.polar) {
+        const Bounds bounds = shownBounds(*frame.dataSet(), plot.style, 1, 1);
         if (!bounds.isEmpty) {
-            const AxisScale usable(bounds.minimum, bounds.maximum, plot.style.axes[axis].isLogarithmic);
-            writeRange(frame, plot, axis, usable.minimum(), usable.maximum());
+            const AxisScale usable(std::min(bounds.minimum, plot.style.axes[1].valueAtOrigin), bounds.maximum,
+                                   plot.style.axes[1].isLogarithmic);
+            writeRange(frame, "PolarAxis/RDetail/", -1, usable.minimum(), usable.maximum());
+        }
+        return;
+    }
+    if (!plot.x || !plot.y) {
+        return;
+    }
+    for (const auto& [kind, number, scale] : allScales(plot)) {
+        const Bounds bounds = shownBounds(*frame.dataSet(), plot.style, kind, number);
+        if (!bounds.isEmpty) {
+            const AxisScale usable(bounds.minimum, bounds.maximum, scale.isLogarithmic());
+            writeRange(frame, plot, kind, number, usable.minimum(), usable.maximum());
         }
     }
 }

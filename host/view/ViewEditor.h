@@ -44,7 +44,8 @@ public:
     void fit(const kernel::Frame& frame, const FramePlot& plot);
 
 private:
-    void writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t axis, double minimum,
+    void writeRange(const kernel::Frame& frame, const std::string& detail, long offset, double minimum, double maximum);
+    void writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t kind, int number, double minimum,
                     double maximum);
     void writeView(const kernel::Frame& frame, const FramePlot& plot, const View3D& view);
     void write(const kernel::Frame& frame, const std::string& path, double value, long offset = -1);

@@ -1,5 +1,6 @@
 #include "view/AxisPainter.h"
 #include "view/AxisBoxPainter.h"
+#include "view/Camera3D.h"
 
 #include <QImage>
 #include <QPainter>
@@ -16,8 +17,17 @@ AxisStyle axis(double minimum, double maximum)
     AxisStyle style;
     style.minimum = minimum;
     style.maximum = maximum;
-    style.title = "Title";
+    style.title.words = "Title";
     return style;
+}
+
+PlotStyle flatPlot(const AxisStyle& x, const AxisStyle& y)
+{
+    PlotStyle plot;
+    plot.type = PlotType_XYLine;
+    plot.axes[0] = x;
+    plot.axes[1] = y;
+    return plot;
 }
 
 bool isWhite(const QImage& image, const QRect& area)
@@ -39,38 +49,101 @@ TEST(AxisPainter, KeepsNumbersAndTitlesInsideTheFrameWhateverTheRange)
     const std::pair<double, double> ranges[] = {{0, 1}, {-1e9, 1e9}, {1e9, 1e9 + 1e-3}, {-1e-7, 3e-7}, {99990, 100010}};
     for (const auto& [minimum, maximum] : ranges) {
         for (const QSize size : {QSize(900, 800), QSize(360, 300)}) {
-            QImage image(size, QImage::Format_ARGB32_Premultiplied);
-            image.fill(Qt::white);
-            QPainter painter(&image);
-            const Canvas canvas(painter, size.width() / 9.0);
-            const PlotMeasures measures = PlotMeasures::forFrame({9.0, 8.0});
-            const AxisPainter axes(canvas, measures, axis(minimum, maximum), axis(minimum, maximum));
-            const QRectF room{QPointF(), QSizeF(size)};
-            const QRectF area = axes.plotArea(room, room, 0.0);
-            axes.paintAxes(area);
-            SCOPED_TRACE(testing::Message() << minimum << " to " << maximum << " in " << size.width());
-            EXPECT_GT(area.width(), 0.5 * size.width());
-            EXPECT_GT(area.height(), 0.5 * size.height());
-            EXPECT_TRUE(isWhite(image, QRect(0, 0, size.width(), 1)));
-            EXPECT_TRUE(isWhite(image, QRect(0, size.height() - 1, size.width(), 1)));
-            EXPECT_TRUE(isWhite(image, QRect(0, 0, 1, size.height())));
-            EXPECT_TRUE(isWhite(image, QRect(size.width() - 1, 0, 1, size.height())));
-            EXPECT_FALSE(isWhite(image, QRect(0, 0, int(area.left()) - 2, size.height())));
+            for (const bool hasMore : {false, true}) {
+                PlotStyle plot = flatPlot(axis(minimum, maximum), axis(minimum, maximum));
+                if (hasMore) {
+                    for (const std::size_t kind : {0U, 1U}) {
+                        plot.moreAxes.push_back({kind, 2, axis(0.0, 2e-5)});
+                        plot.moreAxes.push_back({kind, 3, axis(0.0, 1000.0)});
+                        plot.moreAxes[plot.moreAxes.size() - 2].style.line.alignment = AxisAlignment_GridMax;
+                    }
+                }
+                QImage image(size, QImage::Format_ARGB32_Premultiplied);
+                image.fill(Qt::white);
+                QPainter painter(&image);
+                const Canvas canvas(painter, size.width() / 9.0);
+                AxisPainter axes(canvas, size.height() / canvas.inch, plot);
+                const QRectF room{QPointF(), QSizeF(size)};
+                const QRectF area = axes.layOut(room, room);
+                axes.paintFront();
+                SCOPED_TRACE(testing::Message() << minimum << " to " << maximum << " in " << size.width()
+                                                << (hasMore ? " with more axes" : ""));
+                EXPECT_GT(area.width(), 0.4 * size.width());
+                EXPECT_GT(area.height(), 0.4 * size.height());
+                EXPECT_TRUE(isWhite(image, QRect(0, 0, size.width(), 1)));
+                EXPECT_TRUE(isWhite(image, QRect(0, size.height() - 1, size.width(), 1)));
+                EXPECT_TRUE(isWhite(image, QRect(0, 0, 1, size.height())));
+                EXPECT_TRUE(isWhite(image, QRect(size.width() - 1, 0, 1, size.height())));
+                EXPECT_FALSE(isWhite(image, QRect(0, 0, int(area.left()) - 2, size.height())));
+            }
         }
     }
 }
 
-TEST(AxisPainter, KeepsTheShapeOfDependentAxes)
+TEST(AxisPainter, KeepsTheProportionOfDependentAxes)
 {
     QImage image(900, 800, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     const Canvas canvas(painter, 100.0);
-    const AxisPainter axes(canvas, PlotMeasures::forFrame({9.0, 8.0}), axis(0, 4), axis(0, 1));
+    PlotStyle plot = flatPlot(axis(0, 4), axis(0, 1));
+    plot.xToYRatio = 1.0;
+    plot.area.left = 0.2;
+    plot.area.right = 0.5;
+    plot.area.bottom = 0.2;
+    plot.area.top = 0.8;
     const QRectF room(0.0, 0.0, 900.0, 800.0);
-    const QRectF area = axes.plotArea(room, room, 0.25);
-    EXPECT_NEAR(area.height() / area.width(), 0.25, 1e-9);
-    const QRectF viewport(200.0, 100.0, 300.0, 300.0);
-    EXPECT_TRUE(viewport.contains(axes.plotArea(room, viewport, 0.0)));
+    AxisPainter shaped(canvas, 8.0, plot);
+    const QRectF narrow = shaped.layOut(room, room);
+    EXPECT_NEAR(narrow.height() / narrow.width(), 0.25, 0.01);
+    EXPECT_TRUE(QRectF(180.0, 160.0, 270.0, 480.0).adjusted(-1, -1, 1, 1).contains(narrow));
+
+    plot.keepsAxisLengths = true;
+    AxisPainter widened(canvas, 8.0, plot);
+    const QRectF whole = widened.layOut(room, room);
+    EXPECT_GT(whole.height(), 400.0);
+    const double xRange = widened.xScale().maximum() - widened.xScale().minimum();
+    const double yRange = widened.yScale().maximum() - widened.yScale().minimum();
+    EXPECT_NEAR(whole.width() / xRange, whole.height() / yRange, 0.01 * whole.width());
+    EXPECT_NEAR(xRange, 4.0, 1e-9) << "what was to be seen is still seen";
+}
+
+TEST(AxisPainter, PutsAnAxisWhereItsStyleSays)
+{
+    struct Case
+    {
+        AxisAlignment_e alignment;
+        double position;
+        double opposingValue;
+        double expected; /* height of the X axis, as part of the area from its lower border */
+    };
+    for (const Case& one : {Case{AxisAlignment_GridMin, 0, 0, 0.0},
+                            {AxisAlignment_GridMax, 0, 0, 1.0},
+                            {AxisAlignment_OpposingAxisValue, 0, 2.5, 0.25},
+                            {AxisAlignment_Viewport, 50, 0, 0.5}}) {
+        PlotStyle plot = flatPlot(axis(0, 1), axis(0, 10));
+        plot.axes[0].line.color = Qt::red;
+        plot.axes[0].line.alignment = one.alignment;
+        plot.axes[0].line.position = one.position;
+        plot.axes[0].line.opposingValue = one.opposingValue;
+        plot.axes[1].isShown = false;
+        plot.area.left = plot.area.bottom = 0.2;
+        plot.area.right = plot.area.top = 0.8;
+        QImage image(500, 500, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        const Canvas canvas(painter, 100.0);
+        AxisPainter axes(canvas, 5.0, plot);
+        const QRectF room(0.0, 0.0, 500.0, 500.0);
+        const QRectF area = axes.layOut(room, room);
+        axes.paintFront();
+        int found = -1;
+        for (int y = 0; y < 500 && found < 0; ++y) {
+            if (image.pixelColor(int(area.center().x()) + 17, y).saturation() > 150) {
+                found = y;
+            }
+        }
+        EXPECT_NEAR((area.bottom() - found) / area.height(), one.expected, 0.01) << int(one.alignment);
+    }
 }
 
 TEST(AxisBoxPainter, PutsAxesOnTheOutlineOfTheBox)
@@ -86,8 +159,10 @@ TEST(AxisBoxPainter, PutsAxesOnTheOutlineOfTheBox)
             view.theta = theta;
             view.psi = psi;
             const Camera3D camera(view, box, 900.0 / 800.0, 0.1);
-            const AxisBoxPainter axes(canvas, PlotMeasures::forFrame({9.0, 8.0}), {axis(0, 2), axis(0, 3), axis(0, 1)},
-                                      camera, {1.0, 1.0, 1.0}, picture);
+            PlotStyle plot;
+            plot.type = PlotType_Cartesian3D;
+            plot.axes = {axis(0, 2), axis(0, 3), axis(0, 1)};
+            const AxisBoxPainter axes(canvas, 8.0, plot, camera, picture);
             for (std::size_t i = 0; i < 3; ++i) {
                 const AxisBoxPainter::Edge edge = axes.edge(i);
                 if (!edge.isUsable) {

@@ -17,6 +17,26 @@ struct Range
     double maximum;
 };
 
+/* The number that a label says. */
+double spoken(const NumberText& label)
+{
+    if (label.exponent.empty()) {
+        return std::strtod(label.text.c_str(), nullptr);
+    }
+    const std::size_t times = label.text.find("\u00d7"
+                                              "10");
+    const std::string mantissa = times != std::string::npos ? label.text.substr(0, times)
+                                 : label.text == "10"       ? "1"
+                                                            : "-1";
+    return std::strtod((mantissa + "e" + label.exponent).c_str(), nullptr);
+}
+
+/* As text: "10^-3". */
+std::string plain(const NumberText& label)
+{
+    return label.text + (label.exponent.empty() ? "" : "^" + label.exponent);
+}
+
 /* What holds for the ticks of every axis, whatever its range. */
 void expectSound(const AxisScale& scale, const TickRequest& request)
 {
@@ -36,8 +56,8 @@ void expectSound(const AxisScale& scale, const TickRequest& request)
         }
     }
     for (std::size_t i = 0; i < ticks.major.size(); ++i) {
-        EXPECT_EQ(std::strtod(ticks.major[i].label.c_str(), nullptr), ticks.major[i].value) << ticks.major[i].label;
-        EXPECT_LE(ticks.major[i].label.size(), 24U) << ticks.major[i].label;
+        EXPECT_EQ(spoken(ticks.major[i].label), ticks.major[i].value) << plain(ticks.major[i].label);
+        EXPECT_LE(plain(ticks.major[i].label).size(), 24U) << plain(ticks.major[i].label);
         if (i > 0) {
             EXPECT_NE(ticks.major[i].label, ticks.major[i - 1].label);
             const double distance = std::abs(ticks.major[i].fraction - ticks.major[i - 1].fraction) * request.length;
@@ -45,7 +65,7 @@ void expectSound(const AxisScale& scale, const TickRequest& request)
         }
     }
     for (const Tick& minor : ticks.minor) {
-        EXPECT_TRUE(minor.label.empty());
+        EXPECT_TRUE(minor.label.isEmpty());
         for (const Tick& major : ticks.major) {
             EXPECT_GT(std::abs(minor.value - major.value), 0.0);
         }
@@ -56,7 +76,7 @@ std::vector<std::string> labels(const AxisScale& scale, const TickRequest& reque
 {
     std::vector<std::string> texts;
     for (const Tick& tick : AxisTicks::make(scale, request).major) {
-        texts.push_back(tick.label);
+        texts.push_back(plain(tick.label));
     }
     return texts;
 }
@@ -105,16 +125,24 @@ TEST(AxisTicks, OfAnOrdinaryRangeAreThoseThatAPersonWouldChoose)
     using Texts = std::vector<std::string>;
     EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (Texts{"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}));
     EXPECT_EQ(labels(AxisScale(-3.0, 2.1), request), (Texts{"-3", "-2", "-1", "0", "1", "2"}));
-    EXPECT_EQ(labels(AxisScale(0.0, 5e-8), request), (Texts{"0", "1e-8", "2e-8", "3e-8", "4e-8", "5e-8"}));
+    EXPECT_EQ(labels(AxisScale(0.0, 5e-8), request), (Texts{"0", "10^-8",
+                                                            "2\u00d7"
+                                                            "10^-8",
+                                                            "3\u00d7"
+                                                            "10^-8",
+                                                            "4\u00d7"
+                                                            "10^-8",
+                                                            "5\u00d7"
+                                                            "10^-8"}));
     EXPECT_EQ(labels(AxisScale(0.1, 100.0, true), request), (Texts{"0.1", "1", "10", "100"}));
-    EXPECT_EQ(labels(AxisScale(1e-6, 1.0, true), request), (Texts{"1e-6", "1e-4", "1e-2", "1e0"}));
+    EXPECT_EQ(labels(AxisScale(1e-6, 1.0, true), request), (Texts{"10^-6", "10^-4", "10^-2", "10^0"}));
 }
 
 TEST(AxisTicks, GiveWayToLongLabels)
 {
     TickRequest request;
     request.length = 300.0;
-    request.labelExtent = [](const std::string& label) { return 9.0 * double(label.size()); };
+    request.labelExtent = [](const NumberText& label) { return 9.0 * double(label.text.size()); };
     const AxisTicks ticks = AxisTicks::make(AxisScale(1e9, 1e9 + 1e-3), request);
     ASSERT_GE(ticks.major.size(), 2U);
     for (std::size_t i = 1; i < ticks.major.size(); ++i) {
@@ -132,6 +160,88 @@ TEST(AxisTicks, FollowASpacingOfOnesOwnUnlessItCrowdsTheAxis)
     EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (std::vector<std::string>{"0.1", "0.35", "0.6", "0.85"}));
     request.spacing = 1e-6;
     EXPECT_EQ(AxisTicks::make(AxisScale(0.0, 1.0), request).spacing, 0.1);
+}
+
+TEST(AxisTicks, WriteNumbersInTheFormatAskedFor)
+{
+    struct Case
+    {
+        NumberFormat_e format;
+        int precision;
+        Range range;
+        std::vector<std::string> expected;
+    };
+    for (const Case& one : {Case{NumberFormat_RangeBestFloat, 3, {0, 1}, {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}},
+                            Case{NumberFormat_BestFloat, 3, {0, 1}, {"0", "0.2", "0.4", "0.6", "0.8", "1"}},
+                            Case{NumberFormat_Integer, 3, {0, 1}, {"0", "1"}},
+                            Case{NumberFormat_Integer, 3, {-40, 60}, {"-40", "-20", "0", "20", "40", "60"}},
+                            Case{NumberFormat_FixedFloat, 2, {0, 1}, {"0.00", "0.20", "0.40", "0.60", "0.80", "1.00"}},
+                            Case{NumberFormat_FixedFloat, 0, {0, 0.5}, {"0"}},
+                            Case{NumberFormat_Exponential,
+                                 1,
+                                 {0, 1000},
+                                 {"0.0E+00", "2.0E+02", "4.0E+02", "6.0E+02", "8.0E+02", "1.0E+03"}},
+                            Case{NumberFormat_SuperScript,
+                                 1,
+                                 {0, 0.3},
+                                 {"0",
+                                  "1\u00d7"
+                                  "10^-1",
+                                  "2\u00d7"
+                                  "10^-1",
+                                  "3\u00d7"
+                                  "10^-1"}}}) {
+        TickRequest request;
+        request.length = 100.0;
+        request.minimumDistance = 18.0;
+        request.number = {one.format, one.precision, {}};
+        EXPECT_EQ(labels(AxisScale(one.range.minimum, one.range.maximum), request), one.expected);
+    }
+}
+
+TEST(AxisTicks, OfTimesAreAtWholeSecondsMinutesAndHours)
+{
+    const double minute = 1.0 / 1440.0;
+    struct Case
+    {
+        Range range;
+        const char* format;
+        std::vector<std::string> expected;
+    };
+    for (const Case& one :
+         {Case{{45000.0, 45001.0}, "hh:mm", {"00:00", "06:00", "12:00", "18:00", "00:00"}},
+          Case{{45000.0, 45000.0 + 2.0 * minute}, "mm:ss", {"00:00", "00:30", "01:00", "01:30", "02:00"}},
+          Case{{45000.0, 45040.0},
+               "yyyy-mm-dd",
+               {"2023-03-15", "2023-03-25", "2023-04-04", "2023-04-14", "2023-04-24"}}}) {
+        TickRequest request;
+        request.length = 100.0;
+        request.minimumDistance = 20.0;
+        request.number = {NumberFormat_TimeDate, 3, one.format};
+        EXPECT_EQ(labels(AxisScale(one.range.minimum, one.range.maximum), request), one.expected);
+    }
+}
+
+TEST(AxisTicks, AtASpacingOfOnesOwnAreWrittenShort)
+{
+    TickRequest request;
+    request.length = 400.0;
+    request.spacing = 0.5235987755982988;
+    const auto texts = labels(AxisScale(0.0, 6.283185307179586), request);
+    ASSERT_EQ(texts.size(), 13U);
+    EXPECT_EQ(texts[1], "0.52");
+    EXPECT_EQ(texts[12], "6.28");
+}
+
+TEST(AxisTicks, WithSkippedLabelsStayWhereTheyAre)
+{
+    TickRequest request;
+    request.length = 100.0;
+    request.minimumDistance = 18.0;
+    request.spacing = 0.1;
+    request.skip = 5;
+    EXPECT_EQ(labels(AxisScale(0.0, 1.0), request),
+              (std::vector<std::string>{"0.0", "", "", "", "", "0.5", "", "", "", "", "1.0"}));
 }
 
 TEST(AxisScale, TakesValuesToFractionsAndBack)
