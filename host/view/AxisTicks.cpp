@@ -259,8 +259,11 @@ AxisTicks linearTicks(const AxisScale& scale, const TickRequest& request)
 AxisTicks spacedTicks(const AxisScale& scale, const TickRequest& request)
 {
     AxisTicks ticks;
-    const double first = std::ceil((scale.minimum() - request.anchor) / request.spacing - 1e-9);
-    const double last = std::floor((scale.maximum() - request.anchor) / request.spacing + 1e-9);
+    const double from = (scale.minimum() - request.anchor) / request.spacing;
+    const double to = (scale.maximum() - request.anchor) / request.spacing;
+    const double slack = 1e-9 + 4.0 * std::numeric_limits<double>::epsilon() * std::max(std::abs(from), std::abs(to));
+    const double first = std::ceil(from - slack);
+    const double last = std::floor(to + slack);
     if (!(last - first < mostTicks)) {
         return ticks;
     }

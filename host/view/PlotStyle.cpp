@@ -192,6 +192,14 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
         plot.light = readLight(style.below("GlobalThreeD/LightSource"));
         const StyleReader scale = style.below("GlobalThreeD/AxisScale");
         plot.axisScale = {scale.real("X"), scale.real("Y"), scale.real("Z")};
+        const StyleReader axes = style.below("ThreeDAxis");
+        const AxisMode_e mode = axes.enumerator<AxisMode_e>("AxisMode");
+        if (mode != AxisMode_Independent) {
+            plot.axisScale[1] = plot.axisScale[0] / axes.real("DepXToYRatio");
+        }
+        if (mode == AxisMode_XYZDependent) {
+            plot.axisScale[2] = plot.axisScale[0] / axes.real("DepXToZRatio");
+        }
         plot.boxPadding = style.real("GlobalThreeD/AxisBoxPadding") / 100.0;
         plot.resetsEdges = style.flag("ThreeDAxis/EdgeAutoReset");
         plot.tripod = readTripod(style.below("ThreeDAxis/FrameAxis"));

@@ -157,7 +157,7 @@ TEST(AxisTicks, FollowASpacingOfOnesOwnUnlessItCrowdsTheAxis)
     request.length = 200.0;
     request.spacing = 0.25;
     request.anchor = 0.1;
-    EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (std::vector<std::string>{"0.1", "0.35", "0.6", "0.85"}));
+    EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (std::vector<std::string>{"0.10", "0.35", "0.60", "0.85"}));
     request.spacing = 1e-6;
     EXPECT_EQ(AxisTicks::make(AxisScale(0.0, 1.0), request).spacing, 0.1);
 }
