@@ -1,11 +1,13 @@
 #include "propertysets/MemberProbe.h"
 
 #include "api/VtxUtil.h"
+#include "propertymanager/UIPropertyInterface.h"
 #include "sdk/AppLock.h"
 #include "tests/PropertySetWalk.h"
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -93,6 +95,40 @@ TEST(PropertySets, EveryMemberOfAModalSetKeepsItsEditFromTheHostAndDropsItOnInit
         for (auto const& [path, probe] : edited[set].members) {
             EXPECT_TRUE(probe->isAsAtFirst()) << path << " keeps its edit";
         }
+    }
+}
+
+namespace {
+
+/// Tells of each member whether it has a visible and a sensitive state of its own.
+struct UIStates
+{
+    std::map<std::string, bool> byPath;
+
+    template<typename T>
+    void operator()(std::string const& path, boost::shared_ptr<PropertyAbstract<T>> const& member)
+    {
+        byPath[path] = dynamic_cast<UIPropertyInterface*>(member.get()) != nullptr;
+    }
+};
+
+} // namespace
+
+TEST(PropertySets, OfStreamtracesHandOutUIStylePropertiesInBothKinds)
+{
+    for (bool const modal : {false, true}) {
+        StreamTraceDetailsPropertiesGenerated set(modal, {});
+        UIStates states;
+        visitMembers(set, "", states);
+        EXPECT_FALSE(states.byPath.at("/StreamtraceLayers/Show"));
+        for (char const* path :
+             {"/FrameSetup/NumStreamrakePoints", "/StreamAttributes/CellFraction",
+              "/StreamAttributes/TermLine/LinePattern", "/StreamAttributes/StreamTiming/TimeEnd",
+              "/StreamAttributes/StreamTiming/MarkSymbol/GeomShape", "/StreamAttributes/RodRibbon/Width"}) {
+            EXPECT_TRUE(states.byPath.at(path)) << path;
+        }
+        StreamTraceSpecificPropertiesGenerated specific(modal, {"FrameSetup", "Default3DStreamtrace"});
+        EXPECT_TRUE(dynamic_cast<UIPropertyInterface*>(specific.getStreamType().get()));
     }
 }
 

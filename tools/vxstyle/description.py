@@ -4,7 +4,9 @@ style/*.toml hold four kinds of tables:
 
     [offset.NAME]  what an offset counts: `limit` (the highest number) or `count = "zones"`, `help`
     [node.NAME]    values that belong together: `help`, `members`, optionally `base` (a node whose members come first; a
-                   member with the same key replaces the base's) and `set = true` when a property set is written for it
+                   member with the same key replaces the base's), `set = true` when a property set is written for it, and
+                   `ui = true` when the set holds its values as UI style properties, which have a visible and a
+                   sensitive state of their own
     [set.NAME]     a property set of values from several places, see sets.py
     [[place]]      where nodes stand in the style: `path`, `node`, `scope` (process, page, frame), optionally `offset`
 
@@ -22,6 +24,7 @@ A member of a node is one table:
                       and `defaults` gives some of them another default: { Show = false, "Box/Color" = 1 }
     name              of the getter in the property set; with a capital "get" is put in front. The key where it is left out
     set = false       the member is no part of the property set
+    ui = false        the value is a plain kernel property in a set of UI style properties
 
 `defaults` may stand at a place, too.
 """
@@ -49,7 +52,7 @@ INTEGER_TYPES = {
     "variable": (0, INT_MAX, "int"),
 }
 MEMBER_KEYS = {"key", "type", "default", "min", "max", "above", "unit", "help", "announces", "offset"}
-MEMBER_KEYS |= {"node", "defaults", "name", "set"}
+MEMBER_KEYS |= {"node", "defaults", "name", "set", "ui"}
 
 
 class DescriptionError(Exception):
@@ -69,6 +72,7 @@ class Member:
     name: str
     help: str
     in_set: bool
+    is_ui: bool = False  # a UI style property in the set
     offset: str | None = None
     node: str | None = None
     type: str | None = None
@@ -186,11 +190,11 @@ class _Loader:
         if name in self.style.nodes:
             self.fault(file, where, f"is described in {self.style.nodes[name].file} already; a node has one description")
             return
-        for key in table.keys() - {"help", "base", "set", "members"}:
-            self.fault(file, where, f'"{key}" is unknown; a node has help, base, set and members')
+        for key in table.keys() - {"help", "base", "set", "ui", "members"}:
+            self.fault(file, where, f'"{key}" is unknown; a node has help, base, set, ui and members')
         if not table.get("help"):
             self.fault(file, where, 'has no "help"; one sentence is needed')
-        members = [self.read_member(file, where, member) for member in table.get("members", [])]
+        members = [self.read_member(file, where, {"ui": bool(table.get("ui", False)), **member}) for member in table.get("members", [])]
         members = [member for member in members if member]
         keys = [member.key for member in members]
         for key in {key for key in keys if keys.count(key) > 1}:
@@ -217,6 +221,7 @@ class _Loader:
             name=table.get("name", key.replace("/", "")),
             help=table.get("help", ""),
             in_set=table.get("set", True),
+            is_ui=bool(table["ui"]),
             offset=table.get("offset"),
         )
         announces = table.get("announces")

@@ -55,20 +55,22 @@ def accessors(member: Member) -> list[str]:
 def declaration(member: Member) -> str:
     if member.node:
         return f"    boost::shared_ptr<{nested_class(member)}> {field_name(member)};"
-    return f"    PropertySetMember<{cpp_type(member)}> {field_name(member)};"
+    kind = "UIPropertySetMember" if member.is_ui else "PropertySetMember"
+    return f"    {kind}<{cpp_type(member)}> {field_name(member)};"
 
 
 def header(one: PropertySet) -> str:
     name = one.class_name
     members = one.members
     nested = sorted({nested_class(member) for member in members if member.node})
+    kinds = sorted({"UIPropertySetMember" if member.is_ui else "PropertySetMember" for member in members if not member.node})
     lines = [
         "#pragma once",
         "",
         NOTICE,
         "",
         '#include "api/VtxEnumerations.h"',
-        '#include "propertymanager/generated/PropertySetMember.h"',
+        *(f'#include "propertymanager/generated/{kind}.h"' for kind in kinds),
         '#include "propertymanager/generated/UIKernelStylePropertiesAbstract.h"',
         '#include "toolbox/StringList.h"',
         "",
