@@ -13,8 +13,8 @@ namespace vantrix::kernel {
  *
  * Formats, told by the suffix: VTK XML (vti vtr vts vtp vtu vtm, and the parallel pvti pvtr pvts pvtp pvtu), legacy VTK
  * (vtk), CGNS (cgns), EnSight (case encas), Exodus (e exo ex2 exii), STL (stl), PLY (ply), and PLOT3D (bin xyz x g grd
- * p3d q), whose binary variants are told by trying; text is not read. A PLOT3D solution is named together with its
- * grid, in any order; a grid may stand alone. Several files of other formats give one data set with the zones of all.
+ * p3d q), whose variants, binary and text, are told by trying. A PLOT3D solution is named together with its grid, in
+ * any order; a grid may stand alone. Several files of other formats give one data set with the zones of all.
  *
  * Variables: "X", "Y", "Z", then what is known at the points, then what is known in the cells, of all zones together; a
  * zone that does not have one has no values for it. A vector `v` gives "v X", "v Y" and "v Z", a symmetric tensor

@@ -1,8 +1,11 @@
 #include "kernel/readers/FileFormats.h"
 
 #include "kernel/DataError.h"
+#include "kernel/readers/EnSightFileCheck.h"
 #include "kernel/readers/LegacyFileCheck.h"
+#include "kernel/readers/NetcdfFileCheck.h"
 #include "kernel/readers/Plot3dVariant.h"
+#include "kernel/readers/ReferencedFiles.h"
 #include "kernel/readers/SurfaceFileChecks.h"
 
 #include <vtkCGNSReader.h>
@@ -45,7 +48,7 @@ Reader makeCgnsReader(const std::string& file)
 {
     const auto reader = vtkSmartPointer<vtkCGNSReader>::New();
     if (!reader->CanReadFile(file.c_str())) {
-        throw DataError("it is not the CGNS database that its suffix promises");
+        throw DataError("it is not the CGNS database that its suffix promises, or it ends early");
     }
     reader->SetFileName(file.c_str());
     reader->UpdateInformation();
@@ -69,12 +72,24 @@ Reader makeStlReader(const std::string& file)
 
 Reader makePlyReader(const std::string& file)
 {
-    expectWholePly(file);
-    return makeReader<vtkPLYReader>(file);
+    const std::string content = expectWholePly(file);
+    const auto reader = vtkSmartPointer<vtkPLYReader>::New();
+    reader->SetFileName(file.c_str());
+    reader->ReadFromInputStringOn();
+    reader->SetInputString(content);
+    return reader;
+}
+
+template<class Type>
+Reader makeReaderOfParts(const std::string& file)
+{
+    expectReferencedFiles(file);
+    return makeReader<Type>(file);
 }
 
 Reader makeEnSightReader(const std::string& file)
 {
+    expectWholeEnSight(file);
     const auto reader = vtkSmartPointer<vtkGenericEnSightReader>::New();
     reader->SetCaseFileName(file.c_str());
     reader->ReadAllVariablesOn();
@@ -83,9 +98,10 @@ Reader makeEnSightReader(const std::string& file)
 
 Reader makeExodusReader(const std::string& file)
 {
+    expectWholeNetcdf(file);
     const auto reader = vtkSmartPointer<vtkExodusIIReader>::New();
     if (!reader->CanReadFile(file.c_str())) {
-        throw DataError("it is not the Exodus database that its suffix promises");
+        throw DataError("it is not the Exodus database that its suffix promises, or it ends early");
     }
     reader->SetFileName(file.c_str());
     reader->SetApplyDisplacements(0);
@@ -104,12 +120,12 @@ const FileFormat formats[] = {
     {"VTK XML structured grid", "vts", makeReader<vtkXMLStructuredGridReader>},
     {"VTK XML polygonal data", "vtp", makeReader<vtkXMLPolyDataReader>},
     {"VTK XML unstructured grid", "vtu", makeReader<vtkXMLUnstructuredGridReader>},
-    {"VTK XML multi-block", "vtm", makeReader<vtkXMLMultiBlockDataReader>},
-    {"parallel VTK XML image data", "pvti", makeReader<vtkXMLPImageDataReader>},
-    {"parallel VTK XML rectilinear grid", "pvtr", makeReader<vtkXMLPRectilinearGridReader>},
-    {"parallel VTK XML structured grid", "pvts", makeReader<vtkXMLPStructuredGridReader>},
-    {"parallel VTK XML polygonal data", "pvtp", makeReader<vtkXMLPPolyDataReader>},
-    {"parallel VTK XML unstructured grid", "pvtu", makeReader<vtkXMLPUnstructuredGridReader>},
+    {"VTK XML multi-block", "vtm", makeReaderOfParts<vtkXMLMultiBlockDataReader>},
+    {"parallel VTK XML image data", "pvti", makeReaderOfParts<vtkXMLPImageDataReader>},
+    {"parallel VTK XML rectilinear grid", "pvtr", makeReaderOfParts<vtkXMLPRectilinearGridReader>},
+    {"parallel VTK XML structured grid", "pvts", makeReaderOfParts<vtkXMLPStructuredGridReader>},
+    {"parallel VTK XML polygonal data", "pvtp", makeReaderOfParts<vtkXMLPPolyDataReader>},
+    {"parallel VTK XML unstructured grid", "pvtu", makeReaderOfParts<vtkXMLPUnstructuredGridReader>},
     {"legacy VTK", "vtk", makeLegacyReader},
     {"CGNS", "cgns", makeCgnsReader},
     {"EnSight case", "case encas", makeEnSightReader},
@@ -167,7 +183,7 @@ vtkSmartPointer<vtkAlgorithm> makePlot3dReader(const std::string& grid, const st
 {
     const std::optional<Plot3dVariant> variant = Plot3dVariant::ofGrid(grid);
     if (!variant) {
-        throw DataError("\"" + grid + "\" is not a whole binary grid in any variant");
+        throw DataError("\"" + grid + "\" is not a whole grid in any variant");
     }
     const auto reader = vtkSmartPointer<vtkMultiBlockPLOT3DReader>::New();
     reader->SetXYZFileName(grid.c_str());
@@ -178,7 +194,7 @@ vtkSmartPointer<vtkAlgorithm> makePlot3dReader(const std::string& grid, const st
         reader->SetQFileName(solution.c_str());
     }
     reader->AutoDetectFormatOff();
-    reader->BinaryFileOn();
+    reader->SetBinaryFile(!variant->isText);
     reader->SetMultiGrid(variant->isMultiGrid);
     reader->SetHasByteCount(variant->hasByteCounts);
     reader->SetIBlanking(variant->hasBlanking);

@@ -6,11 +6,13 @@
 namespace vantrix::kernel::readers {
 
 /*
- * What a binary PLOT3D file does not say of itself. It is found by trying: of all variants, the one whose size for the
- * dimensions in the file is the size of the file. (VTK's own detection reads beyond its memory for what is no grid.)
+ * What a PLOT3D file does not say of itself. It is found by trying: of all variants, the one whose size (in bytes, or
+ * in numbers of a text) for the dimensions in the file is the size of the file. (VTK's own detection reads beyond its
+ * memory for what is no grid, and does not know texts.) In a text, only the grid's layout counts.
  */
 struct Plot3dVariant
 {
+    bool isText = false;
     bool isBigEndian = true;
     bool hasByteCounts = false; /* Fortran records */
     bool isMultiGrid = false;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
 #include <cstdint>
 #include <cstring>
 #include <filesystem>
@@ -19,8 +20,8 @@ namespace {
 
 struct Property
 {
-    std::string countType; /* of a list; else empty */
-    std::string type;
+    std::size_t countSize = 0; /* bytes of the count of a list; 0 for a single value */
+    std::size_t size = 0;
 };
 
 struct Element
@@ -49,7 +50,7 @@ std::size_t plySize(const std::string& type)
     return found->second;
 }
 
-PlyHeader readHeader(std::ifstream& stream)
+PlyHeader readHeader(std::istream& stream)
 {
     PlyHeader header;
     std::string line;
@@ -67,12 +68,14 @@ PlyHeader readHeader(std::ifstream& stream)
             words >> element.name >> element.count;
         } else if (word == "property" && !header.elements.empty()) {
             Property& property = header.elements.back().properties.emplace_back();
-            words >> property.type;
-            if (property.type == "list") {
-                words >> property.countType >> property.type;
-                plySize(property.countType);
+            std::string type;
+            words >> type;
+            if (type == "list") {
+                words >> type;
+                property.countSize = plySize(type);
+                words >> type;
             }
-            plySize(property.type);
+            property.size = plySize(type);
         } else if (word == "end_header") {
             return header;
         }
@@ -86,26 +89,59 @@ PlyHeader readHeader(std::ifstream& stream)
                     " of its element \"" + element.name + "\"");
 }
 
-/* Passes over one value and returns it, where it is a whole number. */
+/* Passes over values; of a whole number it tells which it is. */
 class PlyBody
 {
 public:
-    PlyBody(std::ifstream& stream, const std::string& format)
-        : m_stream(stream)
+    PlyBody(const char* begin, const char* end, const std::string& format)
+        : m_position(begin)
+        , m_end(end)
         , m_isText(format == "ascii")
         , m_isSwapped((format == "binary_big_endian") != (std::endian::native == std::endian::big))
     {}
 
-    long take(const std::string& type)
+    long take(std::size_t size) { return m_isText ? takeWord() : takeBytes(size); }
+
+    void skip(std::size_t size, long count)
     {
-        if (m_isText) {
-            double value = 0.0;
-            m_stream >> value;
-            return static_cast<long>(value);
+        if (!m_isText) {
+            m_isGood = m_isGood && count <= (m_end - m_position) / static_cast<long>(size);
+            m_position += m_isGood ? count * static_cast<long>(size) : 0;
+            return;
         }
+        for (long i = 0; i < count && m_isGood; ++i) {
+            takeWord();
+        }
+    }
+
+    bool isGood() const { return m_isGood; }
+
+private:
+    static bool isBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+    long takeWord()
+    {
+        while (m_position != m_end && isBlank(*m_position)) {
+            ++m_position;
+        }
+        m_isGood = m_isGood && m_position != m_end;
+        long value = 0;
+        std::from_chars(m_position, m_end, value);
+        while (m_position != m_end && !isBlank(*m_position)) {
+            ++m_position;
+        }
+        return value;
+    }
+
+    long takeBytes(std::size_t size)
+    {
         std::array<char, 8> bytes{};
-        const std::size_t size = plySize(type);
-        m_stream.read(bytes.data(), static_cast<std::streamsize>(size));
+        m_isGood = m_isGood && m_end - m_position >= static_cast<std::ptrdiff_t>(size);
+        if (!m_isGood) {
+            return 0;
+        }
+        std::copy(m_position, m_position + size, bytes.begin());
+        m_position += size;
         if (m_isSwapped) {
             std::reverse(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
         }
@@ -114,12 +150,11 @@ public:
         return static_cast<long>(value);
     }
 
-    bool isGood() const { return !m_stream.fail(); }
-
-private:
-    std::ifstream& m_stream;
+    const char* m_position;
+    const char* m_end;
     bool m_isText;
     bool m_isSwapped;
+    bool m_isGood = true;
 };
 
 } // namespace
@@ -147,24 +182,26 @@ void expectWholeStl(const std::string& file)
     }
 }
 
-void expectWholePly(const std::string& file)
+std::string expectWholePly(const std::string& file)
 {
     std::ifstream stream(file, std::ios::binary);
+    std::string content(std::filesystem::file_size(file), '\0');
+    stream.read(content.data(), static_cast<std::streamsize>(content.size()));
+    stream.seekg(0);
     const PlyHeader header = readHeader(stream);
-    PlyBody body(stream, header.format);
+    PlyBody body(content.data() + stream.tellg(), content.data() + content.size(), header.format);
     for (const Element& element : header.elements) {
         for (long index = 0; index < element.count; ++index) {
             for (const Property& property : element.properties) {
-                const long count = property.countType.empty() ? 1 : body.take(property.countType);
-                for (long i = 0; i < count && body.isGood(); ++i) {
-                    body.take(property.type);
-                }
+                const long count = property.countSize == 0 ? 1 : body.take(property.countSize);
+                body.skip(property.size, count);
             }
             if (!body.isGood()) {
                 missing(element, index);
             }
         }
     }
+    return content;
 }
 
 } // namespace vantrix::kernel::readers

@@ -20,7 +20,9 @@
 #include <vtkXMLMultiBlockDataWriter.h>
 #include <vtkXMLPUnstructuredGridWriter.h>
 
+#include <array>
 #include <cstdint>
+#include <cstring>
 #include <fstream>
 
 namespace samplefiles {
@@ -83,6 +85,12 @@ void writeWith(const std::string& file, vtkDataObject* data, bool binary = false
         }
     }
     writer->Write();
+}
+
+template<typename Value>
+void put(std::ofstream& file, Value value)
+{
+    file.write(reinterpret_cast<const char*>(&value), sizeof value);
 }
 
 vtkSmartPointer<vtkPolyData> triangles()
@@ -221,27 +229,158 @@ std::vector<std::string> writeEnSight(const std::string& folder)
     return files;
 }
 
-void writePlot3d(const std::string& gridFile, const std::string& solutionFile)
+std::vector<std::string> writeEnSight6(const std::string& folder)
 {
-    const auto grid = structured();
-    const auto put = [](std::ofstream& file, auto value) { file.write(reinterpret_cast<char*>(&value), sizeof value); };
-    std::ofstream xyz(gridFile, std::ios::binary), q(solutionFile, std::ios::binary);
-    for (const std::int32_t dimension : {4, 3, 2}) {
-        put(xyz, dimension);
-        put(q, dimension);
+    const std::vector<std::string> files{folder + "/six.case", folder + "/six.geo", folder + "/six.temperature",
+                                         folder + "/six.load"};
+    std::ofstream(files[0]) << "FORMAT\ntype: ensight\n\nGEOMETRY\nmodel: six.geo\n\nVARIABLE\n"
+                               "scalar per node: Temperature six.temperature\nscalar per element: Load six.load\n";
+    std::ofstream(files[1]) << "Geometry of a test\ntwo triangles and a block\nnode id given\nelement id off\n"
+                               "coordinates\n       4\n"
+                               "       1 0.00000e+00 0.00000e+00 0.00000e+00\n"
+                               "       2 1.00000e+00 0.00000e+00 0.00000e+00\n"
+                               "       3 1.00000e+00 1.00000e+00 0.00000e+00\n"
+                               "       4 0.00000e+00 1.00000e+00 0.00000e+00\n"
+                               "part 1\nSquare\ntria3\n       2\n       1       2       3\n       1       3       4\n"
+                               "part 2\nBlock\nblock\n       2       2       1\n"
+                               " 0.00000e+00 1.00000e+00 0.00000e+00 1.00000e+00\n"
+                               " 2.00000e+00 2.00000e+00 3.00000e+00 3.00000e+00\n"
+                               " 0.00000e+00 0.00000e+00 0.00000e+00 0.00000e+00\n";
+    std::ofstream(files[2]) << "Temperature of a test\n 1.00000e+01 2.00000e+01 3.00000e+01 4.00000e+01\n"
+                               "part 2\nblock\n 5.00000e+01 6.00000e+01 7.00000e+01 8.00000e+01\n";
+    std::ofstream(files[3]) << "Load of a test\npart 1\ntria3\n 1.00000e+00 2.00000e+00\n";
+    return files;
+}
+
+std::vector<std::string> writeBinaryEnSight(const std::string& folder)
+{
+    const auto grid = bricks();
+    const std::vector<std::string> files{folder + "/binary.case", folder + "/binary.geo", folder + "/binary.pressure"};
+    std::ofstream(files[0]) << "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: binary.geo\n\nVARIABLE\n"
+                               "scalar per node: Pressure binary.pressure\n";
+    const auto text = [](std::ofstream& file, std::string line) {
+        line.resize(80, ' ');
+        file << line;
+    };
+    std::ofstream geometry(files[1], std::ios::binary), pressure(files[2], std::ios::binary);
+    for (const char* line :
+         {"C Binary", "Geometry of a test", "bricks", "node id assign", "element id assign", "part"}) {
+        text(geometry, line);
     }
-    for (const float condition : {0.5f, 0.0f, 1000.0f, 0.0f}) {
-        put(q, condition);
-    }
+    put(geometry, std::int32_t{1});
+    text(geometry, "Bricks");
+    text(geometry, "coordinates");
+    put(geometry, static_cast<std::int32_t>(grid->GetNumberOfPoints()));
+    text(pressure, "Pressure of a test");
+    text(pressure, "part");
+    put(pressure, std::int32_t{1});
+    text(pressure, "coordinates");
     for (int axis = 0; axis < 3; ++axis) {
-        for (vtkIdType i = 0; i < 24; ++i) {
-            put(xyz, static_cast<float>(grid->GetPoint(i)[axis]));
+        for (vtkIdType i = 0; i < grid->GetNumberOfPoints(); ++i) {
+            put(geometry, static_cast<float>(grid->GetPoint(i)[axis]));
         }
     }
-    for (int component = 0; component < 5; ++component) {
-        for (int i = 0; i < 24; ++i) {
-            put(q, static_cast<float>(1 + component + 0.125 * i));
+    for (vtkIdType i = 0; i < grid->GetNumberOfPoints(); ++i) {
+        put(pressure, static_cast<float>(grid->GetPointData()->GetArray("Pressure")->GetComponent(i, 0)));
+    }
+    text(geometry, "hexa8");
+    put(geometry, static_cast<std::int32_t>(grid->GetNumberOfCells()));
+    for (vtkIdType cell = 0; cell < grid->GetNumberOfCells(); ++cell) {
+        for (vtkIdType corner = 0; corner < 8; ++corner) {
+            put(geometry, static_cast<std::int32_t>(grid->GetCell(cell)->GetPointId(static_cast<int>(corner)) + 1));
         }
+    }
+    return files;
+}
+
+namespace {
+
+/* Writes the numbers of a PLOT3D file, record by record. */
+class Plot3dFile
+{
+public:
+    Plot3dFile(const std::string& file, const Plot3dLayout& layout)
+        : m_stream(file, std::ios::binary)
+        , m_layout(layout)
+    {}
+
+    void integer(std::int32_t value) { add(value); }
+    void real(double value) { m_layout.isDoublePrecision ? add(value) : add(static_cast<float>(value)); }
+
+    void endRecord()
+    {
+        const std::string record = std::move(m_record);
+        m_record.clear();
+        if (m_layout.hasByteCounts) {
+            add(static_cast<std::int32_t>(record.size()));
+        }
+        const std::string mark = std::move(m_record);
+        m_record.clear();
+        m_stream << mark << record << mark;
+    }
+
+private:
+    template<typename Value>
+    void add(Value value)
+    {
+        if (m_layout.isText) {
+            m_record += std::to_string(value) + "\n";
+            return;
+        }
+        std::string bytes(sizeof value, '\0');
+        std::memcpy(bytes.data(), &value, sizeof value);
+        m_record += m_layout.isBigEndian ? std::string(bytes.rbegin(), bytes.rend()) : bytes;
+    }
+
+    std::ofstream m_stream;
+    Plot3dLayout m_layout;
+    std::string m_record;
+};
+
+} // namespace
+
+void writePlot3d(const std::string& gridFile, const std::string& solutionFile, const Plot3dLayout& layout)
+{
+    Plot3dFile xyz(gridFile, layout), q(solutionFile, layout);
+    std::vector<std::array<int, 3>> blocks{{4, 3, 2}};
+    if (layout.isMultiGrid) {
+        blocks.push_back({2, 2, 2});
+    }
+    const int axes = layout.isTwoDimensional ? 2 : 3;
+    for (Plot3dFile* file : {&xyz, &q}) {
+        if (layout.isMultiGrid) {
+            file->integer(static_cast<std::int32_t>(blocks.size()));
+            file->endRecord();
+        }
+        for (const auto& size : blocks) {
+            for (int axis = 0; axis < axes; ++axis) {
+                file->integer(size[static_cast<std::size_t>(axis)]);
+            }
+        }
+        file->endRecord();
+    }
+    for (const auto& [iMax, jMax, kMax] : blocks) {
+        const int points = iMax * jMax * (layout.isTwoDimensional ? 1 : kMax);
+        for (int axis = 0; axis < axes; ++axis) {
+            for (int n = 0; n < points; ++n) {
+                const std::array<double, 3> place{1.0 * (n % iMax), 0.5 * (n / iMax % jMax), 2.0 * (n / iMax / jMax)};
+                xyz.real(place[static_cast<std::size_t>(axis)]);
+            }
+        }
+        for (int n = 0; n < points && layout.hasBlanking; ++n) {
+            xyz.integer(n > 0);
+        }
+        xyz.endRecord();
+        for (const double condition : {0.5, 0.0, 1000.0, 0.0}) {
+            q.real(condition);
+        }
+        q.endRecord();
+        for (int component = 0; component < axes + 2; ++component) {
+            for (int n = 0; n < points; ++n) {
+                q.real(1 + component + 0.125 * n);
+            }
+        }
+        q.endRecord();
     }
 }
 

@@ -39,7 +39,25 @@ const std::vector<Format>& formats();
 /* A case file, its geometry of two triangles and "Temperature" = 10, 20, 30, 40 at the four points; the paths. */
 std::vector<std::string> writeEnSight(const std::string& folder);
 
-/* A PLOT3D grid and solution of one block, binary, single precision, without byte counts. */
-void writePlot3d(const std::string& grid, const std::string& solution);
+/* The same two triangles as EnSight 6, with a block of 2 x 2 x 1 points behind them and "Load" = 1, 2 in the triangles.
+ */
+std::vector<std::string> writeEnSight6(const std::string& folder);
+
+/* bricks() in the binary variant of EnSight Gold, "Pressure" at the points; the paths of case, geometry, variable. */
+std::vector<std::string> writeBinaryEnSight(const std::string& folder);
+
+struct Plot3dLayout
+{
+    bool isText = false;
+    bool isMultiGrid = false; /* 4 x 3 x 2 and 2 x 2 x 2 points in place of the first alone */
+    bool isTwoDimensional = false;
+    bool hasByteCounts = false;
+    bool isDoublePrecision = false;
+    bool isBigEndian = false;
+    bool hasBlanking = false; /* the first point of each block is blanked */
+};
+
+/* A PLOT3D grid with coordinates (i, j / 2, 2k) and a solution: component c of point n is 1 + c + n / 8. */
+void writePlot3d(const std::string& grid, const std::string& solution, const Plot3dLayout& layout = {});
 
 } // namespace samplefiles
