@@ -113,7 +113,6 @@ private:
             }
             text = end;
         }
-        /* The last line of a file without an end may be a part of a number. */
         if (m_stream.eof() && static_cast<long>(line.size()) < count * integerWidth) {
             endsEarly();
         }
@@ -121,11 +120,17 @@ private:
 
     void passLines(long count, long perLine, long width)
     {
+        std::size_t lengthBefore = 0;
         for (long left = count; left > 0; left -= perLine) {
             const std::string line = dataLine();
-            if (m_stream.eof() && static_cast<long>(line.size()) < std::min(left, perLine) * width) {
+            const long numbers = std::min(left, perLine);
+            /* The last line of a file without an end may end within a number. */
+            const bool isShort =
+                static_cast<long>(line.size()) < numbers * width || (left >= perLine && line.size() < lengthBefore);
+            if (m_stream.eof() && isShort) {
                 endsEarly();
             }
+            lengthBefore = line.size();
         }
     }
 
@@ -259,7 +264,9 @@ private:
 std::unique_ptr<EnSightStream> EnSightStream::open(const std::string& file)
 {
     std::array<char, 84> begin{};
-    std::ifstream(file, std::ios::binary).read(begin.data(), begin.size());
+    std::ifstream stream(file, std::ios::binary);
+    stream.read(begin.data(), begin.size());
+    const auto end = begin.begin() + static_cast<std::ptrdiff_t>(stream.gcount());
     const auto tells = [&](std::size_t at, const char* kind) {
         return std::equal(
             kind, kind + std::strlen(kind), begin.begin() + static_cast<std::ptrdiff_t>(at),
@@ -269,8 +276,8 @@ std::unique_ptr<EnSightStream> EnSightStream::open(const std::string& file)
         return std::make_unique<BinaryStream>(file, !tells(0, "c binary"));
     }
     /* Files of variables do not tell what they are; texts in them are filled up with zeros or blanks. */
-    const bool isBinary = std::any_of(begin.begin(), begin.end(), [](char c) { return c == '\0'; }) ||
-                          std::none_of(begin.begin(), begin.end(), [](char c) { return c == '\n'; });
+    const bool isBinary = std::any_of(begin.begin(), end, [](char c) { return c == '\0'; }) ||
+                          std::none_of(begin.begin(), end, [](char c) { return c == '\n'; });
     if (!isBinary) {
         return std::make_unique<TextStream>(file);
     }
