@@ -8,8 +8,11 @@
 #include "ui/RelevanceApplier.h"
 #include "ui/WidgetPropertyBinding.h"
 
+#include <QPointer>
+
 #include <boost/ptr_container/ptr_vector.hpp>
 
+#include <map>
 #include <memory>
 #include <type_traits>
 #include <vector>
@@ -26,15 +29,24 @@ public:
     using Shared = boost::shared_ptr<PropertyAbstract<T>>;
     using Relevance = boost::shared_ptr<propertymanager::RelevanceInterface const>;
 
+    /// The first control that was bound to a property; null where none was.
+    QWidget* controlOf(PropertyItemInterface const& property) const
+    {
+        auto const found = m_controls.find(&property);
+        return found != m_controls.end() ? found->second.data() : nullptr;
+    }
+
     template<typename T>
     void bindField(QLineEdit* field, Shared<T> const& property)
     {
+        remember(field, *property);
         using Binding = propertybindings::TextFieldPropertyBinding<T>;
         m_bindings.push_back(new Binding(field, property, BindingInterface::OnIdle, Binding::CursorAtEnd));
     }
 
     void bindCheck(QAbstractButton* button, Shared<bool> const& property)
     {
+        remember(button, *property);
         using Binding = propertybindings::CheckButtonPropertyBinding;
         m_bindings.push_back(new Binding(button, property, BindingInterface::OnIdle));
     }
@@ -43,12 +55,14 @@ public:
     template<typename T>
     void bindChoice(QAbstractButton* button, Shared<T> const& property, std::type_identity_t<T> value)
     {
+        remember(button, *property);
         m_bindings.push_back(new propertybindings::RadioButtonPropertyBinding<T>(button, property, value));
     }
 
     template<typename T, typename Model>
     void bindList(QComboBox* box, Shared<T> const& property, boost::shared_ptr<Model> const& model)
     {
+        remember(box, *property);
         using Binding = propertybindings::ComboBoxPropertyBinding<T>;
         m_bindings.push_back(new Binding(*box, property, model, BindingInterface::UpdateAlways));
     }
@@ -76,7 +90,10 @@ public:
 private:
     using BindingInterface = propertybindings::BindingInterface;
 
+    void remember(QWidget* control, PropertyItemInterface const& property) { m_controls.emplace(&property, control); }
+
     boost::ptr_vector<BindingInterface> m_bindings;
+    std::map<PropertyItemInterface const*, QPointer<QWidget>> m_controls;
     std::vector<std::unique_ptr<propertybindings::RelevanceApplier>> m_appliers;
 };
 

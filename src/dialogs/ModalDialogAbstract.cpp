@@ -1,8 +1,35 @@
 #include "dialogs/ModalDialogAbstract.h"
 
+#include "api/VtxUtil.h"
+#include "dialogs/FormBindings.h"
+#include "propertymanager/generated/MemberRefusedException.h"
 #include "ui/ButtonBinding.h"
 
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+
 namespace vantrix::sdk::ui::dialogs {
+
+namespace {
+
+/// What stands beside a control, without its access key and colon.
+QString labelOf(QWidget const& control)
+{
+    QString text;
+    if (auto const* const button = qobject_cast<QAbstractButton const*>(&control)) {
+        text = button->text();
+    }
+    for (QLabel const* const label : control.window()->findChildren<QLabel*>()) {
+        if (label->buddy() == &control) {
+            text = label->text();
+        }
+    }
+    return text.remove(QLatin1Char('&')).simplified().remove(QRegularExpression(QStringLiteral(":$")));
+}
+
+} // namespace
 
 ModalDialogAbstract::ModalDialogAbstract(QWidget& parent, Relevance relevance)
     : QtDialogAbstract(parent, std::move(relevance))
@@ -27,8 +54,27 @@ void ModalDialogAbstract::launch()
 
 void ModalDialogAbstract::accept()
 {
-    if (submit()) {
-        QtDialogAbstract::accept();
+    try {
+        if (submit()) {
+            QtDialogAbstract::accept();
+        }
+    } catch (propertymanager::MemberRefusedException const& refusal) {
+        tellRefusal(refusal);
+    }
+}
+
+void ModalDialogAbstract::tellRefusal(propertymanager::MemberRefusedException const& refusal)
+{
+    QWidget* const control = m_bindings ? m_bindings->controlOf(refusal.member()) : nullptr;
+    QString const label = control ? labelOf(*control) : QString();
+    std::string const message =
+        label.isEmpty() ? refusal.message() : '"' + label.toStdString() + "\": " + refusal.message();
+    VtxUtilDialogMessageBox(message.c_str(), MessageBox_Error);
+    if (control) {
+        control->setFocus(Qt::OtherFocusReason);
+        if (auto* const field = qobject_cast<QLineEdit*>(control)) {
+            field->selectAll();
+        }
     }
 }
 

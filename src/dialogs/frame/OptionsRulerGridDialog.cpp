@@ -17,9 +17,7 @@ public:
 
     OptionsRulerGridPropertiesManager manager;
     Ui::OptionsRulerGrid form;
-
-private:
-    FormBindings m_bindings;
+    FormBindings bindings;
 };
 
 OptionsRulerGridDialog::Impl::Impl(OptionsRulerGridDialog& dialog)
@@ -27,14 +25,14 @@ OptionsRulerGridDialog::Impl::Impl(OptionsRulerGridDialog& dialog)
     form.setupUi(&dialog);
     auto& set = manager.properties();
 
-    m_bindings.bindCheck(form.rulerGrid_ShowRuler_ToggleButton, set.showRuler());
-    m_bindings.bindList(form.rulerGrid_RulerSpacing_ComboBox, set.rulerSpacing(), manager.rulerSpacingModel());
-    m_bindings.bindCheck(form.rulerGrid_ShowGrid_ToggleButton, set.showGrid());
-    m_bindings.bindList(form.rulerGrid_GridSpacing_ComboBox, set.gridSpacing(), manager.gridSpacingModel());
-    m_bindings.bindCheck(form.rulerGrid_ShowPaper_ToggleButton, set.showPaper());
+    bindings.bindCheck(form.rulerGrid_ShowRuler_ToggleButton, set.showRuler());
+    bindings.bindList(form.rulerGrid_RulerSpacing_ComboBox, set.rulerSpacing(), manager.rulerSpacingModel());
+    bindings.bindCheck(form.rulerGrid_ShowGrid_ToggleButton, set.showGrid());
+    bindings.bindList(form.rulerGrid_GridSpacing_ComboBox, set.gridSpacing(), manager.gridSpacingModel());
+    bindings.bindCheck(form.rulerGrid_ShowPaper_ToggleButton, set.showPaper());
 
-    m_bindings.apply(manager.showGridRelevance(),
-                     {form.rulerGrid_GridSpacing_Label, form.rulerGrid_GridSpacing_ComboBox});
+    bindings.apply(manager.showGridRelevance(),
+                   {form.rulerGrid_GridSpacing_Label, form.rulerGrid_GridSpacing_ComboBox});
 }
 
 OptionsRulerGridDialog& OptionsRulerGridDialog::getInstance(QWidget& parent)
@@ -52,6 +50,7 @@ OptionsRulerGridDialog::OptionsRulerGridDialog(QWidget& parent)
     , m_impl(std::make_unique<Impl>(*this))
 {
     setOkButton(m_impl->form.buttonBox->button(QDialogButtonBox::Ok));
+    setBindings(m_impl->bindings);
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("options_ruler_grid.html"), this));
 }
 

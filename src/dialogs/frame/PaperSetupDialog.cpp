@@ -17,6 +17,7 @@ public:
     explicit PaperSetupDialogImpl(PaperSetupDialog& dialog);
 
     PaperSetupPropertiesManager& manager() { return m_manager; }
+    FormBindings const& bindings() const { return m_bindings; }
     QPushButton* okButton() const { return m_form.buttonBox->button(QDialogButtonBox::Ok); }
 
 private:
@@ -113,6 +114,7 @@ PaperSetupDialog::PaperSetupDialog(QWidget& parent)
     , m_impl(std::make_unique<PaperSetupDialogImpl>(*this))
 {
     setOkButton(m_impl->okButton());
+    setBindings(m_impl->bindings());
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("paper_setup.html"), this));
 }
 

@@ -17,6 +17,7 @@ public:
     explicit PerformanceDialogImpl(PerformanceDialog& dialog);
 
     PerformancePropertiesManager& manager() { return m_manager; }
+    FormBindings const& bindings() const { return m_bindings; }
     QPushButton* okButton() const { return m_form.buttonBox->button(QDialogButtonBox::Ok); }
 
 private:
@@ -118,6 +119,7 @@ PerformanceDialog::PerformanceDialog(QWidget& parent)
     , m_impl(std::make_unique<PerformanceDialogImpl>(*this))
 {
     setOkButton(m_impl->okButton());
+    setBindings(m_impl->bindings());
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("performance.html"), this));
 }
 

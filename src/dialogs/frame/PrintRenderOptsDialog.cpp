@@ -17,9 +17,7 @@ public:
 
     PrintRenderOptsPropertiesManager manager;
     Ui::PrintRenderOpts form;
-
-private:
-    FormBindings m_bindings;
+    FormBindings bindings;
 };
 
 PrintRenderOptsDialog::Impl::Impl(PrintRenderOptsDialog& dialog)
@@ -27,14 +25,14 @@ PrintRenderOptsDialog::Impl::Impl(PrintRenderOptsDialog& dialog)
     form.setupUi(&dialog);
     auto& set = manager.properties();
 
-    m_bindings.bindChoice(form.printRender_Vector_RadioButton, set.getRenderType(), PrintRenderType_Vector);
-    m_bindings.bindChoice(form.printRender_Image_RadioButton, set.getRenderType(), PrintRenderType_Image);
-    m_bindings.bindField(form.printRender_Resolution_1Text, set.getImageResolution());
-    m_bindings.bindChoice(form.printRender_Color_RadioButton, set.getColor(), Palette_Color);
-    m_bindings.bindChoice(form.printRender_Monochrome_RadioButton, set.getColor(), Palette_Monochrome);
-    m_bindings.bindCheck(form.printRender_Force3DSorting_ToggleButton, set.getForceExtra3DSorting());
+    bindings.bindChoice(form.printRender_Vector_RadioButton, set.getRenderType(), PrintRenderType_Vector);
+    bindings.bindChoice(form.printRender_Image_RadioButton, set.getRenderType(), PrintRenderType_Image);
+    bindings.bindField(form.printRender_Resolution_1Text, set.getImageResolution());
+    bindings.bindChoice(form.printRender_Color_RadioButton, set.getColor(), Palette_Color);
+    bindings.bindChoice(form.printRender_Monochrome_RadioButton, set.getColor(), Palette_Monochrome);
+    bindings.bindCheck(form.printRender_Force3DSorting_ToggleButton, set.getForceExtra3DSorting());
 
-    m_bindings.apply(manager.vectorRelevance(), {form.printRender_Force3DSorting_ToggleButton});
+    bindings.apply(manager.vectorRelevance(), {form.printRender_Force3DSorting_ToggleButton});
 }
 
 PrintRenderOptsDialog& PrintRenderOptsDialog::getInstance(QWidget& parent)
@@ -47,6 +45,7 @@ PrintRenderOptsDialog::PrintRenderOptsDialog(QWidget& parent)
     , m_impl(std::make_unique<Impl>(*this))
 {
     setOkButton(m_impl->form.buttonBox->button(QDialogButtonBox::Ok));
+    setBindings(m_impl->bindings);
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("print_render_options.html"), this));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "propertymanager/generated/MemberRefusedException.h"
 #include "styleproperties/KernelProperty.h"
 #include "styleproperties/KernelPropertyDeferred.h"
 
@@ -31,10 +32,11 @@ public:
     void setOffsets(int first, int second) { m_kernel->setOffsets(first, second); }
 
     /// Writes a deferred value to the host when it differs there; nothing for an immediate one.
+    /// @throws MemberRefusedException
     void submit()
     {
         if (auto* deferred = dynamic_cast<styleproperties::KernelPropertyDeferred<T>*>(m_kernel.get())) {
-            deferred->apply();
+            applyMember(*deferred, m_exposed);
         }
     }
 

@@ -25,9 +25,8 @@ public:
     virtual bool isModal() const = 0;
 
     /// Writes all edits of a modal set to the host as one step, then sends `submitted`, nested sets included.
-    /// @throws vantrix::InvalidPropertyValueException when the host refuses a value; the host is then as it was before
-    /// and
-    ///         the edits are still there
+    /// @throws MemberRefusedException when the host refuses a value; the host is then as it was before and the edits
+    ///         are still there
     virtual void submit() = 0;
 
     /// Aims the set at one object of a collection (an axis number, a constraint number), counted from 1.
@@ -40,8 +39,8 @@ public:
     /// whose edits are with the host already. A refusal leaves the members before it written; see submit().
     virtual void submitProperties() = 0;
 
-    /// Aims every member at another object, nested sets included except those that are collections of their own. Members
-    /// signal when the new object's value differs.
+    /// Aims every member at another object, nested sets included except those that are collections of their own.
+    /// Members signal when the new object's value differs.
     virtual void setOffset(int first, int second) = 0;
 
     /// Told to a nested set after the set that it is nested in was submitted.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "propertymanager/UIKernelStyleProperty.h"
+#include "propertymanager/generated/MemberRefusedException.h"
 
 #include <boost/make_shared.hpp>
 #include <boost/shared_ptr.hpp>
@@ -25,10 +26,11 @@ public:
     void setOffsets(int first, int second) { m_style->setOffsets(first, second); }
 
     /// Writes a deferred value to the host when it differs there; nothing for an immediate one.
+    /// @throws MemberRefusedException
     void submit()
     {
         if (m_modal) {
-            m_style->apply();
+            applyMember(*m_style, m_exposed);
         }
     }
 

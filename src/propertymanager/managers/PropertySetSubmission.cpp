@@ -1,7 +1,6 @@
 #include "propertymanager/managers/PropertySetSubmission.h"
 
 #include "api/VtxUtil.h"
-#include "property/InvalidPropertyValueException.h"
 #include "propertymanager/generated/UIKernelStylePropertiesInterface.h"
 #include "sdk/AppLock.h"
 
@@ -9,20 +8,10 @@ namespace vantrix::sdk::ui::propertymanager {
 
 bool submitAsStep(UIKernelStylePropertiesInterface& set, char const* stepName)
 {
-    std::string refusal;
-    {
-        AppLock const lock;
-        VtxUtilUndoSetStepName(stepName);
-        try {
-            set.submit();
-            return true;
-        } catch (InvalidPropertyValueException const& exception) {
-            refusal = exception.message();
-        }
-    }
-    // The user reads the message after the host has taken everything back and the lock is off.
-    VtxUtilDialogMessageBox(refusal.c_str(), MessageBox_Error);
-    return false;
+    AppLock const lock;
+    VtxUtilUndoSetStepName(stepName);
+    set.submit();
+    return true;
 }
 
 } // namespace vantrix::sdk::ui::propertymanager

@@ -4,8 +4,10 @@
 
 using namespace vantrix::sdk::ui::dialogs;
 using namespace vantrix::test;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::StartsWith;
 
 namespace {
 
@@ -128,13 +130,16 @@ TEST_F(PerformanceDialogTest, AValueThatTheHostRefusesIsNamedAndNothingIsApplied
 {
     auto const& dialog = launch<PerformanceDialog>();
     click(dialog, "performance_AutoRedraw_ToggleButton");
-    click(dialog, "performance_ApproximatePlots_ToggleButton");
+    click(dialog, "performance_StatusLine_ToggleButton");
     typeInto(find<QLineEdit>(dialog, "performance_PercentOfPoints_1Text"), "400");
     click(dialog, QDialogButtonBox::Ok);
-    EXPECT_THAT(frontEnd.messages, ElementsAre(HasSubstr("PercentageOfPointsToKeep")));
+    EXPECT_THAT(frontEnd.messages, ElementsAre(AllOf(StartsWith("\"Approximate plot as % of full plot\": "),
+                                                     HasSubstr("PercentageOfPointsToKeep"))));
     EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &find<QLineEdit>(dialog, "performance_PercentOfPoints_1Text"));
+    EXPECT_EQ(find<QLineEdit>(dialog, "performance_PercentOfPoints_1Text").selectedText(), QStringLiteral("400"));
     EXPECT_TRUE(flag("AutoRedrawIsActive"));
-    EXPECT_FALSE(flag("UseApproximatePlots"));
+    EXPECT_TRUE(flag("ShowStatusLine"));
     EXPECT_EQ(textOf(find<QLineEdit>(dialog, "performance_PercentOfPoints_1Text")), "400");
 
     typeInto(find<QLineEdit>(dialog, "performance_PercentOfPoints_1Text"), "40");
@@ -144,6 +149,6 @@ TEST_F(PerformanceDialogTest, AValueThatTheHostRefusesIsNamedAndNothingIsApplied
     EXPECT_FALSE(flag("AutoRedrawIsActive"));
     EXPECT_TRUE(VtxUtilUndo()) << "all of it is one step";
     EXPECT_TRUE(flag("AutoRedrawIsActive"));
-    EXPECT_FALSE(flag("UseApproximatePlots"));
+    EXPECT_TRUE(flag("ShowStatusLine"));
     EXPECT_EQ(styleOf<double>({"Interface", "PercentageOfPointsToKeep"}), 25.0);
 }
