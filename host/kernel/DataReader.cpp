@@ -1,6 +1,8 @@
 #include "kernel/DataReader.h"
 
 #include "kernel/DataError.h"
+#include "kernel/VariableFiles.h"
+#include "kernel/readers/ArraySelection.h"
 #include "kernel/readers/BlockImport.h"
 #include "kernel/readers/CNumbers.h"
 #include "kernel/readers/FileFormats.h"
@@ -57,8 +59,9 @@ void expectReadable(const std::string& file)
 class Run
 {
 public:
-    Run(const DataReader::Progress& progress, std::size_t readerCount)
+    Run(const DataReader::Progress& progress, std::size_t readerCount, const std::string& onlyVariable)
         : m_progress(progress)
+        , m_onlyVariable(onlyVariable)
         , m_share(1.0 / static_cast<double>(readerCount))
     {
         report(0.0);
@@ -75,6 +78,9 @@ public:
                 algorithm->AbortExecuteOn();
             }
         });
+        if (!m_onlyVariable.empty()) {
+            selectArraysOf(reader, m_onlyVariable);
+        }
         const unsigned long tag = reader.AddObserver(vtkCommand::ProgressEvent, observer);
         reader.Update();
         reader.RemoveObserver(tag);
@@ -102,6 +108,7 @@ private:
     }
 
     const DataReader::Progress& m_progress;
+    const std::string& m_onlyVariable; /* empty for all */
     VtkMessages m_messages;
     double m_share;
     double m_done = 0.0;
@@ -174,9 +181,9 @@ void readPlot3d(const std::vector<std::string>& files, Run& run, BlockImport& bl
                     " cannot be read as PLOT3D: " + cause + ". Choose a grid, or a grid and a solution on it.");
 }
 
-} // namespace
-
-void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, const Progress& progress)
+/* `onlyVariable` is empty for all. */
+void readFiles(const std::vector<std::string>& files, const std::string& onlyVariable, DataSet& dataSet,
+               const DataReader::Progress& progress)
 {
     if (files.empty()) {
         throw DataError("No file is named. Choose at least one.");
@@ -193,7 +200,7 @@ void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, c
         }
     }
     const CNumbers numbers;
-    Run run(progress, files.size() - plot3dFiles.size() + (plot3dFiles.empty() ? 0 : 1));
+    Run run(progress, files.size() - plot3dFiles.size() + (plot3dFiles.empty() ? 0 : 1), onlyVariable);
     BlockImport blocks;
     try {
         for (const std::string& file : files) {
@@ -208,7 +215,20 @@ void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, c
     } catch (const std::bad_alloc&) {
         throw DataError("There is not enough memory to read " + quoted(files.front()) + ".");
     }
+}
+
+} // namespace
+
+void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, const Progress& progress)
+{
+    readFiles(files, {}, dataSet, progress);
+    VariableFiles::attach(dataSet, files);
     dataSet.title = std::filesystem::path(files.front()).filename().string();
+}
+
+void DataReader::readVariable(const std::vector<std::string>& files, const std::string& variable, DataSet& dataSet)
+{
+    readFiles(files, variable, dataSet, [](double) { return true; });
 }
 
 } // namespace vantrix::kernel

@@ -22,6 +22,8 @@ namespace vantrix::kernel {
  * that have names of their own keep them. Where a zone has the same name at its points and in its cells, the latter
  * gets " (cell)" behind it, in all zones. Integers that no type of ours holds become wider ones or double precision.
  *
+ * What was read can leave the memory and come back from the files (FieldArray::unload(), VariableFiles).
+ *
  * Zones: one for each block that has points, named after the block, or the file where there is but one. Tetrahedra,
  * pyramids, wedges and bricks in one block are bricks with corners that fall together, triangles and quadrilaterals
  * likewise; points, curves, surfaces, volumes and polyhedra of one block become a zone each. Cells of higher order
@@ -39,6 +41,12 @@ public:
      * asked to stop. What `dataSet` holds then is to be thrown away. Prints nothing.
      */
     static void read(const std::vector<std::string>& files, DataSet& dataSet, const Progress& progress);
+
+    /*
+     * Reads the same files again for the sake of one variable: `dataSet` gets the zones that it had, with the
+     * coordinates, that variable and such as cannot be left out.
+     */
+    static void readVariable(const std::vector<std::string>& files, const std::string& variable, DataSet& dataSet);
 };
 
 } // namespace vantrix::kernel

@@ -125,6 +125,15 @@ public:
 
     std::size_t memory() const override { return memoryAlone(m_before.get(), m_after.get()); }
 
+    void forEachDataSet(const std::function<void(const DataSet&)>& visit) const override
+    {
+        for (const DataSetPointer& dataSet : {m_before, m_after}) {
+            if (dataSet) {
+                visit(*dataSet);
+            }
+        }
+    }
+
 private:
     void show(const DataSetPointer& dataSet)
     {

@@ -8,6 +8,7 @@
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 #include "kernel/UndoStack.h"
+#include "kernel/VariableMemory.h"
 
 namespace vantrix::kernel {
 
@@ -48,6 +49,7 @@ Kernel::Kernel()
     , m_document(std::make_unique<Document>(*m_undo, *m_stateChanges, *m_style))
     , m_mouseModes(std::make_unique<MouseModes>(*m_document, *m_style, *m_stateChanges))
     , m_probes(std::make_unique<ProbeService>(*this))
+    , m_variableMemory(std::make_unique<VariableMemory>(*m_document, *m_style, *m_stateChanges, *m_undo))
     , m_noFrontEnd(std::make_unique<SilentFrontEnd>())
 {
     m_style->setDocument(*m_document);

@@ -13,6 +13,7 @@ class ProbeService;
 class StateChanges;
 class StyleStore;
 class UndoStack;
+class VariableMemory;
 
 /*
  * The running plot: owns everything that the function interface reaches. The interface has no handle for it, so there
@@ -41,6 +42,7 @@ public:
     StateChanges& stateChanges() const { return *m_stateChanges; }
     StyleStore& style() const { return *m_style; }
     UndoStack& undoStack() const { return *m_undo; }
+    VariableMemory& variableMemory() const { return *m_variableMemory; }
 
     /* The text of the last failure; see VtxUtilGetLastErrorString(). */
     const std::string& lastError() const { return m_lastError; }
@@ -62,6 +64,7 @@ private:
     std::unique_ptr<Document> m_document;
     std::unique_ptr<MouseModes> m_mouseModes;
     std::unique_ptr<ProbeService> m_probes;
+    std::unique_ptr<VariableMemory> m_variableMemory;
     std::unique_ptr<FrontEnd> m_noFrontEnd;
     FrontEnd* m_frontEnd = nullptr;
     std::string m_lastError;

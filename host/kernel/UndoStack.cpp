@@ -1,5 +1,7 @@
 #include "kernel/UndoStack.h"
 
+#include <algorithm>
+
 #include "kernel/StateChanges.h"
 
 #include <ranges>
@@ -140,6 +142,20 @@ bool UndoStack::replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo
     ++m_revision;
     m_changes.send(StateChange_HistoryStep);
     return true;
+}
+
+void UndoStack::forEachDataSet(const std::function<void(const DataSet&)>& visit) const
+{
+    const auto visitStep = [&](const Step& step) {
+        for (const auto& change : step.changes) {
+            change->forEachDataSet(visit);
+        }
+    };
+    std::for_each(m_undo.begin(), m_undo.end(), visitStep);
+    std::for_each(m_redo.begin(), m_redo.end(), visitStep);
+    if (m_current) {
+        visitStep(*m_current);
+    }
 }
 
 void UndoStack::clear()

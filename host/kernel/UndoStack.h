@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace vantrix::kernel {
+
+class DataSet;
 
 /* One reversible change. It is recorded after it was made. */
 class UndoableChange
@@ -20,6 +23,9 @@ public:
 
     /* Bytes that only this change keeps in memory. */
     virtual std::size_t memory() const = 0;
+
+    /* Calls `visit` for each data set that the change keeps. */
+    virtual void forEachDataSet(const std::function<void(const DataSet&)>& /*visit*/) const {}
 };
 
 class StateChanges;
@@ -63,6 +69,9 @@ public:
      */
     bool undo();
     bool redo();
+
+    /* Calls `visit` for each data set that a step keeps; one may come several times. */
+    void forEachDataSet(const std::function<void(const DataSet&)>& visit) const;
 
     void clear();
     void setMemoryBound(std::size_t bytes);

@@ -5,6 +5,7 @@
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/PlotDefaults.h"
+#include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 
 namespace vantrix::kernel {
@@ -92,7 +93,6 @@ void ZoneActions::load(long number, const std::set<long>& variables)
     if (!zone) {
         throw DataError("There is no zone " + std::to_string(number) + " whose variables could be loaded.");
     }
-    auto changed = std::make_shared<Zone>(*zone);
     bool isChanged = false;
     for (const long variable : variables) {
         const FieldArray* field = present->field(number, variable);
@@ -103,18 +103,14 @@ void ZoneActions::load(long number, const std::set<long>& variables)
         if (field->isLoaded() || !field->isAvailable()) {
             continue;
         }
-        const vtkSmartPointer<vtkDataArray> values = field->load();
-        if (!values) {
+        if (!field->load()) {
             throw DataError("Variable \"" + present->variables[static_cast<std::size_t>(variable - 1)].name +
                             "\" of zone " + std::to_string(number) + " cannot be read any more.");
         }
-        changed->fields[static_cast<std::size_t>(variable - 1)].values = values;
         isChanged = true;
     }
     if (isChanged) {
-        DataSet dataSet = *present;
-        dataSet.zones[static_cast<std::size_t>(number - 1)] = std::move(changed);
-        m_kernel.document().replaceDataSet(std::move(dataSet), {StateChange_DataAvailability});
+        m_kernel.stateChanges().send(StateChange_DataAvailability);
     }
 }
 

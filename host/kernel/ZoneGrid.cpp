@@ -28,6 +28,15 @@ ZoneGridCache& ZoneGridCache::operator=(const ZoneGridCache& other)
     return *this = ZoneGridCache(other);
 }
 
+void ZoneGridCache::forget(const vtkDataArray& values)
+{
+    std::erase_if(entries, [&](const Entry& entry) {
+        return std::find(entry.coordinates.begin(), entry.coordinates.end(), &values) != entry.coordinates.end();
+    });
+    for (Entry& entry : entries)
+        entry.grid = nullptr; /* its arrays share the memory of the values */
+}
+
 namespace {
 
 using Entry = ZoneGridCache::Entry;
@@ -140,7 +149,7 @@ void addFields(const Zone& zone, const std::vector<Variable>& variables, vtkData
 {
     const std::size_t count = std::min(zone.fields.size(), variables.size());
     for (std::size_t i = 0; i < count; ++i) {
-        const vtkSmartPointer<vtkDataArray> values = zone.fields[i].load();
+        const vtkSmartPointer<vtkDataArray> values = zone.fields[i].values;
         if (!values)
             continue;
         vtkDataSetAttributes* attributes = grid.GetPointData();
@@ -164,10 +173,15 @@ std::array<vtkSmartPointer<vtkDataArray>, 3> coordinateArrays(const Zone& zone, 
     return arrays;
 }
 
-bool hasNames(const Entry& entry, const std::vector<Variable>& variables)
+/* The names of the variables that are in memory, and empty names of the others. */
+std::vector<std::string> loadedNames(const Zone& zone, const std::vector<Variable>& variables)
 {
-    return std::equal(entry.names.begin(), entry.names.end(), variables.begin(), variables.end(),
-                      [](const std::string& name, const Variable& variable) { return name == variable.name; });
+    std::vector<std::string> names(variables.size());
+    for (std::size_t i = 0; i < std::min(names.size(), zone.fields.size()); ++i) {
+        if (zone.fields[i].isLoaded())
+            names[i] = variables[i].name;
+    }
+    return names;
 }
 
 } // namespace
@@ -178,24 +192,23 @@ vtkSmartPointer<vtkDataSet> zoneGrid(const DataSet& dataSet, long zoneNumber, co
     if (!zone)
         return nullptr;
     std::vector<Entry>& entries = zone->grids().entries;
-    const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& entry) {
-        return entry.grid && entry.axes == axes && hasNames(entry, dataSet.variables);
+    Entry entry;
+    entry.axes = axes;
+    entry.coordinates = coordinateArrays(*zone, axes);
+    entry.names = loadedNames(*zone, dataSet.variables);
+    const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& other) {
+        return other.grid && other.axes == axes && other.names == entry.names;
     });
     if (found != entries.end()) {
         std::rotate(entries.begin(), found, found + 1);
         return entries.front().grid;
     }
 
-    Entry entry;
-    entry.axes = axes;
-    entry.coordinates = coordinateArrays(*zone, axes);
     const auto samePoints = std::find_if(entries.begin(), entries.end(),
                                          [&](const Entry& other) { return other.coordinates == entry.coordinates; });
     entry.points = samePoints != entries.end() ? samePoints->points : makePoints(entry, zone->pointCount());
     entry.grid = makeTopology(*zone, entry.points);
     addFields(*zone, dataSet.variables, *entry.grid);
-    for (const Variable& variable : dataSet.variables)
-        entry.names.push_back(variable.name);
 
     /* A grid under other names, and points of a copied zone, are replaced by the new ones. */
     std::erase_if(entries, [&](const Entry& other) { return other.axes == axes; });
@@ -219,6 +232,16 @@ bool haveSameShape(vtkDataSet* one, vtkDataSet* other)
     auto* grid = vtkUnstructuredGrid::SafeDownCast(one);
     auto* otherGrid = vtkUnstructuredGrid::SafeDownCast(other);
     return grid && otherGrid && grid->GetCells() == otherGrid->GetCells();
+}
+
+vtkSmartPointer<vtkDataSet> zoneShape(const DataSet& dataSet, long zone, const CoordinateVariables& axes)
+{
+    const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, zone, axes);
+    if (!grid)
+        return nullptr;
+    const auto shape = vtkSmartPointer<vtkDataSet>::Take(grid->NewInstance());
+    shape->CopyStructure(grid);
+    return shape;
 }
 
 } // namespace vantrix::kernel

@@ -23,7 +23,7 @@ public:
         std::array<vtkSmartPointer<vtkDataArray>, 3> coordinates; /* null where a coordinate is 0 throughout */
         vtkSmartPointer<vtkPoints> points;
         std::array<long, 3> axes{0, 0, 0};
-        std::vector<std::string> names;   /* of the arrays, as the variables were called */
+        std::vector<std::string> names;   /* of the arrays, as the variables were called; empty where not in memory */
         vtkSmartPointer<vtkDataSet> grid; /* null in a copy */
     };
 
@@ -32,6 +32,9 @@ public:
     ZoneGridCache& operator=(const ZoneGridCache& other);
     ZoneGridCache(ZoneGridCache&&) = default;
     ZoneGridCache& operator=(ZoneGridCache&&) = default;
+
+    /* Lets go of values that leave the memory, and of what was made of them. */
+    void forget(const vtkDataArray& values);
 
     std::vector<Entry> entries; /* the one used last in front */
 };

@@ -254,8 +254,9 @@ void BlockImport::addArrays(vtkDataSet& grid, Block& block, const std::vector<vt
             for (std::size_t zone = 0; zone < block.zones.size(); ++zone) {
                 /* Single points have no cells of their own in a zone. */
                 const bool hasCells = !block.pointOrigin[zone];
-                perZone.push_back(
-                    {hasCells ? gather(*component.values, cellOrigin[zone]) : nullptr, ValueLocation_CellCentered, {}});
+                FieldArray& field = perZone.emplace_back();
+                field.location = ValueLocation_CellCentered;
+                field.values = hasCells ? gather(*component.values, cellOrigin[zone]) : nullptr;
                 if (hasCells && perZone.back().values->GetNumberOfTuples() != block.zones[zone].cellCount()) {
                     perZone.back().values = nullptr; /* of points without cells */
                 }

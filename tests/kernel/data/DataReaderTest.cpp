@@ -428,7 +428,22 @@ TEST(DataReader, AnEnSightCaseNeedsItsGeometryAndItsVariables)
     }
     const std::string whole = contents(files[2]);
     std::ofstream(files[2], std::ios::trunc) << whole.substr(0, 60);
-    EXPECT_NE(refusal({files[0]}).find(files[2]), std::string::npos) << "the file that ends early is not named";
+    EXPECT_NE(refusal({files[0]}).find("sample.temperature"), std::string::npos)
+        << "the file that ends early is not named";
+}
+
+TEST(DataReader, AnEnSightFileOfATimeIsFoundByItsNumber)
+{
+    const TemporaryFolder folder;
+    const std::string geometry = contents(samplefiles::writeEnSight(folder.file(""))[1]);
+    const std::string file =
+        folder.write("times.case", "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: 1 at**.geo\n\nTIME\ntime set: 1\n"
+                                   "number of steps: 1\nfilename start number: 7\nfilename increment: 1\n"
+                                   "time values: 0.0\n");
+    folder.write("at07.geo", geometry);
+    EXPECT_EQ(readFiles({file}).zone(1)->cellCount(), 2);
+    folder.write("at07.geo", geometry.substr(0, 200));
+    EXPECT_NE(refusal({file}).find("at07.geo"), std::string::npos);
 }
 
 TEST(DataReader, EnSight6AndBinaryFilesCutAnywhereAreRefused)
