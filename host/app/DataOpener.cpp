@@ -4,6 +4,7 @@
 #include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/OpenData.h"
+#include "kernel/VariableMemory.h"
 
 namespace vantrix::app {
 
@@ -31,6 +32,7 @@ bool DataOpener::attempt(const std::function<void(kernel::OpenData&)>& work)
     try {
         kernel::OpenData open(m_kernel);
         work(open);
+        m_kernel.variableMemory().tidy();
         return true;
     } catch (const kernel::ActionCancelled& cancelled) {
         m_kernel.frontEnd().showStatus(cancelled.what());

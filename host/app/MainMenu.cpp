@@ -105,6 +105,9 @@ void MainMenu::addViewMenu(const MouseModeBar& mouseModes)
     m_standardActions << fitPlot;
     QAction* fitPaper = view->addAction(tr("Fit &Paper"), &m_window.workArea(), &view::WorkArea::fitPaper);
     fitPaper->setShortcut(Qt::CTRL | Qt::Key_0);
+    QAction* redraw = view->addAction(tr("&Redraw"), &m_window.workArea(), &view::WorkArea::redraw);
+    redraw->setObjectName(u"redrawAction"_s);
+    redraw->setShortcuts(QKeySequence::Refresh);
     view->addSeparator();
     QMenu* windows = m_window.createPopupMenu();
     windows->setTitle(tr("&Bars"));

@@ -9,9 +9,11 @@
 #include "app/RecentFiles.h"
 #include "app/SideBar.h"
 #include "app/StatusLine.h"
+#include "app/ToolTipFilter.h"
 #include "app/WindowFrontEnd.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/VariableMemory.h"
 #include "sdk/WaitState.h"
 #include "view/WorkArea.h"
 
@@ -45,6 +47,11 @@ QStringList localFiles(const QMimeData& data)
     return files;
 }
 
+bool mayConcernMemory(const toolbox::StateChangeEventInterface& event)
+{
+    return event.kind() != StateChange_View && event.kind() != StateChange_DataAvailability;
+}
+
 bool mayConcernTitle(const toolbox::StateChangeEventInterface& event)
 {
     return event.kind() != StateChange_View && event.kind() != StateChange_Style;
@@ -61,6 +68,7 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     , m_frontEnd(std::make_unique<WindowFrontEnd>(
           WindowFrontEnd::Parts{*this, *m_statusLine, *m_helpWindow, [this] { m_workArea->fitPaper(); }}))
     , m_titleUpdater(mayConcernTitle, [this] { updateTitle(); })
+    , m_memoryTidier(mayConcernMemory, [this] { m_kernel.variableMemory().tidy(); })
 {
     setObjectName(u"mainWindow"_s);
     setWindowIcon(QIcon(u":/vxplot/vxplot.svg"_s));
@@ -79,6 +87,7 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     connect(m_workArea, &view::WorkArea::coordinatesChanged, m_statusLine, &StatusLine::setCoordinates);
     connect(m_workArea, &view::WorkArea::statusMessage, m_statusLine, &StatusLine::setText);
     connect(m_recentFiles, &RecentFiles::chosen, this, &MainWindow::openFiles);
+    qApp->installEventFilter(new ToolTipFilter(this));
     m_kernel.setFrontEnd(m_frontEnd.get());
     restoreLayout();
 }

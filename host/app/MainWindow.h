@@ -66,6 +66,7 @@ private:
     RecentFiles* m_recentFiles;
     std::unique_ptr<WindowFrontEnd> m_frontEnd;
     sdk::OnIdleAfterStateChangeActionPerformer m_titleUpdater;
+    sdk::OnIdleAfterStateChangeActionPerformer m_memoryTidier;
 };
 
 } // namespace vantrix::app

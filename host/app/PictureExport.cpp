@@ -1,5 +1,6 @@
 #include "app/PictureExport.h"
 
+#include "app/GrayDevice.h"
 #include "toolbox/StyleValue.h"
 #include "view/PageRenderer.h"
 
@@ -114,10 +115,13 @@ void PictureExport::paintPdf(QIODevice& device) const
     writer.setPageMargins({});
     writer.setResolution(print.dotsPerInch);
     QPainter painter(&writer);
-    // A document has no gray mode, so that shades of gray need an image.
-    if (print.asImage || print.isMonochrome) {
+    if (print.asImage) {
         const QImage image = m_renderer.pageImage(m_page, qRound(paper.width() * print.dotsPerInch));
         painter.drawImage(0, 0, print.isMonochrome ? image.convertToFormat(QImage::Format_Grayscale8) : image);
+    } else if (print.isMonochrome) {
+        GrayDevice gray(painter);
+        QPainter inGray(&gray);
+        m_renderer.paintPage(inGray, m_page, print.dotsPerInch);
     } else {
         m_renderer.paintPage(painter, m_page, print.dotsPerInch);
     }

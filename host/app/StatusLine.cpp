@@ -1,7 +1,8 @@
 #include "app/StatusLine.h"
 
+#include "api/VtxEnumerations.h"
+#include "app/InterfaceSetting.h"
 #include "app/ProgressBar.h"
-#include "toolbox/StyleValue.h"
 
 #include <QLabel>
 
@@ -10,13 +11,6 @@ namespace vantrix::app {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isSet(const char* setting)
-{
-    bool value = true;
-    toolbox::StyleValue("Interface", setting).getValue(&value);
-    return value;
-}
 
 bool mayConcernSettings(const toolbox::StateChangeEventInterface& event)
 {
@@ -57,9 +51,9 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::followSettings()
 {
-    setVisible(isSet("ShowStatusLine"));
-    m_coordinates->setVisible(isSet("ShowCoordinates"));
-    m_progressBar->setQuiet(!isSet("ShowContinuousStatus"));
+    setVisible(isInterfaceFlagSet("ShowStatusLine"));
+    m_coordinates->setVisible(isInterfaceFlagSet("ShowCoordinates"));
+    m_progressBar->setQuiet(!isInterfaceFlagSet("ShowContinuousStatus"));
 }
 
 void StatusLine::setText(const QString& text)

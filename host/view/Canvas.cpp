@@ -18,6 +18,7 @@ QFont Canvas::font(double height, bool isBold) const
     // A size in points is a fraction of an inch of the device, not of the paper.
     font.setPointSizeF(std::max(1.0, height * inch * 72.0 / painter.device()->logicalDpiY()));
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(textStrategy(height));
     return font;
 }
 
@@ -48,7 +49,15 @@ QFont Canvas::font(Font_e kind, double height) const
     case Font_UserDefined:
         break;
     }
+    result.setStyleStrategy(textStrategy(height)); // a hint for the family sets another
     return result;
+}
+
+QFont::StyleStrategy Canvas::textStrategy(double height) const
+{
+    constexpr double smallPixels = 12.0;
+    const bool isSmall = height * inch * resolution() < smallPixels;
+    return edges.arePlain || (edges.arePlainWhereSmall && isSmall) ? QFont::NoAntialias : QFont::PreferDefault;
 }
 
 QPen Canvas::pen(const QColor& color, double thickness) const

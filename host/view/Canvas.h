@@ -11,6 +11,13 @@
 
 namespace vantrix::view {
 
+/* Texts whose edges are not smoothed, which is quick to draw. */
+struct TextEdges
+{
+    bool arePlain = false;
+    bool arePlainWhereSmall = false; /* less than 12 pixels high */
+};
+
 /*
  * A painter with a measure: lengths are in inches of the paper, text sizes and line widths included, whatever the
  * device. Points are in the painter's logical units.
@@ -18,13 +25,15 @@ namespace vantrix::view {
 class Canvas
 {
 public:
-    Canvas(QPainter& onto, double unitsPerInch)
+    Canvas(QPainter& onto, double unitsPerInch, TextEdges textEdges = {})
         : painter(onto)
         , inch(unitsPerInch)
+        , edges(textEdges)
     {}
 
     QPainter& painter;
     const double inch; /* in logical units */
+    const TextEdges edges;
 
     /* A sans-serif font of a height in inches. */
     QFont font(double height, bool isBold = false) const;
@@ -50,6 +59,9 @@ public:
 
     /* The rectangle moved to whole pixels of the device. */
     QRectF aligned(const QRectF& rect) const;
+
+private:
+    QFont::StyleStrategy textStrategy(double height) const;
 };
 
 } // namespace vantrix::view

@@ -120,7 +120,8 @@ void FieldScene::updateGroups(const std::vector<ContourGroupStyle>& groups)
     }
 }
 
-void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels, int samples)
+void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels,
+                        const Quality& quality)
 {
     updateGroups(style.contourGroups);
     // Translucent surfaces are seen in their order from the viewer only when they are peeled layer by layer, and that
@@ -128,12 +129,13 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
     const bool isTranslucent =
         std::any_of(style.zones.begin(), style.zones.end(), [](const ZoneStyle& zone) { return zone.opacity < 1.0; });
     m_renderer->SetUseDepthPeeling(isTranslucent);
-    m_samples = isTranslucent ? 0 : samples;
-    m_oversampling = isTranslucent && samples > 0 ? 2 : 1;
+    m_samples = isTranslucent ? 0 : quality.samples;
+    m_oversampling = isTranslucent && quality.samples > 0 ? 2 : 1;
     const bool isThreeD = style.type == PlotType_Cartesian3D;
     m_scale = isThreeD ? style.axisScale : std::array<double, 3>{1.0, 1.0, 0.0};
-    const LayerContext context{isThreeD, m_oversampling * frameHeightPixels / 100.0, style.light, style.vectors,
-                               style.scatter};
+    const LayerContext context{isThreeD,      m_oversampling * frameHeightPixels / 100.0,
+                               style.light,   style.vectors,
+                               style.scatter, quality.keptPoints};
     m_boxDiagonal = boxDiagonal(style);
     m_light->SetPosition(style.light.direction[0], style.light.direction[1], style.light.direction[2]);
     std::erase_if(m_zones, [&](const auto& entry) {
@@ -150,7 +152,7 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
 {
     const long zVariable = context.isThreeD ? style.axes[2].variable : 0;
     const vtkSmartPointer<vtkDataSet> source =
-        kernel::zoneGrid(dataSet, zoneStyle.zone, {style.axes[0].variable, style.axes[1].variable, zVariable});
+        kernel::zoneShape(dataSet, zoneStyle.zone, {style.axes[0].variable, style.axes[1].variable, zVariable});
     if (!source) {
         m_zones.erase(zoneStyle.zone);
         return;
@@ -192,10 +194,22 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
         values.sizes = loaded(dataSet.field(zoneStyle.zone, style.scatter.variable));
     }
     zone.layers->update(zone.shape, zoneStyle, values, context);
+    zone.layers->place(m_placement);
+}
+
+void FieldScene::release(GraphicsCache cache)
+{
+    constexpr long lightCells = 10'000;
+    if (cache != GraphicsCache::All) {
+        std::erase_if(m_zones, [&](const auto& entry) {
+            return cache == GraphicsCache::None || entry.second.layers->surfaceCellCount() > lightCells;
+        });
+    }
 }
 
 void FieldScene::place(const Placement& placement)
 {
+    m_placement = placement;
     for (auto& [number, zone] : m_zones) {
         zone.layers->place(placement);
     }
@@ -273,11 +287,11 @@ std::optional<Point3> FieldScene::pick(double across, double up) const
     return point;
 }
 
-long FieldScene::surfaceCellCount() const
+long FieldScene::surfacePointCount() const
 {
     long count = 0;
     for (const auto& [number, zone] : m_zones) {
-        count += zone.layers->surfaceCellCount();
+        count += zone.layers->surfacePointCount();
     }
     return count;
 }

@@ -4,6 +4,7 @@
 #include "view/Camera3D.h"
 #include "view/OffscreenWindow.h"
 #include "view/PlotStyle.h"
+#include "view/RenderSettings.h"
 #include "view/ZoneLayers.h"
 
 #include <QImage>
@@ -34,19 +35,32 @@ public:
     FieldScene(const FieldScene&) = delete;
     FieldScene& operator=(const FieldScene&) = delete;
 
-    /* Brings the layers in step with data and style; what did not change is left alone. Each pixel of the next pictures
-     * is made from `samples` samples (0 for no smoothing). */
-    void update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels, int samples);
+    /* How the next pictures are made. */
+    struct Quality
+    {
+        int samples = 0;         /* of each pixel; 0 for no smoothing */
+        double keptPoints = 1.0; /* of the points of surfaces, above 0 to 1 */
+    };
+
+    /* Brings the layers in step with data and style; what did not change is left alone. Throws DataError when a
+     * variable that is not in memory cannot be read any more. */
+    void update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels,
+                const Quality& quality);
 
     /* A picture of the area between the axes of a 2D plot, or of a 3D plot as a camera sees it. */
     QImage picture(const AxisScale& x, const AxisScale& y, QSize size);
     QImage picture(const Camera3D& camera, QSize size);
 
+    /* Lets go of the layers that are not to be kept until the next picture. */
+    void release(GraphicsCache cache);
+
     /* The first surface point under a place in the picture rendered last (from its lower left corner, 0 to 1), in
      * coordinates of the data. */
     std::optional<Point3> pick(double across, double up) const;
 
-    long surfaceCellCount() const;
+    /* Zones whose layers are kept at present, and the points of their surfaces. */
+    long zoneCount() const { return static_cast<long>(m_zones.size()); }
+    long surfacePointCount() const;
 
 private:
     struct Zone
@@ -76,6 +90,7 @@ private:
     std::map<long, Zone> m_zones;
     std::vector<Group> m_groups;
     std::array<double, 3> m_scale{1.0, 1.0, 1.0};
+    Placement m_placement;      /* as of the last picture */
     double m_boxDiagonal = 1.0; /* of a 3D plot, in the world */
     QSize m_pixels;             /* of the picture rendered last */
     int m_samples = 0;

@@ -1,5 +1,6 @@
 #include "view/FramePainter.h"
 
+#include "kernel/DataError.h"
 #include "kernel/DataSet.h"
 #include "view/AxisBoxPainter.h"
 #include "view/AxisPainter.h"
@@ -10,13 +11,13 @@
 #include "view/PolarAxisPainter.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace vantrix::view {
 namespace {
 
 constexpr int smoothSamples = 8;
-constexpr long coarseAbove = 60'000; /* surface cells that are still quick to render in full */
 
 /* Whether the frame's plot draws anything of a field. */
 bool hasField(const PlotStyle& style)
@@ -42,7 +43,8 @@ const ContourGroupStyle* legendGroup(const PlotStyle& style)
 } // namespace
 
 FramePainter::FramePainter(OffscreenWindow& window)
-    : m_scene(window)
+    : m_window(window)
+    , m_scene(window)
 {}
 
 FramePainter::~FramePainter() = default;
@@ -56,9 +58,10 @@ void FramePainter::show(PlotStyle style, std::shared_ptr<const kernel::DataSet> 
     m_dataSet = std::move(dataSet);
 }
 
-void FramePainter::paint(const Canvas& canvas, const QRectF& rect, bool isCoarse)
+void FramePainter::paint(const Canvas& canvas, const QRectF& rect, const PaintRequest& request)
 {
-    m_isCoarse = isCoarse;
+    m_request = request;
+    m_isApproximate = mayApproximate();
     m_rect = rect;
     m_frameHeight = rect.height();
     m_plot.frameSize = rect.size() / canvas.inch;
@@ -84,7 +87,11 @@ void FramePainter::paint(const Canvas& canvas, const QRectF& rect, bool isCoarse
         paintHeader(canvas, header);
         inside.setTop(header.bottom());
     }
-    paintPlot(canvas, inside);
+    try {
+        paintPlot(canvas, inside);
+    } catch (const kernel::DataError& error) {
+        paintNotice(canvas, inside, QString::fromStdString(error.what()));
+    }
     painter.restore();
     if (style.hasBorder) {
         painter.setPen(canvas.pen(Qt::black, style.borderThickness / 100.0 * rect.height() / canvas.inch));
@@ -100,8 +107,8 @@ void FramePainter::paintHeader(const Canvas& canvas, const QRectF& header) const
     canvas.painter.fillRect(header, style.header);
     const bool isDark = style.header.lightnessF() < 0.55F;
     canvas.drawText(QPointF(header.left() + 0.1 * canvas.inch, header.center().y()), Qt::AlignLeft | Qt::AlignVCenter,
-                    QString::fromStdString(style.name), canvas.font(0.6 * header.height() / canvas.inch, true),
-                    isDark ? Qt::white : Qt::black);
+                    QString::fromStdString(style.name),
+                    canvas.font(style.headerFont, 0.6 * header.height() / canvas.inch), isDark ? Qt::white : Qt::black);
 }
 
 void FramePainter::paintNotice(const Canvas& canvas, const QRectF& rect, const QString& text) const
@@ -189,7 +196,7 @@ void FramePainter::paintFlat(const Canvas& canvas, const QRectF& room)
     }
     axes.paintBehind();
     if (style.type == PlotType_Cartesian2D) {
-        paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(axes.xScale(), axes.yScale(), pixels); });
+        paintPicture(canvas, area, [&](QSize pixels) { return scene().picture(axes.xScale(), axes.yScale(), pixels); });
     } else if (m_dataSet) {
         LinePlot(canvas, frameHeightInches(canvas), *m_dataSet, style).paint(area, {}, [&](const LineMapStyle& map) {
             return [&area, &xScale = axes.xScale(map.xAxis), &yScale = axes.yScale(map.yAxis)](double x, double y) {
@@ -241,7 +248,7 @@ void FramePainter::paintThreeD(const Canvas& canvas, const QRectF& room)
     }
     const AxisBoxPainter axes(canvas, frameHeightInches(canvas), style, *m_plot.camera, area);
     axes.paintBack();
-    paintPicture(canvas, area, [&](QSize pixels) { return m_scene.picture(*m_plot.camera, pixels); });
+    paintPicture(canvas, area, [&](QSize pixels) { return scene().picture(*m_plot.camera, pixels); });
     axes.paintAxes();
 }
 
@@ -253,27 +260,72 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     }
     const QSizeF device = canvas.painter.deviceTransform().mapRect(area).size();
     const QSize pixels(int(std::lround(device.width())), int(std::lround(device.height())));
-    const bool isCoarse = m_isCoarse && m_scene.surfaceCellCount() > coarseAbove;
-    const PictureKey key{m_revision, pixels, isCoarse};
-    if (key != m_key || m_picture.isNull()) {
-        const double height = m_frameHeight * canvas.resolution();
-        const QSize size = isCoarse ? pixels / 2 : pixels;
-        m_scene.update(*m_dataSet, m_plot.style, isCoarse ? 0.5 * height : height, isCoarse ? 0 : smoothSamples);
-        m_picture = render(size.expandedTo({1, 1}));
-        m_key = key;
+    const RenderSettings& settings = m_request.settings;
+    const bool isExport = !m_request.isForScreen;
+    const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0};
+    const bool takesScreen =
+        isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.revision == m_revision;
+    KeptPicture& kept = isExport && !takesScreen ? m_exported : m_onScreen;
+    if (!takesScreen && (key != kept.key || kept.image.isNull())) {
+        const auto begin = std::chrono::steady_clock::now();
+        const FieldScene::Quality quality{m_isApproximate ? 0 : smoothSamples, key.keptPoints};
+        scene().update(*m_dataSet, m_plot.style, m_frameHeight * canvas.resolution(), quality);
+        kept = {key, render(pixels.expandedTo({1, 1}))};
+        m_paintedPoints = scene().surfacePointCount();
+        scene().release(settings.cache);
         ++m_renderCount;
+        if (!m_isApproximate) {
+            const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
+            m_fullTime = time.count();
+        }
     }
-    canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, isCoarse);
-    canvas.painter.drawImage(area, m_picture);
+    canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, kept.image.size() != pixels);
+    canvas.painter.drawImage(area, kept.image);
 }
 
-std::optional<Point3> FramePainter::pick(QPointF place) const
+bool FramePainter::mayApproximate() const
 {
-    if (!m_plot.camera || !m_plot.area.contains(place)) {
+    const RenderSettings& settings = m_request.settings;
+    if (!m_request.isForScreen || !settings.approximates || settings.keptPoints >= 1.0) {
+        return false;
+    }
+    switch (settings.approximation) {
+    case PlotApproximationMode_AllAlwaysApproximated:
+        return true;
+    case PlotApproximationMode_NonActiveAlwaysApproximated:
+        if (!m_request.isActive) {
+            return true;
+        }
+        break;
+    case PlotApproximationMode_Automatic:
+        break;
+    }
+    return m_request.isMoving && m_fullTime > settings.longestTime;
+}
+
+FieldScene& FramePainter::scene()
+{
+    if (!m_isApproximate) {
+        return m_scene;
+    }
+    if (!m_thinScene) {
+        m_thinScene = std::make_unique<FieldScene>(m_window);
+    }
+    return *m_thinScene;
+}
+
+std::optional<Point3> FramePainter::pick(QPointF place)
+{
+    if (!m_plot.camera || !m_plot.area.contains(place) || !m_dataSet) {
         return std::nullopt;
     }
-    return m_scene.pick((place.x() - m_plot.area.left()) / m_plot.area.width(),
-                        (m_plot.area.bottom() - place.y()) / m_plot.area.height());
+    if (scene().zoneCount() == 0) { /* not kept from the last picture */
+        scene().update(*m_dataSet, m_plot.style, m_frameHeight, {smoothSamples, m_onScreen.key.keptPoints});
+    }
+    const std::optional<Point3> point = scene().pick((place.x() - m_plot.area.left()) / m_plot.area.width(),
+                                                     (m_plot.area.bottom() - place.y()) / m_plot.area.height());
+    scene().release(m_request.settings.cache);
+    return point;
 }
 
 } // namespace vantrix::view

@@ -12,6 +12,15 @@ class DataSet;
 
 namespace vantrix::view {
 
+/* What a frame is painted for. */
+struct PaintRequest
+{
+    RenderSettings settings;
+    bool isForScreen = true;
+    bool isActive = true;  /* the frame that the dialogs edit */
+    bool isMoving = false; /* its view is being changed with the mouse */
+};
+
 /* Paints one frame, and keeps what it read and rendered for the next time. */
 class FramePainter
 {
@@ -26,11 +35,18 @@ public:
     void show(PlotStyle style, std::shared_ptr<const kernel::DataSet> dataSet);
 
     /* `rect` is where the frame lies, in the painter's logical units. */
-    void paint(const Canvas& canvas, const QRectF& rect, bool isCoarse);
+    void paint(const Canvas& canvas, const QRectF& rect, const PaintRequest& request);
 
     const FramePlot& plot() const { return m_plot; }
-    std::optional<Point3> pick(QPointF place) const;
+    std::optional<Point3> pick(QPointF place);
     long renderCount() const { return m_renderCount; }
+
+    /* Whether the plot was painted thinned last, and how many points it had. */
+    bool isApproximate() const { return m_isApproximate; }
+    long surfacePointCount() const { return m_paintedPoints; }
+
+    /* Zones of which graphics objects are kept. */
+    long keptZoneCount() const { return m_scene.zoneCount() + (m_thinScene ? m_thinScene->zoneCount() : 0); }
 
 private:
     /* What the picture kept was rendered for. */
@@ -38,8 +54,13 @@ private:
     {
         unsigned long revision = 0;
         QSize pixels;
-        bool isCoarse = false;
+        double keptPoints = 1.0;
         bool operator==(const PictureKey&) const = default;
+    };
+    struct KeptPicture
+    {
+        PictureKey key;
+        QImage image;
     };
 
     void paintHeader(const Canvas& canvas, const QRectF& header) const;
@@ -52,16 +73,23 @@ private:
     QRectF inFrame(const Canvas& canvas, const QRectF& rect) const;
     template<typename Render>
     void paintPicture(const Canvas& canvas, const QRectF& area, Render render);
+    bool mayApproximate() const;
+    FieldScene& scene();
 
+    OffscreenWindow& m_window;
     FieldScene m_scene;
+    std::unique_ptr<FieldScene> m_thinScene; /* of an approximate plot; made when one is painted first */
     FramePlot m_plot;
     std::shared_ptr<const kernel::DataSet> m_dataSet;
     unsigned long m_revision = 0;
-    bool m_isCoarse = false;
+    PaintRequest m_request;
+    bool m_isApproximate = false;
+    double m_fullTime = 0.0; /* seconds that the plot took in full */
+    long m_paintedPoints = 0;
     double m_frameHeight = 1.0; /* in logical units */
     QRectF m_rect;
-    PictureKey m_key;
-    QImage m_picture;
+    KeptPicture m_onScreen;
+    KeptPicture m_exported;
     long m_renderCount = 0;
 };
 

@@ -34,14 +34,19 @@ struct PageRenderer::Impl
     {}
 
     Entry& entry(const kernel::Frame& frame);
-    void paint(QPainter& painter, const kernel::Frame& frame, const QRectF& rect, double inch);
+    void paint(QPainter& painter, const kernel::Frame& frame, const QRectF& rect, double inch, bool isForScreen);
+    void paintAll(QPainter& painter, const kernel::Page& page, double inch, bool isForScreen);
+    FramePainter* painterOf(long frameId) const;
+    const RenderSettings& settings();
     void dropDeletedFrames();
 
     kernel::Kernel& kernel;
     OffscreenWindow window;
     std::map<long, std::unique_ptr<Entry>> entries;
     long droppedRenders = 0;
-    bool isCoarse = false;
+    bool isMoving = false;
+    RenderSettings readSettings;
+    std::optional<unsigned long> settingsStamp; /* of the process's style when they were read */
 };
 
 PageRenderer::Impl::Entry& PageRenderer::Impl::entry(const kernel::Frame& frame)
@@ -60,9 +65,39 @@ PageRenderer::Impl::Entry& PageRenderer::Impl::entry(const kernel::Frame& frame)
     return *slot;
 }
 
-void PageRenderer::Impl::paint(QPainter& painter, const kernel::Frame& frame, const QRectF& rect, double inch)
+const RenderSettings& PageRenderer::Impl::settings()
 {
-    entry(frame).painter.paint(Canvas(painter, inch), rect, isCoarse);
+    const unsigned long stamp = kernel.style().scopeStamp(kernel::StyleStore::processScope);
+    if (stamp != settingsStamp) {
+        readSettings = RenderSettings::read(kernel.style());
+        settingsStamp = stamp;
+    }
+    return readSettings;
+}
+
+FramePainter* PageRenderer::Impl::painterOf(long frameId) const
+{
+    const auto found = entries.find(frameId);
+    return found != entries.end() ? &found->second->painter : nullptr;
+}
+
+void PageRenderer::Impl::paint(QPainter& painter, const kernel::Frame& frame, const QRectF& rect, double inch,
+                               bool isForScreen)
+{
+    const bool isActive = kernel.document().activeFrame() == &frame;
+    const PaintRequest request{settings(), isForScreen, isActive, isMoving && isActive};
+    const TextEdges edges =
+        !isForScreen ? TextEdges{} : TextEdges{settings().hasPlainTexts, settings().hasPlainSmallTexts};
+    entry(frame).painter.paint(Canvas(painter, inch, edges), rect, request);
+}
+
+void PageRenderer::Impl::paintAll(QPainter& painter, const kernel::Page& page, double inch, bool isForScreen)
+{
+    dropDeletedFrames();
+    for (const auto& frame : page.frames) {
+        const QRectF rect = readFrameRect(kernel.style(), frame->id());
+        paint(painter, *frame, QRectF(rect.topLeft() * inch, rect.size() * inch), inch, isForScreen);
+    }
 }
 
 void PageRenderer::Impl::dropDeletedFrames()
@@ -103,6 +138,11 @@ QColor PageRenderer::printedPaperColor(const kernel::Page& page) const
     return paper.isFilledInPrint ? paper.color : QColor(Qt::white);
 }
 
+const RenderSettings& PageRenderer::settings() const
+{
+    return m_impl->settings();
+}
+
 QRectF PageRenderer::frameRect(const kernel::Frame& frame) const
 {
     return readFrameRect(m_impl->kernel.style(), frame.id());
@@ -111,21 +151,17 @@ QRectF PageRenderer::frameRect(const kernel::Frame& frame) const
 void PageRenderer::paintPage(QPainter& painter, const kernel::Page& page, double inch)
 {
     painter.fillRect(QRectF(QPointF(), paperSize(page) * inch), printedPaperColor(page));
-    paintFrames(painter, page, inch);
+    m_impl->paintAll(painter, page, inch, false);
 }
 
 void PageRenderer::paintFrames(QPainter& painter, const kernel::Page& page, double inch)
 {
-    m_impl->dropDeletedFrames();
-    for (const auto& frame : page.frames) {
-        const QRectF rect = frameRect(*frame);
-        m_impl->paint(painter, *frame, QRectF(rect.topLeft() * inch, rect.size() * inch), inch);
-    }
+    m_impl->paintAll(painter, page, inch, true);
 }
 
 void PageRenderer::paintFrame(QPainter& painter, const kernel::Frame& frame, double inch)
 {
-    m_impl->paint(painter, frame, QRectF(QPointF(), frameRect(frame).size() * inch), inch);
+    m_impl->paint(painter, frame, QRectF(QPointF(), frameRect(frame).size() * inch), inch, false);
 }
 
 namespace {
@@ -158,21 +194,42 @@ QImage PageRenderer::frameImage(const kernel::Frame& frame, int width)
     return image;
 }
 
-void PageRenderer::setCoarse(bool coarse)
+void PageRenderer::setMoving(bool moving)
 {
-    m_impl->isCoarse = coarse;
+    m_impl->isMoving = moving;
+}
+
+bool PageRenderer::isApproximate(long frameId) const
+{
+    const FramePainter* painter = m_impl->painterOf(frameId);
+    return painter && painter->isApproximate();
+}
+
+long PageRenderer::surfacePointCount(long frameId) const
+{
+    const FramePainter* painter = m_impl->painterOf(frameId);
+    return painter ? painter->surfacePointCount() : 0;
+}
+
+long PageRenderer::keptZoneCount() const
+{
+    long count = 0;
+    for (const auto& [id, entry] : m_impl->entries) {
+        count += entry->painter.keptZoneCount();
+    }
+    return count;
 }
 
 const FramePlot* PageRenderer::plot(long frameId) const
 {
-    const auto found = m_impl->entries.find(frameId);
-    return found != m_impl->entries.end() ? &found->second->painter.plot() : nullptr;
+    const FramePainter* painter = m_impl->painterOf(frameId);
+    return painter ? &painter->plot() : nullptr;
 }
 
 std::optional<std::array<double, 3>> PageRenderer::pick(long frameId, QPointF place) const
 {
-    const auto found = m_impl->entries.find(frameId);
-    return found != m_impl->entries.end() ? found->second->painter.pick(place) : std::nullopt;
+    FramePainter* painter = m_impl->painterOf(frameId);
+    return painter ? painter->pick(place) : std::nullopt;
 }
 
 long PageRenderer::renderCount() const

@@ -21,6 +21,7 @@ struct Page;
 namespace vantrix::view {
 
 class FramePlot;
+struct RenderSettings;
 
 /*
  * Paints a page, or one frame of it, with any QPainter: the work area, an image, a printer.
@@ -45,10 +46,14 @@ public:
     /* The paper's colour in pictures and documents: white unless the page wants its fill colour there too. */
     QColor printedPaperColor(const kernel::Page& page) const;
 
+    /* The settings of performance as they are now. */
+    const RenderSettings& settings() const;
+
     QRectF frameRect(const kernel::Frame& frame) const;
 
     /*
-     * Paints paper and frames, or one frame. `inch` is the length of an inch in the painter's logical units; the point
+     * Paints paper and frames, or one frame, for a document or picture; paintFrames() paints for the screen, as the
+     * settings of performance say. `inch` is the length of an inch in the painter's logical units; the point
      * (0, 0) of the painter is the paper's (or the frame's) upper left corner. Images are rendered at the resolution of
      * the painter's device, its device pixel ratio included.
      */
@@ -61,10 +66,17 @@ public:
     QImage frameImage(const kernel::Frame& frame, int width);
 
     /*
-     * Renders field plots of large data sets coarsely while a view is being dragged; the next painting after it is set
-     * back is in full detail.
+     * While a view is being dragged, field plots that take long are painted approximately, where the settings allow it;
+     * the next painting after it is set back is in full detail.
      */
-    void setCoarse(bool coarse);
+    void setMoving(bool moving);
+
+    /* Whether a frame was painted approximately last, and the points of the surfaces that were painted in it. */
+    bool isApproximate(long frameId) const;
+    long surfacePointCount(long frameId) const;
+
+    /* Zones of all frames whose graphics objects are in memory. */
+    long keptZoneCount() const;
 
     /* The plot of a frame as it was painted last; null when it was never painted. */
     const FramePlot* plot(long frameId) const;

@@ -16,8 +16,13 @@ constexpr int lineAxisCount = 5;
 FrameStyle readFrame(const StyleReader& style)
 {
     const StyleReader layout = style.below("FrameLayout");
-    return {style.text("FrameName"),       layout.flag("ShowBorder"),       layout.flag("ShowHeader"),
-            layout.flag("IsTransparent"),  layout.color("BackgroundColor"), layout.color("HeaderColor"),
+    return {style.text("FrameName"),
+            layout.flag("ShowBorder"),
+            layout.flag("ShowHeader"),
+            layout.flag("IsTransparent"),
+            layout.color("BackgroundColor"),
+            layout.color("HeaderColor"),
+            layout.enumerator<Font_e>("HeaderFont"),
             layout.real("BorderThickness")};
 }
 

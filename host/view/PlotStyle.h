@@ -146,6 +146,7 @@ struct FrameStyle
     bool isTransparent = false;
     QColor background = Qt::white;
     QColor header = Qt::red;
+    Font_e headerFont = Font_HelveticaBold;
     double borderThickness = 0.1; /* per cent of the frame's height */
 
     bool operator==(const FrameStyle&) const = default;

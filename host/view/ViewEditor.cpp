@@ -1,6 +1,7 @@
 #include "view/ViewEditor.h"
 
 #include "kernel/ApplicationLock.h"
+#include "kernel/DataError.h"
 #include "kernel/DataSet.h"
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
@@ -15,6 +16,16 @@
 namespace vantrix::view {
 namespace {
 
+/* Null also for a variable that cannot be read any more. */
+vtkSmartPointer<vtkDataArray> valuesOf(const kernel::FieldArray* field)
+{
+    try {
+        return field ? field->load() : nullptr;
+    } catch (const kernel::DataError&) {
+        return nullptr;
+    }
+}
+
 struct Bounds
 {
     double minimum = 0.0;
@@ -23,7 +34,7 @@ struct Bounds
 
     void include(const kernel::FieldArray* field)
     {
-        const auto values = field ? field->load() : nullptr;
+        const auto values = valuesOf(field);
         if (!values || values->GetNumberOfTuples() == 0) {
             return;
         }

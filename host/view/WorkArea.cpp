@@ -7,10 +7,12 @@
 #include "kernel/StateChanges.h"
 #include "view/Coordinates.h"
 #include "view/FramePlot.h"
+#include "view/KeptView.h"
 #include "view/PageRenderer.h"
 #include "view/PaperGrid.h"
 #include "view/PaperRuler.h"
 #include "view/PaperStyle.h"
+#include "view/RenderSettings.h"
 #include "view/ViewEditor.h"
 
 #include <QApplication>
@@ -77,11 +79,13 @@ struct WorkArea::Impl
     void endGesture();
     void click(MouseMode_e mode, QPointF place);
     void activate(QPointF place);
+    void paintPaper(QPainter& painter, const kernel::Page& page);
 
     WorkArea& widget;
     kernel::Kernel& kernel;
     PageRenderer renderer;
     ViewEditor editor;
+    KeptView view;
     QTimer wheelTimer;
     double inch = 72.0;
     QPointF origin; /* of the paper, in the widget */
@@ -131,6 +135,12 @@ void WorkArea::fitPaper()
     update();
 }
 
+void WorkArea::redraw()
+{
+    m_impl->view.request();
+    update();
+}
+
 double WorkArea::zoom() const
 {
     return m_impl->inch;
@@ -149,6 +159,7 @@ void WorkArea::fitPlot()
         m_impl->editor.begin("Fit View");
         m_impl->editor.fit(*m_impl->frame(), *plot);
         m_impl->editor.end();
+        redraw();
     }
 }
 
@@ -196,8 +207,11 @@ void WorkArea::Impl::activate(QPointF place)
 void WorkArea::Impl::endGesture()
 {
     wheelTimer.stop();
+    if (editor.isEditing()) {
+        view.request();
+    }
     editor.end();
-    renderer.setCoarse(false);
+    renderer.setMoving(false);
     widget.update();
 }
 
@@ -246,7 +260,7 @@ void WorkArea::Impl::drag(QPointF place)
     if (dragging == Drag::None || !plot) {
         return;
     }
-    renderer.setCoarse(true);
+    renderer.setMoving(true);
     const kernel::Frame& target = *frame();
     switch (dragging) {
     case Drag::Move:
@@ -265,6 +279,7 @@ void WorkArea::Impl::drag(QPointF place)
         break;
     }
     // The next move starts from what this one shows.
+    view.request();
     widget.repaint();
 }
 
@@ -314,19 +329,12 @@ bool WorkArea::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void WorkArea::paintEvent(QPaintEvent* /*event*/)
+void WorkArea::Impl::paintPaper(QPainter& painter, const kernel::Page& page)
 {
-    QPainter painter(this);
-    painter.fillRect(rect(), deskColor);
-    const kernel::Page* page = m_impl->page();
-    if (!page) {
-        return;
-    }
-    PageRenderer& renderer = m_impl->renderer;
-    const double inch = m_impl->inch;
+    painter.fillRect(widget.rect(), deskColor);
     painter.save();
-    painter.translate(m_impl->origin);
-    const PaperStyle style = m_impl->paperStyle(*page);
+    painter.translate(origin);
+    const PaperStyle style = paperStyle(page);
     if (style.isShown) {
         const QRectF paper(QPointF(), style.size * inch);
         painter.fillRect(paper.translated(3.0, 3.0), QColor(0, 0, 0, 45));
@@ -335,22 +343,35 @@ void WorkArea::paintEvent(QPaintEvent* /*event*/)
             PaperGrid(style.gridSpacing).paint(painter, paper, inch);
         }
     }
-    renderer.paintFrames(painter, *page, inch);
-    if (m_impl->frame() && page->frames.size() > 1) {
-        const QRectF active = renderer.frameRect(*m_impl->frame());
+    renderer.paintFrames(painter, page, inch);
+    if (frame() && page.frames.size() > 1) {
+        const QRectF active = renderer.frameRect(*frame());
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(activeColor, 2.0));
         painter.drawRect(QRectF(active.topLeft() * inch, active.size() * inch));
     }
     painter.restore();
+    if (style.hasRuler) {
+        PaperRuler(style.rulerSpacing).paint(painter, widget.rect(), origin, inch);
+    }
+}
+
+void WorkArea::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const kernel::Page* page = m_impl->page();
+    if (!page) {
+        painter.fillRect(rect(), deskColor);
+        return;
+    }
+    const KeptView::Place place{size(), devicePixelRatioF(), m_impl->origin, m_impl->inch, page->id};
+    m_impl->view.paint(painter, place, m_impl->renderer.settings().redrawsAlways,
+                       [&](QPainter& onto) { m_impl->paintPaper(onto, *page); });
     if (m_impl->dragging == Impl::Drag::RubberBand) {
         const QRectF band = QRectF(m_impl->dragStart, m_impl->dragLast).normalized();
         painter.setPen(QPen(activeColor, 1.0, Qt::DashLine));
         painter.setBrush(QColor(activeColor.red(), activeColor.green(), activeColor.blue(), 30));
         painter.drawRect(band);
-    }
-    if (style.hasRuler) {
-        PaperRuler(style.rulerSpacing).paint(painter, rect(), m_impl->origin, inch);
     }
 }
 
@@ -425,9 +446,10 @@ void WorkArea::wheelEvent(QWheelEvent* event)
     }
     m_impl->activate(place);
     m_impl->editor.begin("Zoom");
-    m_impl->renderer.setCoarse(true);
+    m_impl->renderer.setMoving(true);
     m_impl->editor.magnify(*m_impl->frame(), *plot, std::pow(zoomPerNotch, notches), m_impl->inFrame(place));
     m_impl->wheelTimer.start(wheelPause);
+    m_impl->view.request();
     repaint();
 }
 

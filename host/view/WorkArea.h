@@ -34,6 +34,10 @@ public:
     /* Zooms and moves so that the paper fills the widget. Until the paper is zoomed by hand, it follows resizing. */
     void fitPaper();
 
+    /* Draws what has changed since the last drawing, where the settings leave that to the user ("Interface" /
+     * "AutoRedrawIsActive"). A change of view with the mouse draws by itself. */
+    void redraw();
+
     /* Pixels of the widget for an inch of paper. Setting keeps the middle of the widget in place; 10 to 2000. */
     double zoom() const;
     void setZoom(double pixelsPerInch);

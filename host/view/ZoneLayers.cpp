@@ -22,7 +22,7 @@ void ZoneLayers::update(vtkDataSet* geometry, const ZoneStyle& style, const Zone
         return isNeeded && group > 0 ? values.contour(group) : nullptr;
     };
     const auto colors = [&](bool isNeeded, const LayerColor& color) { return contour(isNeeded, color.contourGroup); };
-    m_surface.set(geometry, style.surfaces);
+    m_surface.set(geometry, style.surfaces, context.keptPoints);
     m_flood.update(m_surface, style, contour(style.contour.hasFlood(), style.contour.floodGroup), context);
     m_shade.update(m_surface, style, m_flood.isShown(), context);
     const ContourStyle& lines = style.contour;
@@ -55,6 +55,11 @@ void ZoneLayers::place(const Placement& placement)
 long ZoneLayers::surfaceCellCount()
 {
     return static_cast<long>(m_surface.surface()->GetNumberOfCells());
+}
+
+long ZoneLayers::surfacePointCount()
+{
+    return static_cast<long>(m_surface.surface()->GetNumberOfPoints());
 }
 
 } // namespace vantrix::view

@@ -39,8 +39,9 @@ public:
 
     void place(const Placement& placement);
 
-    /* The number of polygons and lines of the surface. */
+    /* The number of polygons and lines of the surface, and of its points. */
     long surfaceCellCount();
+    long surfacePointCount();
 
 private:
     ZoneSurface m_surface;

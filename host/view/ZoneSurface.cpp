@@ -1,6 +1,7 @@
 #include "view/ZoneSurface.h"
 
 #include "view/IndexPlanes.h"
+#include "view/SurfaceThinning.h"
 
 #include <vtkAppendPolyData.h>
 #include <vtkCell.h>
@@ -139,11 +140,12 @@ vtkSmartPointer<vtkFloatArray> gathered(vtkDataArray* values, vtkIdTypeArray* nu
 
 } // namespace
 
-void ZoneSurface::set(vtkDataSet* geometry, const SurfaceSelection& selection)
+void ZoneSurface::set(vtkDataSet* geometry, const SurfaceSelection& selection, double keptPoints)
 {
-    if (m_geometry == geometry && m_selection == selection && m_revision > 0) {
+    if (m_geometry == geometry && m_selection == selection && m_keptPoints == keptPoints && m_revision > 0) {
         return;
     }
+    m_keptPoints = keptPoints;
     m_geometry = geometry;
     m_selection = selection;
     m_surface = nullptr;
@@ -177,6 +179,9 @@ vtkPolyData* ZoneSurface::surface()
 {
     if (!m_surface) {
         m_surface = makeSurface();
+        if (m_keptPoints < 1.0) {
+            m_surface = thinned(m_surface, m_keptPoints);
+        }
     }
     return m_surface;
 }

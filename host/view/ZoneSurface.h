@@ -24,8 +24,9 @@ public:
     /* The name of the array that withValues() adds. */
     static constexpr auto valuesName = "vxContour";
 
-    /* The zone's points and cells as they are to be drawn; shared, not written to. Null for nothing. */
-    void set(vtkDataSet* geometry, const SurfaceSelection& selection);
+    /* The zone's points and cells as they are to be drawn; shared, not written to. Null for nothing. Of the points of
+     * the surface a part is kept, above 0 to 1. */
+    void set(vtkDataSet* geometry, const SurfaceSelection& selection, double keptPoints = 1.0);
 
     unsigned long revision() const { return m_revision; }
 
@@ -48,6 +49,7 @@ private:
 
     vtkSmartPointer<vtkDataSet> m_geometry;
     SurfaceSelection m_selection;
+    double m_keptPoints = 1.0;
     unsigned long m_revision = 0;
     vtkSmartPointer<vtkPolyData> m_surface;
     vtkSmartPointer<vtkPolyData> m_litSurface;

@@ -7,7 +7,6 @@
 
 #include <QAbstractButton>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRegularExpression>
 
 namespace vantrix::sdk::ui::dialogs {
@@ -72,9 +71,6 @@ void ModalDialogAbstract::tellRefusal(propertymanager::MemberRefusedException co
     VtxUtilDialogMessageBox(message.c_str(), MessageBox_Error);
     if (control) {
         control->setFocus(Qt::OtherFocusReason);
-        if (auto* const field = qobject_cast<QLineEdit*>(control)) {
-            field->selectAll();
-        }
     }
 }
 

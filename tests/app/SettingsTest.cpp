@@ -1,8 +1,10 @@
 #include "app/StatusLine.h"
 
 #include "api/VtxUtil.h"
+#include "app/GrayDevice.h"
 #include "app/PictureExport.h"
 #include "app/ProgressBar.h"
+#include "app/ToolTipFilter.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "sdk/AppLock.h"
@@ -12,7 +14,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QTemporaryDir>
 
 using namespace vantrix;
@@ -85,5 +90,72 @@ TEST_F(SettingsTest, ADocumentIsAnImageWhereTheStyleSaysSo)
     EXPECT_TRUE(holdsImage("image"));
     setStyle({"Print", "RenderType"}, long{PrintRenderType_Vector});
     setStyle({"Print", "Color"}, long{Palette_Monochrome});
-    EXPECT_TRUE(holdsImage("monochrome"));
+    EXPECT_FALSE(holdsImage("monochrome"));
+    setStyle({"Print", "RenderType"}, long{PrintRenderType_Image});
+    EXPECT_TRUE(holdsImage("monochrome image"));
+}
+
+TEST_F(SettingsTest, AGrayDeviceDrawsWhatItIsGivenInGray)
+{
+    const auto paint = [](QPainter& painter) {
+        painter.fillRect(0, 0, 60, 60, QColor(250, 240, 200));
+        painter.setPen(QPen(QColor(200, 0, 0), 4.0));
+        painter.translate(10.0, 5.0);
+        painter.drawLine(0, 0, 30, 40);
+        QLinearGradient gradient(0, 0, 40, 0);
+        gradient.setColorAt(0.0, Qt::blue);
+        gradient.setColorAt(1.0, Qt::yellow);
+        painter.setClipRect(0, 10, 40, 30);
+        painter.setBrush(gradient);
+        painter.drawEllipse(5, 10, 30, 30);
+        QImage image(10, 10, QImage::Format_ARGB32_Premultiplied);
+        image.fill(QColor(0, 120, 0, 128));
+        painter.drawImage(20, 5, image);
+        painter.rotate(10.0);
+        painter.setPen(Qt::darkGreen);
+        painter.drawText(2, 30, QStringLiteral("Text"));
+    };
+    QImage colored(60, 60, QImage::Format_ARGB32_Premultiplied), gray = colored;
+    {
+        QPainter painter(&colored);
+        paint(painter);
+        QPainter onto(&gray);
+        app::GrayDevice device(onto);
+        QPainter inGray(&device);
+        paint(inGray);
+    }
+    for (int y = 0; y < gray.height(); ++y) {
+        for (int x = 0; x < gray.width(); ++x) {
+            const QColor color = gray.pixelColor(x, y);
+            ASSERT_EQ(color.saturation(), 0) << x << ' ' << y;
+            EXPECT_NEAR(color.red(), qGray(colored.pixel(x, y)), 3) << x << ' ' << y;
+        }
+    }
+}
+
+TEST_F(SettingsTest, ToolTipsStayAwayWhereTheyAreNotWanted)
+{
+    class Counter : public QWidget
+    {
+    public:
+        bool event(QEvent* event) override
+        {
+            toolTips += event->type() == QEvent::ToolTip;
+            return QWidget::event(event);
+        }
+        int toolTips = 0;
+    };
+    Counter widget;
+    app::ToolTipFilter filter;
+    qApp->installEventFilter(&filter);
+    const auto rest = [&widget] {
+        QHelpEvent event(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
+        QApplication::sendEvent(&widget, &event);
+        return widget.toolTips;
+    };
+    EXPECT_EQ(rest(), 1);
+    setStyle({"Interface", "ShowToolTips"}, false);
+    EXPECT_EQ(rest(), 1);
+    setStyle({"Interface", "ShowToolTips"}, true);
+    EXPECT_EQ(rest(), 2);
 }

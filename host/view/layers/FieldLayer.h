@@ -23,6 +23,7 @@ struct LayerContext
     LightStyle light;
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
+    double keptPoints = 1.0; /* of the points of surfaces, 0 to 1 */
 
     /* The width of a line in pixels, never less than one. */
     float lineWidth(double percent) const;
