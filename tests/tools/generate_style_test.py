@@ -50,6 +50,20 @@ class WrittenFiles(unittest.TestCase):
             self.assertTrue(current, "build the target style_reference and commit docs/style-reference.md")
 
 
+class PropertySets(unittest.TestCase):
+    def test_a_set_derives_from_that_of_its_nodes_base_and_narrows_its_nested_sets(self):
+        with tempfile.TemporaryDirectory() as folder:
+            output = Path(folder) / "sets"
+            result = run("sets", ROOT / "style", output, ROOT / "host" / "api" / "VtxEnumerations.h")
+            self.assertEqual(result.returncode, 0, result.stderr)
+            line_axes = (output / "XYLineAxisPropertiesGenerated.h").read_text()
+            self.assertIn("class XYLineAxisPropertiesGenerated : public XYAxisPropertiesGenerated", line_axes)
+            self.assertIn("boost::shared_ptr<XYLineDetailPropertiesGenerated> getXDetail() const;", line_axes)
+            self.assertNotIn("getAxismode", line_axes)
+            axes = (output / "XYAxisPropertiesGenerated.h").read_text()
+            self.assertIn("    boost::shared_ptr<AxisDetailPropertiesGenerated> getXDetail() const;", axes)
+
+
 MEMBER = '[node.A]\nhelp = "A."\nmembers = [ %s ]\n[[place]]\npath = "A"\nnode = "A"\nscope = "frame"\n'
 
 # A description, and what the message about it has to hold: file, node, key, what is wrong, what would be right.
@@ -120,6 +134,21 @@ class WrongDescriptions(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             (Path(folder) / "wrong.toml").write_text(text)
             self.assertEqual(len(run("vocabulary", Path(folder), Path(folder) / "out").stderr.splitlines()), 2)
+
+    def test_a_set_can_only_narrow_what_its_base_has(self):
+        bases = (
+            '[node.A]\nset = true\nhelp = "A."\nmembers = [ { key = "B", type = "bool", default = true, help = "B." },'
+            ' { key = "N", node = "L", help = "N." } ]\n[node.L]\nset = true\nhelp = "L."\nmembers = []\n'
+            '[node.O]\nset = true\nhelp = "O."\nmembers = []\n[[place]]\npath = "A"\nnode = "D"\nscope = "frame"\n'
+            '[[place]]\npath = "O"\nnode = "O"\nscope = "frame"\n'
+        )
+        derived = '[node.D]\nbase = "A"\nset = true\nhelp = "D."\nmembers = [ %s ]\n'
+        for member in ('{ key = "B", type = "int", default = 1, help = "B." }', '{ key = "N", node = "O", help = "N." }'):
+            with self.subTest(member), tempfile.TemporaryDirectory() as folder:
+                (Path(folder) / "wrong.toml").write_text(bases + derived % member)
+                result = run("sets", Path(folder), Path(folder) / "out")
+                self.assertEqual(result.returncode, 1, "the fault went unseen")
+                self.assertIn('replaces a member of "A"', result.stderr)
 
     def test_a_folder_without_descriptions_is_a_fault(self):
         with tempfile.TemporaryDirectory() as folder:

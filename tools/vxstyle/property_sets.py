@@ -41,10 +41,11 @@ def contract(member: Member) -> str:
     return " ".join(facts)
 
 
-def accessors(member: Member) -> list[str]:
+def accessors(member: Member, is_narrowed: bool) -> list[str]:
     if member.node:
-        nested = nested_class(member)
-        return [f"    virtual boost::shared_ptr<{nested}> {member.getter}() const;"]
+        # A derived set that has a set of a derived kind there hides the getter by one of that type.
+        keyword = "" if is_narrowed else "virtual "
+        return [f"    {keyword}boost::shared_ptr<{nested_class(member)}> {member.getter}() const;"]
     return [
         f"    /// {contract(member)}",
         f"    virtual {exposed(member)} {member.getter}() const;",
@@ -59,9 +60,13 @@ def declaration(member: Member) -> str:
     return f"    {kind}<{cpp_type(member)}> {field_name(member)};"
 
 
-def header(one: PropertySet) -> str:
+def header(one: PropertySet, sets: list[PropertySet]) -> str:
     name = one.class_name
-    members = one.members
+    derived = [other for other in sets if other.base and other.base.name == one.name]
+    narrowed = {first.name for other in sets for first, _ in other.narrowed_members}
+    members = [*one.added_members, *(member for _, member in one.narrowed_members)]
+    base = one.base.class_name if one.base else "UIKernelStylePropertiesAbstract"
+    base_folder = "propertymanager/generated"
     nested = sorted({nested_class(member) for member in members if member.node})
     kinds = sorted({"UIPropertySetMember" if member.is_ui else "PropertySetMember" for member in members if not member.node})
     lines = [
@@ -71,7 +76,7 @@ def header(one: PropertySet) -> str:
         "",
         '#include "api/VtxEnumerations.h"',
         *(f'#include "propertymanager/generated/{kind}.h"' for kind in kinds),
-        '#include "propertymanager/generated/UIKernelStylePropertiesAbstract.h"',
+        f'#include "{base_folder}/{base}.h"',
         '#include "toolbox/StringList.h"',
         "",
         f"namespace {NAMESPACE} {{",
@@ -79,7 +84,7 @@ def header(one: PropertySet) -> str:
         *(f"class {other};" for other in nested),
         *([""] if nested else []),
         f"/// {one.help}",
-        f"class {name} : public UIKernelStylePropertiesAbstract",
+        f"class {name} : public {base}",
         "{",
         "public:",
         "    /// @param modal  whether edits wait for submit()",
@@ -92,27 +97,36 @@ def header(one: PropertySet) -> str:
         "",
     ]
     for member in members:
-        lines += accessors(member)
-    lines += ["", "private:", *(declaration(member) for member in members), "};", "", f"}} // namespace {NAMESPACE}", ""]
+        lines += accessors(member, member.name in narrowed)
+    fields = [declaration(member) for member in one.added_members]
+    lines += ["", "protected:" if derived else "private:", *fields] if fields else []
+    lines += ["};", "", f"}} // namespace {NAMESPACE}", ""]
     return "\n".join(lines)
 
 
 def constructor(one: PropertySet, argument: str, base: str, modal: str) -> list[str]:
     """`modal` and the base path reach every member; the order is that of declaration."""
     name = one.class_name
-    initialisers = [f"UIKernelStylePropertiesAbstract({base})"]
-    for member in one.members:
+    if one.base:
+        initialisers = [f"{one.base.class_name}({base}, basePath)"]
+    else:
+        initialisers = [f"UIKernelStylePropertiesAbstract({base})"]
+    for member in one.added_members:
         if member.node:
             other = nested_class(member)
             initialisers.append(f"{field_name(member)}(boost::make_shared<{other}>(this, {path(member)}))")
         else:
             initialisers.append(f"{field_name(member)}({modal}, {path(member)})")
     first, *rest = initialisers
+    replacements = [
+        f"    replaceNested({field_name(inherited)}, boost::make_shared<{nested_class(member)}>(this, {path(member)}));"
+        for inherited, member in one.narrowed_members
+    ]
     return [
         f"{name}::{name}({argument}, toolbox::StringList basePath)",
         f"    : {first}",
         *(f"    , {initialiser}" for initialiser in rest),
-        "{}",
+        *(["{", *replacements, "}"] if replacements else ["{}"]),
         "",
     ]
 
@@ -126,12 +140,19 @@ def definitions(one: PropertySet) -> list[str]:
     for member in members:
         lines.append(f"    {field_name(member)}{'->submitProperties' if member.node else '.submit'}();")
     lines += ["}", "", f"void {name}::setOffset(int first, int second)", "{", "    rememberOffset(first, second);"]
+    are_all_nested = all(member.node for member in members)
     for member in members:
+        if are_all_nested:
+            lines.append(f"    {field_name(member)}->setCollectionOffset({field_name(member)}->collectionOffset());")
         # A nested set with an offset of its own is a collection and is aimed by itself.
-        if not (member.node and member.offset):
+        elif not (member.node and member.offset):
             lines.append(f"    {field_name(member)}{'->setOffset' if member.node else '.setOffsets'}(first, second);")
     lines += ["}", ""]
-    for member in members:
+    for _, member in one.narrowed_members:
+        nested = nested_class(member)
+        cast = f"boost::static_pointer_cast<{nested}>({field_name(member)})"
+        lines += [f"boost::shared_ptr<{nested}> {name}::{member.getter}() const", "{", f"    return {cast};", "}", ""]
+    for member in one.added_members:
         if member.node:
             nested = nested_class(member)
             lines += [f"boost::shared_ptr<{nested}> {name}::{member.getter}() const", "{", f"    return {field_name(member)};", "}", ""]
@@ -154,7 +175,7 @@ def definitions(one: PropertySet) -> list[str]:
 def write(style: Style) -> dict[str, str]:
     """The text of each file by its name."""
     sets = load_sets(style)
-    files = {f"{one.class_name}.h": header(one) for one in sets}
+    files = {f"{one.class_name}.h": header(one, sets) for one in sets}
     source = [NOTICE, *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
     source += [f"namespace {NAMESPACE} {{", ""]
     for one in sets:

@@ -22,10 +22,29 @@ class PropertySet:
     path: tuple[str, ...]  # where it stands first in the style
     offsets: int  # how many offsets its values have at the least
     own_class_name: str | None = None
+    base: "PropertySet | None" = None  # the set that it derives from; `members` holds the base's members, too
 
     @property
     def class_name(self) -> str:
         return self.own_class_name or f"{self.name}PropertiesGenerated"
+
+    def inherited(self, member: Member) -> Member | None:
+        """The member of the base that this one is, or whose set it narrows to a derived one."""
+        return next((other for other in self.base.members if other.name == member.name), None) if self.base else None
+
+    @property
+    def added_members(self) -> list[Member]:
+        return [member for member in self.members if not self.inherited(member)]
+
+    @property
+    def narrowed_members(self) -> list[tuple[Member, Member]]:
+        """Nested sets that are of another kind than the base's, each behind that of the first base that has it."""
+        pairs = [(self.first_declared(member), member) for member in self.members if member.node and self.inherited(member)]
+        return [(first, member) for first, member in pairs if first.node != member.node]
+
+    def first_declared(self, member: Member) -> Member:
+        inherited = self.inherited(member)
+        return self.base.first_declared(inherited) if inherited else member
 
 
 class _Sets:
@@ -61,7 +80,24 @@ class _Sets:
                     f'{node.file}: node "{name}": key "{"/".join(member.key)}": node "{member.node}" is no set; '
                     "give it set = true, or this member set = false"
                 )
-        return PropertySet(name, node.help, members, *self.first_places[name])
+        has_base = node.base and self.style.nodes[node.base].has_set
+        one = PropertySet(name, node.help, members, *self.first_places[name], base=self.of_node(node.base) if has_base else None)
+        self.check_narrowed(node.file, one)
+        return one
+
+    def check_narrowed(self, file: str, one: PropertySet) -> None:
+        for member in one.members:
+            inherited = one.inherited(member)
+            if inherited and not self.narrows(member, inherited):
+                self.faults.append(
+                    f'{file}: node "{one.name}": key "{"/".join(member.key)}": replaces a member of "{one.base.name}", '
+                    "whose set it derives from; it needs the same type, or a node that derives from the base's"
+                )
+
+    def narrows(self, member: Member, inherited: Member) -> bool:
+        if inherited.node:
+            return inherited.node in self.with_bases(member.node)
+        return member.type == inherited.type
 
     def chosen_member(self, where: str, base: tuple[str, ...], table: dict) -> Member | None:
         key = tuple(table.get("key", "").split("/"))

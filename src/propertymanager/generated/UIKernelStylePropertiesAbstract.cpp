@@ -60,4 +60,9 @@ void UIKernelStylePropertiesAbstract::rememberOffset(int first, int second)
     m_secondOffset = second;
 }
 
+void UIKernelStylePropertiesAbstract::forget(UIKernelStylePropertiesAbstract const& nested)
+{
+    std::erase(m_nested, &nested);
+}
+
 } // namespace vantrix::sdk::ui::propertymanager

@@ -2,6 +2,9 @@
 
 #include "propertymanager/generated/UIKernelStylePropertiesInterface.h"
 
+#include <boost/shared_ptr.hpp>
+
+#include <type_traits>
 #include <vector>
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -27,7 +30,17 @@ protected:
     /// What init() aims the members at again.
     void rememberOffset(int first, int second);
 
+    /// Puts a set of a derived kind in the place of a nested one, in the constructor of a derived set.
+    template<typename Set>
+    void replaceNested(boost::shared_ptr<Set>& nested, std::type_identity_t<boost::shared_ptr<Set>> replacement)
+    {
+        forget(*nested);
+        nested = std::move(replacement);
+    }
+
 private:
+    void forget(UIKernelStylePropertiesAbstract const& nested);
+
     UIKernelStylePropertiesAbstract* m_parent = nullptr;
     std::vector<UIKernelStylePropertiesAbstract*> m_nested;
     bool m_modal;
