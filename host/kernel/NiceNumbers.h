@@ -19,4 +19,18 @@ double niceSpacing(double length, int count);
  */
 NiceRange niceRange(double minimum, double maximum, int count = 5);
 
+/* The smallest range between powers of ten that holds both numbers, which are above 0; `spacing` is 10. Two equal
+ * powers of ten give the decade above. */
+NiceRange niceDecades(double minimum, double maximum);
+
+/* The multiple of a nice spacing that follows a number, upwards or downwards. */
+double nextNiceValue(double value, double spacing, bool up);
+
+/* The number 1, 2 or 5 times a power of ten that follows a number above 0, upwards or downwards. */
+double nextNiceFactor(double value, bool up);
+
+/* A number without what binary arithmetic adds to it far behind the last decimal that matters beside `step`, which is
+ * above 0: 0.3 where three times 0.1 was added up. */
+double withoutRounding(double value, double step);
+
 } // namespace vantrix::kernel

@@ -1,71 +1,150 @@
 #include "api/VtxUtilAxis.h"
 
-#include "kernel/AxisVariables.h"
+#include "kernel/AxisRanges.h"
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/StyleStore.h"
 #include "kernel/TimeDateFormat.h"
+#include "kernel/interface/ArgumentList.h"
 #include "kernel/interface/Boundary.h"
 
 using namespace vantrix::kernel;
 
 namespace {
 
-/* Where the style of an axis of the active frame's plot is; see the top of the header for names of axes. */
-struct AxisPlace
+StyleStore& style()
 {
-    long frame;
-    std::string path; /* of the axis detail, with a slash at the end */
-    long offset = -1;
-};
-
-AxisPlace axisPlace(char axis, int axisNumber)
-{
-    const Kernel& kernel = Kernel::instance();
-    const Frame* frame = kernel.document().activeFrame();
-    if (!frame) {
-        throw DataError("There is no frame, and therefore there are no axes.");
-    }
-    const auto type = kernel.style().integer(frame->id(), kernel.style().entry("PlotType"));
-    const bool isPolar = type == PlotType_PolarLine;
-    const bool hasNumbers = type == PlotType_XYLine;
-    const std::string_view characters = isPolar ? "TR" : type == PlotType_Cartesian3D ? "XYZ" : "XY";
-    if (axis == '\0' || characters.find(axis) == std::string_view::npos || axisNumber < 1 ||
-        axisNumber > (hasNumbers ? 5 : 1)) {
-        throw DataError("The plot has no axis '" + std::string(axis ? 1 : 0, axis) + "' number " +
-                        std::to_string(axisNumber) + ".");
-    }
-    const char* root = isPolar                        ? "PolarAxis/"
-                       : type == PlotType_Cartesian3D ? "ThreeDAxis/"
-                       : type == PlotType_Cartesian2D ? "TwoDAxis/"
-                       : hasNumbers                   ? "XYLineAxis/"
-                                                      : "SketchAxis/";
-    const std::string detail = axis == 'T' ? "Theta" : std::string(1, axis);
-    return {frame->id(), root + detail + "Detail/", hasNumbers ? axisNumber : -1};
+    return Kernel::instance().style();
 }
 
-long entryOf(const AxisPlace& place, const char* path)
+const Frame& activeFrame()
 {
-    return Kernel::instance().style().entry((place.path + path).c_str());
+    if (const Frame* frame = Kernel::instance().document().activeFrame()) {
+        return *frame;
+    }
+    throw DataError("There is no frame, and therefore there are no axes.");
+}
+
+AxisRanges ranges()
+{
+    return {style(), activeFrame()};
+}
+
+AxisPlace placeOf(AxisName axis)
+{
+    return AxisPlace::find(style(), activeFrame(), axis);
+}
+
+/* Does something to the axes of the active frame; false, with the text kept, when it cannot be done. */
+template<class Change>
+bool change(Change&& how)
+{
+    return boundary::guarded(false, [&] {
+        boundary::expectLocked();
+        AxisRanges axes = ranges();
+        how(axes);
+        return true;
+    });
+}
+
+/* The named value; throws DataError when it is missing. */
+long argument(VtxArgListHandle arguments, const char* name)
+{
+    if (const long* value = arguments ? arguments->findAs<long>(name) : nullptr) {
+        return *value;
+    }
+    throw DataError(std::string("The argument \"") + name + "\" is missing, or is no integer.");
+}
+
+void expectKnownNames(VtxArgListHandle arguments)
+{
+    for (const VtxArgList::Argument& each : arguments ? arguments->arguments : std::vector<VtxArgList::Argument>()) {
+        if (each.name != "ViewOP" && each.name != "Axis" && each.name != "AxisNum" && each.name != "ConsiderBlanking") {
+            throw DataError("The argument \"" + each.name +
+                            "\" is unknown; there are \"ViewOP\", \"Axis\", \"AxisNum\" and \"ConsiderBlanking\".");
+        }
+    }
+}
+
+void setIfNotNull(long* place, long value)
+{
+    if (place) {
+        *place = value;
+    }
 }
 
 } // namespace
 
+bool VtxUtilViewAxisFit(char axis, int axisNumber)
+{
+    return change([&](AxisRanges& axes) { axes.fit({axis, axisNumber}); });
+}
+
+bool VtxUtilViewAxisNiceFit(char axis, int axisNumber)
+{
+    return change([&](AxisRanges& axes) { axes.niceFit({axis, axisNumber}); });
+}
+
+bool VtxUtilViewAxisFitToEntireCircle(char axis, int axisNumber)
+{
+    return change([&](AxisRanges& axes) { axes.fitToEntireCircle({axis, axisNumber}); });
+}
+
+bool VtxUtilViewAxisMakeCurValsNice(char axis, int axisNumber)
+{
+    return change([&](AxisRanges& axes) { axes.makeNice({axis, axisNumber}); });
+}
+
+bool VtxUtilViewX(VtxArgListHandle arguments)
+{
+    return change([&](AxisRanges& axes) {
+        expectKnownNames(arguments);
+        const long operation = argument(arguments, "ViewOP");
+        switch (operation) {
+        case ViewOp_Fit:
+        case ViewOp_DataFit:
+            axes.fitAll(operation == ViewOp_Fit);
+            return;
+        case ViewOp_AxisFit: {
+            const char axis = static_cast<char>(argument(arguments, "Axis"));
+            const long* number = arguments->findAs<long>("AxisNum");
+            axes.fit({axis, number ? static_cast<int>(*number) : 1});
+            return;
+        }
+        default:
+            throw DataError("\"ViewOP\" is " + std::to_string(operation) + "; it has to be a ViewOp_e, 0 to 2.");
+        }
+    });
+}
+
+double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice)
+{
+    return boundary::guarded(value, [&] { return ranges().nextValue({axis, axisNumber}, value, up, nice); });
+}
+
+bool VtxUtilReset3DScaleFactors(void)
+{
+    return change([](AxisRanges& axes) { axes.reset3DScaleFactors(); });
+}
+
+bool VtxUtilQueryIsXYDependentAllowedForFrame(long frameId)
+{
+    return boundary::guarded(false, [&] {
+        const Frame* frame = Kernel::instance().document().frameById(frameId);
+        return frame && AxisRanges(style(), *frame).isXYDependentAllowed();
+    });
+}
+
 bool VtxUtilAxisGetVarAssignments(long* xVariable, long* yVariable, long* zVariable)
 {
     return boundary::guarded(false, [&] {
-        const Frame* frame = Kernel::instance().document().activeFrame();
-        if (!frame || !frame->dataSet()) {
+        if (!Kernel::instance().document().activeDataSet()) {
             return boundary::fail("The active frame shows no data, so no variable serves as an axis.");
         }
-        const AxisVariables variables = axisVariables(Kernel::instance().style(), *frame);
-        const std::pair<long*, long> assigned[] = {
-            {xVariable, variables.x}, {yVariable, variables.y}, {zVariable, variables.z}};
-        for (const auto& [target, variable] : assigned) {
-            if (target) {
-                *target = variable;
-            }
-        }
+        const AxisVariables variables = ranges().variables();
+        setIfNotNull(xVariable, variables.x);
+        setIfNotNull(yVariable, variables.y);
+        setIfNotNull(zVariable, variables.z);
         return true;
     });
 }
@@ -73,9 +152,9 @@ bool VtxUtilAxisGetVarAssignments(long* xVariable, long* yVariable, long* zVaria
 NumberFormat_e VtxUtilAxisLabelGetNumberFormat(char axis, int axisNumber)
 {
     return boundary::guarded(NumberFormat_BestFloat, [&] {
-        const AxisPlace place = axisPlace(axis, axisNumber);
-        return static_cast<NumberFormat_e>(Kernel::instance().style().integer(
-            place.frame, entryOf(place, "TickLabel/NumFormat/Formatting"), place.offset));
+        const AxisPlace place = placeOf({axis, axisNumber});
+        return static_cast<NumberFormat_e>(
+            style().integer(place.frame, place.entry(style(), "TickLabel/NumFormat/Formatting"), place.offset));
     });
 }
 
@@ -83,9 +162,9 @@ bool VtxUtilAxisLabelGetTimeDateFormat(char axis, int axisNumber, char** format)
 {
     *format = nullptr;
     return boundary::guarded(false, [&] {
-        const AxisPlace place = axisPlace(axis, axisNumber);
-        *format = boundary::copyString(Kernel::instance().style().text(
-            place.frame, entryOf(place, "TickLabel/NumFormat/TimeDateFormat"), place.offset));
+        const AxisPlace place = placeOf({axis, axisNumber});
+        *format = boundary::copyString(
+            style().text(place.frame, place.entry(style(), "TickLabel/NumFormat/TimeDateFormat"), place.offset));
         return *format != nullptr;
     });
 }
@@ -101,4 +180,10 @@ bool VtxUtilStringFormatTimeDate(double value, const char* format, char** text)
         *text = boundary::copyString(*written);
         return *text != nullptr;
     });
+}
+
+/* The plot draws all data: no constraint leaves any out. */
+bool VtxUtilBlankingIsActive(void)
+{
+    return false;
 }

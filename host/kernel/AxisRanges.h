@@ -1,0 +1,75 @@
+#pragma once
+
+#include "kernel/AxisPlace.h"
+#include "kernel/AxisVariables.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+class vtkDataArray;
+
+namespace vantrix::kernel {
+
+class StyleStore;
+struct ValueRange;
+
+/*
+ * The ranges of the axes of a frame's plot: to fit them to data, to make them nice, to step through them. What changes
+ * something throws DataError, and has changed nothing, for an axis that the plot does not have and where there is
+ * nothing to fit to.
+ */
+class AxisRanges
+{
+public:
+    AxisRanges(StyleStore& style, const Frame& frame);
+
+    /* See VtxUtilViewAxisFit(), VtxUtilViewAxisNiceFit(), VtxUtilViewAxisFitToEntireCircle() and
+     * VtxUtilViewAxisMakeCurValsNice(). */
+    void fit(AxisName axis);
+    void niceFit(AxisName axis);
+    void fitToEntireCircle(AxisName axis);
+    void makeNice(AxisName axis);
+
+    /* Fits every axis of the plot that shows data. */
+    void fitAll(bool nice);
+
+    /* See VtxUtilAxisGetNextRangeValue(). */
+    double nextValue(AxisName axis, double value, bool up, bool nice) const;
+
+    /* See VtxUtilReset3DScaleFactors(). */
+    void reset3DScaleFactors();
+
+    /* See VtxUtilQueryIsXYDependentAllowedForFrame(). */
+    bool isXYDependentAllowed() const;
+
+    /* See VtxUtilAxisGetVarAssignments(). */
+    AxisVariables variables() const;
+
+private:
+    struct Limits
+    {
+        double minimum;
+        double maximum;
+    };
+    using Arrays = std::function<void(vtkDataArray&)>;
+
+    AxisPlace place(AxisName axis) const { return AxisPlace::find(m_style, m_frame, axis); }
+    double real(AxisName axis, const char* value) const;
+    bool isLogarithmic(AxisName axis) const;
+    bool isOfLinePlot() const;
+
+    void forEachArray(AxisName axis, const Arrays& use) const;
+    std::optional<ValueRange> dataRange(AxisName axis) const;
+    ValueRange expectedDataRange(AxisName axis) const;
+    Limits nice(AxisName axis, Limits limits) const;
+    void set(AxisName axis, Limits limits);
+    void setReal(long entry, double value, long offset = -1);
+
+    StyleStore& m_style;
+    const Frame& m_frame;
+    PlotType_e m_plotType;
+};
+
+} // namespace vantrix::kernel
