@@ -21,7 +21,7 @@ public:
     /// What becomes of a control that is not relevant.
     enum Manifestation
     {
-        Visibility = 0, ///< it is hidden
+        Visibility = 0, ///< it is hidden; a page of a stack is instead brought to the front while it is relevant
         Sensitivity = 1 ///< it is disabled
     };
     using WidgetUpdateMode_e = BindingInterface::WidgetUpdateMode_e;

@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
 
 using namespace vantrix::sdk::ui::dialogs::propertybindings;
 using namespace vantrix::sdk::ui::propertymanager;
@@ -50,6 +52,27 @@ TEST_F(RelevanceApplierTest, SensitivityDisablesControlsAndTellsWhy)
     EXPECT_TRUE(action.isEnabled());
     EXPECT_EQ(first->toolTip(), QStringLiteral("Creates it"));
     EXPECT_EQ(second->toolTip(), QString());
+}
+
+TEST_F(RelevanceApplierTest, ARelevantPageOfAStackComesToTheFront)
+{
+    QStackedWidget stack;
+    auto* const other = new QWidget;
+    auto* const page = new QWidget;
+    stack.addWidget(other);
+    stack.addWidget(page);
+    RelevanceApplier const applier(relevance, page, RelevanceApplier::Visibility, BindingInterface::Immediate);
+    EXPECT_EQ(stack.currentWidget(), other);
+    setRelevant(true);
+    EXPECT_EQ(stack.currentWidget(), page);
+    setRelevant(false);
+    EXPECT_EQ(stack.currentWidget(), page) << "until another page is relevant";
+
+    QTabWidget tabs;
+    tabs.addTab(other, QString());
+    tabs.addTab(page, QString());
+    setRelevant(true);
+    EXPECT_EQ(tabs.currentWidget(), other) << "tabs are the user's choice";
 }
 
 TEST_F(RelevanceApplierTest, VisibilityHidesControlsAndImmediateDoesNotWait)
