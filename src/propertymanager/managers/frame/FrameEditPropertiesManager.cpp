@@ -3,9 +3,9 @@
 #include "api/VtxUtil.h"
 #include "property/BoundedValueValidator.h"
 #include "property/Property.h"
-#include "propertymanager/PropertyDependentRelevance.h"
 #include "propertymanager/managers/DecoratedProperty.h"
 #include "propertymanager/managers/InvertingDecorator.h"
+#include "propertymanager/managers/PropertyRelevance.h"
 #include "propertymanager/managers/frame/FrameEditConvertUnitsProperty.h"
 #include "propertymanager/managers/frame/FrameEditModifyBackgroundColorsProperty.h"
 #include "sdk/AppLock.h"
@@ -16,18 +16,12 @@ namespace vantrix::sdk::ui::propertymanager {
 namespace {
 
 using Length = boost::shared_ptr<PropertyAbstract<double>>;
-using Flag = boost::shared_ptr<PropertyAbstract<bool>>;
 
 /// The bounds, in inches, are the host's own. They are checked here so that the user reads them in ruler units.
 Length inRulerUnits(Length inches, double minimum, double maximum)
 {
     return newDecorated<FrameEditConvertUnitsProperty>(
         std::move(inches), boost::make_shared<BoundedValueValidator<double> const>(minimum, maximum));
-}
-
-boost::shared_ptr<RelevanceInterface const> whileSet(Flag const& flag)
-{
-    return boost::make_shared<PropertyDependentRelevance<bool>>(flag, true);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "propertymanager/managers/frame/PerformancePropertiesManager.h"
 
 #include "api/VtxUtil.h"
-#include "propertymanager/PropertyDependentRelevance.h"
 #include "propertymanager/managers/DecoratedProperty.h"
 #include "propertymanager/managers/PercentDecorator.h"
+#include "propertymanager/managers/PropertyRelevance.h"
 #include "propertymanager/managers/PropertySetSubmission.h"
 #include "propertymanager/managers/frame/PerformanceGraphicsCacheLevelProperty.h"
 #include "propertymanager/managers/frame/PerformanceHighQualityFontProperty.h"
@@ -13,16 +13,6 @@
 #include "ui/relevance/StateChangeFilters.h"
 
 namespace vantrix::sdk::ui::propertymanager {
-
-namespace {
-
-template<typename T>
-boost::shared_ptr<RelevanceInterface const> whileEqual(boost::shared_ptr<PropertyAbstract<T>> property, T const& value)
-{
-    return boost::make_shared<PropertyDependentRelevance<T>>(std::move(property), value);
-}
-
-} // namespace
 
 PerformancePropertiesManager::PerformancePropertiesManager()
     : m_properties(true, toolbox::StringList())
