@@ -13,7 +13,14 @@ import subprocess
 import sys
 from collections import defaultdict
 
-AIMS = {"property_to_widget": 1.5, "state_change": 1.5, "dialog_launch": 1.5, "open_file": 1.2}
+AIMS = {
+    "property_to_widget": 1.5,
+    "state_change": 1.5,
+    "dialog_launch": 1.5,
+    "axis_details_open": 1.5,
+    "axis_details_tab": 1.5,
+    "open_file": 1.2,
+}
 REPETITIONS = 9
 
 
