@@ -1,6 +1,7 @@
 #include "dialogs/DialogRegistry.h"
 
 #include "api/VtxUtil.h"
+#include "dialogs/axis/AxisEditDialog.h"
 #include "dialogs/frame/FrameEditDialog.h"
 #include "dialogs/frame/OptionsRulerGridDialog.h"
 #include "dialogs/frame/PaperSetupDialog.h"
@@ -65,6 +66,7 @@ std::vector<DialogEntry> const& dialogRegistry()
         entry<ProbeDialog>("&Data/&Probe...", "probe"),
         entry<ProbeAtDialog>("&Data/Probe &At...", "probe_at"),
         entry<ProbeHistoryDialog>("&Data/Probe &History...", "probe_history"),
+        entry<AxisEditDialog>("&Plot/&Axis...", "axis_details"),
         entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit"),
         entry<OptionsRulerGridDialog>("&Options/&Ruler and Grid...", "options_ruler_grid"),
         entry<PerformanceDialog>("&Options/&Performance...", "performance"),

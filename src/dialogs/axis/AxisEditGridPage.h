@@ -1,0 +1,30 @@
+#pragma once
+
+#include "dialogs/FormBindings.h"
+#include "dialogs/axis/AxisEditPageInterface.h"
+#include "propertymanager/managers/axis/AxisEditGridPageManager.h"
+
+namespace Ui {
+class AxisEdit;
+}
+
+namespace vantrix::sdk::ui::dialogs {
+
+/// The page of the axis dialog for lines across the plot and dots at its ticks.
+class AxisEditGridPage : public AxisEditPageInterface
+{
+public:
+    /// @param form        has the page's widgets
+    /// @param properties  the axis that is edited; all arguments outlive the page
+    AxisEditGridPage(QWidget& parent, Ui::AxisEdit& form, propertymanager::AxisEditProperties& properties);
+
+private:
+    void createBindings();
+    void bindRelevanciesToControls();
+
+    Ui::AxisEdit& m_form;
+    propertymanager::AxisEditGridPageManager m_manager;
+    FormBindings m_bindings;
+};
+
+} // namespace vantrix::sdk::ui::dialogs
