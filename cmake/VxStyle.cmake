@@ -29,7 +29,10 @@ add_custom_target(style_reference
 # The property sets are written while configuring, because which files there are follows from the descriptions.
 # Headers are then included as "propertymanager/generated/FrameEditPropertiesGenerated.h".
 set(VX_GENERATED_ROOT ${PROJECT_BINARY_DIR}/generated)
-set(VX_PROPERTY_SETS ${VX_GENERATED_ROOT}/propertymanager/generated/PropertySets.cpp)
+set(VX_PROPERTY_SETS "")
+foreach(number 1 2 3 4)
+  list(APPEND VX_PROPERTY_SETS ${VX_GENERATED_ROOT}/propertymanager/generated/PropertySets${number}.cpp)
+endforeach()
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${VX_STYLE_DEPENDS})
 foreach(written "sets;propertymanager/generated" "walk;tests/PropertySetWalk.h")
   list(GET written 0 what)

@@ -1,11 +1,35 @@
 #include "sdk/StateChangeEventObservable.h"
 
 #include "api/VtxUtilState.h"
+#include "sdk/CallGuarded.h"
 #include "toolbox/StateChangeEvent.h"
+
+#include <boost/signals2/dummy_mutex.hpp>
+#include <boost/signals2/signal_type.hpp>
 
 namespace vantrix::sdk::integration {
 
 namespace {
+
+/// Calls every slot, whatever the ones before it do.
+struct CallEverySlot
+{
+    using result_type = void;
+
+    template<typename Iterator>
+    void operator()(Iterator slot, Iterator end) const
+    {
+        for (; slot != end; ++slot) {
+            callGuarded([&slot] { *slot; });
+        }
+    }
+};
+
+// Everything is called on one thread, so a mutex would only cost.
+using SlotSignal =
+    boost::signals2::signal_type<void(toolbox::StateChangeEventInterface const&),
+                                 boost::signals2::keywords::combiner_type<CallEverySlot>,
+                                 boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
 
 void passOn(VtxStateChangeHandle change, void* observable)
 {
@@ -16,6 +40,11 @@ void passOn(VtxStateChangeHandle change, void* observable)
 
 } // namespace
 
+struct StateChangeEventObservable::Signal
+{
+    SlotSignal signal;
+};
+
 StateChangeEventObservable& StateChangeEventObservable::getInstance()
 {
     // Never destroyed: the host may still notify while the process ends.
@@ -24,8 +53,26 @@ StateChangeEventObservable& StateChangeEventObservable::getInstance()
 }
 
 StateChangeEventObservable::StateChangeEventObservable()
+    : m_signal(std::make_unique<Signal>())
 {
     VtxUtilStateChangeAddListener(&passOn, this);
+}
+
+StateChangeEventObservable::~StateChangeEventObservable() = default;
+
+void StateChangeEventObservable::notify(toolbox::StateChangeEventInterface const& event)
+{
+    m_signal->signal(event);
+}
+
+boost::signals2::connection StateChangeEventObservable::connectAtBack(Slot const& slot)
+{
+    return m_signal->signal.connect(slot);
+}
+
+void StateChangeEventObservable::disconnect(SlotEqualTo const& slot)
+{
+    m_signal->signal.disconnect(slot);
 }
 
 } // namespace vantrix::sdk::integration

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "property/ConnectOnce.h"
-#include "sdk/CallGuarded.h"
 #include "toolbox/StateChangeEventInterface.h"
 
-#include <boost/signals2.hpp>
-#include <boost/signals2/dummy_mutex.hpp>
-#include <boost/signals2/signal_type.hpp>
+#include <boost/function.hpp>
+
+#include <memory>
 
 namespace vantrix::sdk::integration {
 
@@ -18,25 +17,7 @@ namespace vantrix::sdk::integration {
 class StateChangeEventObservable
 {
 public:
-    /// Calls every slot, whatever the ones before it do.
-    struct CallEverySlot
-    {
-        using result_type = void;
-
-        template<typename Iterator>
-        void operator()(Iterator slot, Iterator end) const
-        {
-            for (; slot != end; ++slot) {
-                callGuarded([&slot] { *slot; });
-            }
-        }
-    };
-
-    // Everything is called on one thread, so a mutex would only cost.
-    using Signal =
-        boost::signals2::signal_type<void(toolbox::StateChangeEventInterface const&),
-                                     boost::signals2::keywords::combiner_type<CallEverySlot>,
-                                     boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
+    using Slot = boost::function<void(toolbox::StateChangeEventInterface const&)>;
 
     /// Lives as long as the process.
     static StateChangeEventObservable& getInstance();
@@ -45,20 +26,28 @@ public:
     StateChangeEventObservable& operator=(StateChangeEventObservable const&) = delete;
 
     /// Connects a slot `void(toolbox::StateChangeEventInterface const&)`; a slot that equals it is disconnected first.
-    template<typename Slot>
-    boost::signals2::connection connect(Slot const& slot)
+    template<typename AnySlot>
+    boost::signals2::connection connect(AnySlot const& slot)
     {
-        return connectOnce(m_signal, slot);
+        if constexpr (ComparableSlot<AnySlot>) {
+            disconnect(SlotEqualTo(slot));
+        }
+        return connectAtBack(slot);
     }
 
     /// Tells all slots; what the host's notification does.
-    void notify(toolbox::StateChangeEventInterface const& event) { m_signal(event); }
+    void notify(toolbox::StateChangeEventInterface const& event);
 
 private:
-    StateChangeEventObservable();
-    ~StateChangeEventObservable() = default;
+    struct Signal;
 
-    Signal m_signal;
+    StateChangeEventObservable();
+    ~StateChangeEventObservable();
+
+    boost::signals2::connection connectAtBack(Slot const& slot);
+    void disconnect(SlotEqualTo const& slot);
+
+    std::unique_ptr<Signal> m_signal;
 };
 
 } // namespace vantrix::sdk::integration

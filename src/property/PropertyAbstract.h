@@ -1,10 +1,10 @@
 #pragma once
 
 #include "property/AllowAnyValueValidator.h"
-#include "property/ConnectOnce.h"
 #include "property/InvalidPropertyValueException.h"
 #include "property/PropertyItemInterface.h"
 #include "property/ValidatorInterface.h"
+#include "property/ValueSignal.h"
 
 #include <boost/bind/bind.hpp>
 #include <boost/make_shared.hpp>
@@ -28,7 +28,7 @@ class PropertyAbstract : public PropertyItemInterface
 public:
     using ValueType = T;
     using Validator = ValidatorInterface<T>;
-    using ValueChangedSignal = boost::signals2::signal<void(T const&)>;
+    using ValueChangedSignal = ValueSignal<T>;
 
     /// Accepts every value.
     PropertyAbstract();
@@ -77,7 +77,7 @@ public:
     ValueChangedSignal& valueChangedSignal() const { return m_valueChanged; }
 
     /// How many listeners a property's value-changed signal has, its own link to the property-changed signal left out.
-    static std::size_t listenerCount(ValueChangedSignal const& signal) { return signal.num_slots() - 1; }
+    static std::size_t listenerCount(ValueChangedSignal const& signal) { return signal.slotCount() - 1; }
     std::size_t valueChangedListenerCount() const { return listenerCount(m_valueChanged); }
 
     boost::shared_ptr<Validator const> validator() const { return m_validator; }
@@ -100,9 +100,7 @@ PropertyAbstract<T>::PropertyAbstract()
 template<typename T>
 PropertyAbstract<T>::PropertyAbstract(boost::shared_ptr<Validator const> validator)
     : m_validator(std::move(validator))
-    // Listeners are not in a group and connect at the back: the group makes the untyped signal fire first.
-    , m_linkToPropertyChanged(
-          m_valueChanged.connect(1, boost::bind(&PropertyAbstract::callBaseClassSignalIfThereAreListeners, this)))
+    , m_linkToPropertyChanged(m_valueChanged.connectInFront([this] { callBaseClassSignalIfThereAreListeners(); }))
 {}
 
 template<typename T>
@@ -148,7 +146,7 @@ template<typename T>
 template<typename Slot>
 boost::signals2::connection PropertyAbstract<T>::connectToValueChangedSignal(Slot const& slot) const
 {
-    boost::signals2::connection const connection = connectOnce(m_valueChanged, slot);
+    boost::signals2::connection const connection = m_valueChanged.connectOnce(slot);
     signalValueChangedConnected();
     return connection;
 }

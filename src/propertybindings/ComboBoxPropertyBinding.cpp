@@ -21,13 +21,66 @@ namespace {
 constexpr int LONG_LIST = 1000;
 constexpr int WIDTH_WITH_LONG_LIST = 24;
 
-template<typename T>
-QString textOfValue(T const& value)
+template<typename Number>
+QString textOfNumber(Number number)
 {
     std::ostringstream stream;
     stream.imbue(std::locale::classic());
-    stream << value;
+    stream << number;
     return QString::fromStdString(stream.str());
+}
+
+template<typename T>
+QString textOfValue(T const& value)
+{
+    if constexpr (std::is_floating_point_v<T>) {
+        return textOfNumber(value);
+    } else {
+        return textOfNumber(static_cast<int>(value));
+    }
+}
+
+struct UpdateOnIdle
+{
+    template<typename... Rows>
+    void operator()(Rows...) const
+    {
+        binding->updateValueOnIdle();
+    }
+
+    BindingInterface* binding;
+};
+
+void prepare(QComboBox& comboBox, int rows)
+{
+    comboBox.setInsertPolicy(QComboBox::NoInsert);
+    if (comboBox.isEditable()) {
+        // It would turn a typed 1 into the 1.5 of a row.
+        comboBox.setCompleter(nullptr);
+    }
+    if (auto* list = qobject_cast<QListView*>(comboBox.view())) {
+        list->setUniformItemSizes(true);
+    }
+    if (rows >= LONG_LIST) {
+        comboBox.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        comboBox.setMinimumContentsLength(WIDTH_WITH_LONG_LIST);
+    }
+}
+
+void refuse(QComboBox& comboBox, QString const& text, std::string const& expected)
+{
+    showRefusal(InvalidPropertyValueException("\"" + text.toStdString() + "\" cannot be used here. Please enter " +
+                                              expected + "."));
+    returnToRefusedEdit(comboBox);
+}
+
+void select(QComboBox& comboBox, int row)
+{
+    comboBox.setCurrentIndex(row);
+    if (comboBox.isEditable()) {
+        // A text typed over the current row does not go away by making that row current.
+        comboBox.setEditText(comboBox.itemData(row, Qt::EditRole).toString());
+    }
 }
 
 } // namespace
@@ -73,28 +126,16 @@ template<typename T>
 void ComboBoxPropertyBinding<T>::init(ModelUpdateMode mode)
 {
     installValidator();
+    UpdateOnIdle const update{this};
     if (mode == BindingInterface::DeferWhileBusy) {
-        m_deferrer = std::make_unique<WidgetUpdateDeferrerOnBusy>(*m_comboBox, [this] { this->updateValueOnIdle(); });
+        m_deferrer = std::make_unique<WidgetUpdateDeferrerOnBusy>(*m_comboBox, update);
     }
-    m_comboBox->setInsertPolicy(QComboBox::NoInsert);
-    if (m_comboBox->isEditable()) {
-        // It would turn a typed 1 into the 1.5 of a row.
-        m_comboBox->setCompleter(nullptr);
-    }
-
-    auto const update = [this](auto...) { this->updateValueOnIdle(); };
     m_modelConnections.add(m_model.connectToDataChangedSignal(update));
     m_modelConnections.add(m_model.connectToItemChangedSignal(update));
     m_modelConnections.add(m_model.connectToItemsInsertedSignal(update));
     m_modelConnections.add(m_model.connectToItemsRemovedSignal(update));
 
-    if (auto* list = qobject_cast<QListView*>(m_comboBox->view())) {
-        list->setUniformItemSizes(true);
-    }
-    if (m_model.size() >= LONG_LIST) {
-        m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        m_comboBox->setMinimumContentsLength(WIDTH_WITH_LONG_LIST);
-    }
+    prepare(*m_comboBox, m_model.size());
     m_listModel = std::make_unique<models::QListModel<T>>(m_model);
     m_comboBox->setModel(m_listModel.get());
 
@@ -112,11 +153,7 @@ void ComboBoxPropertyBinding<T>::updateWidget()
     T const value = this->property().value();
     int const row = m_model.indexOf(value);
     if (row >= 0) {
-        m_comboBox->setCurrentIndex(row);
-        if (m_comboBox->isEditable()) {
-            // A text typed over the current row does not go away by making that row current.
-            m_comboBox->setEditText(m_comboBox->itemData(row, Qt::EditRole).toString());
-        }
+        select(*m_comboBox, row);
     } else if (m_comboBox->isEditable()) {
         m_comboBox->setEditText(textOfValue(value));
     } else if (m_model.size() > 0) {
@@ -153,9 +190,7 @@ void ComboBoxPropertyBinding<T>::refuseEditedText(QString const& text)
 {
     this->updateWidget();
     if (auto const* source = dynamic_cast<models::EditedValueSource<T> const*>(&m_model)) {
-        showRefusal(InvalidPropertyValueException("\"" + text.toStdString() + "\" cannot be used here. Please enter " +
-                                                  source->expectedText() + "."));
-        returnToRefusedEdit(*m_comboBox);
+        refuse(*m_comboBox, text, source->expectedText());
     }
 }
 

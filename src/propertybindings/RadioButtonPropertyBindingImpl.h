@@ -6,27 +6,11 @@
 
 #include "sdk/AppLock.h"
 
-#include <QButtonGroup>
-
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 
-/// Qt refuses to uncheck the only checked button of an exclusive group; a property may have a value of no button.
-inline void uncheck(QAbstractButton& button)
-{
-    if (!button.isChecked()) {
-        return;
-    }
-    if (QButtonGroup* group = button.group(); group && group->exclusive()) {
-        group->setExclusive(false);
-        button.setChecked(false);
-        group->setExclusive(true);
-    } else {
-        bool const isExclusive = button.autoExclusive();
-        button.setAutoExclusive(false);
-        button.setChecked(false);
-        button.setAutoExclusive(isExclusive);
-    }
-}
+/// Unchecks a button, also the only checked one of an exclusive group, which Qt refuses to: a property may have a value
+/// of no button.
+void uncheck(QAbstractButton& button);
 
 template<typename T>
 RadioButtonPropertyBinding<T>::RadioButtonPropertyBinding(QAbstractButton* button,

@@ -1,15 +1,12 @@
 #pragma once
 
 #include "property/PropertyAbstract.h"
-#include "propertybindings/BindingInterface.h"
 #include "propertybindings/EditRefusal.h"
 #include "propertybindings/PropertyBindingInterface.h"
+#include "propertybindings/WidgetUpdateScheduler.h"
 #include "propertymanager/UIStylePropertyAbstract.h"
-#include "sdk/OnIdleActionPerformerSingleShot.h"
 
 #include <QWidget>
-
-#include <memory>
 
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 
@@ -32,9 +29,9 @@ public:
 
     PropertyAbstract<T>& property() const override { return *m_property; }
 
-    void updateVisibility() override;
-    void updateSensitivity() override;
-    void updateValueOnIdle() override { m_valueOnIdle.enableNotification(); }
+    void updateVisibility() override { m_scheduler.updateVisibility(widget()); }
+    void updateSensitivity() override { m_scheduler.updateSensitivity(widget()); }
+    void updateValueOnIdle() override { m_scheduler.updateValueOnIdle(); }
 
     /// Follows the property from now on. Calling it again changes nothing.
     void startListeningToProperty();
@@ -47,32 +44,18 @@ protected:
     bool setProperty(T const& value);
 
 private:
-    using Performer = OnIdleActionPerformerSingleShot;
-
-    void notify(Performer& onIdle, void (BindingInterface::*update)());
-    void valueChanged() { notify(m_valueOnIdle, &BindingInterface::updateWidget); }
-    void visibilityChanged() { notify(*m_visibilityOnIdle, &BindingInterface::updateVisibility); }
-    void sensitivityChanged() { notify(*m_sensitivityOnIdle, &BindingInterface::updateSensitivity); }
-
-    WidgetUpdateMode_e m_updateMode;
     PropertyAbstract<T>* m_property;
     boost::shared_ptr<PropertyAbstract<T>> m_propertyOwner;
-    propertymanager::UIPropertyInterface* m_uiProperty = nullptr;
-    Performer m_valueOnIdle;
-    std::unique_ptr<Performer> m_visibilityOnIdle;
-    std::unique_ptr<Performer> m_sensitivityOnIdle;
+    WidgetUpdateScheduler m_scheduler;
     boost::signals2::scoped_connection m_valueConnection;
-    boost::signals2::scoped_connection m_visibilityConnection;
-    boost::signals2::scoped_connection m_sensitivityConnection;
 };
 
 template<typename T>
 UIPropertyBindingAbstract<T>::UIPropertyBindingAbstract(boost::shared_ptr<PropertyAbstract<T>> property,
                                                         WidgetUpdateMode_e updateMode)
-    : m_updateMode(updateMode)
-    , m_property(property.get())
+    : m_property(property.get())
     , m_propertyOwner(std::move(property))
-    , m_valueOnIdle([this] { updateWidget(); })
+    , m_scheduler(*this, updateMode, nullptr)
 {
     startListeningToProperty();
 }
@@ -80,12 +63,8 @@ UIPropertyBindingAbstract<T>::UIPropertyBindingAbstract(boost::shared_ptr<Proper
 template<typename T>
 UIPropertyBindingAbstract<T>::UIPropertyBindingAbstract(propertymanager::UIStylePropertyAbstract<T>& property,
                                                         WidgetUpdateMode_e updateMode)
-    : m_updateMode(updateMode)
-    , m_property(&property)
-    , m_uiProperty(&property)
-    , m_valueOnIdle([this] { updateWidget(); })
-    , m_visibilityOnIdle(std::make_unique<Performer>([this] { updateVisibility(); }))
-    , m_sensitivityOnIdle(std::make_unique<Performer>([this] { updateSensitivity(); }))
+    : m_property(&property)
+    , m_scheduler(*this, updateMode, &property)
 {
     startListeningToProperty();
 }
@@ -94,42 +73,15 @@ template<typename T>
 void UIPropertyBindingAbstract<T>::startListeningToProperty()
 {
     m_valueConnection =
-        m_property->connectToValueChangedSignal(boost::bind(&UIPropertyBindingAbstract::valueChanged, this));
-    if (m_uiProperty) {
-        m_visibilityConnection = m_uiProperty->connectToVisibilityChangedSignal(
-            boost::bind(&UIPropertyBindingAbstract::visibilityChanged, this));
-        m_sensitivityConnection = m_uiProperty->connectToSensitivityChangedSignal(
-            boost::bind(&UIPropertyBindingAbstract::sensitivityChanged, this));
-    }
-}
-
-template<typename T>
-void UIPropertyBindingAbstract<T>::updateVisibility()
-{
-    if (m_uiProperty && widget()) {
-        widget()->setVisible(m_uiProperty->isVisible());
-    }
-}
-
-template<typename T>
-void UIPropertyBindingAbstract<T>::updateSensitivity()
-{
-    if (m_uiProperty && widget()) {
-        widget()->setEnabled(m_uiProperty->isSensitive());
-    }
+        m_property->connectToValueChangedSignal(boost::bind(&WidgetUpdateScheduler::valueChanged, &m_scheduler));
+    m_scheduler.followStates();
 }
 
 template<typename T>
 void UIPropertyBindingAbstract<T>::initWidget()
 {
     updateWidget();
-    // A widget that somebody else has hidden or disabled stays so: only the property's refusal counts here.
-    if (m_uiProperty && !m_uiProperty->isVisible()) {
-        updateVisibility();
-    }
-    if (m_uiProperty && !m_uiProperty->isSensitive()) {
-        updateSensitivity();
-    }
+    m_scheduler.initStates();
 }
 
 template<typename T>
@@ -141,16 +93,6 @@ bool UIPropertyBindingAbstract<T>::setProperty(T const& value)
     } catch (InvalidPropertyValueException const& exception) {
         showRefusal(exception);
         return false;
-    }
-}
-
-template<typename T>
-void UIPropertyBindingAbstract<T>::notify(Performer& onIdle, void (BindingInterface::*update)())
-{
-    if (m_updateMode == Immediate) {
-        (this->*update)();
-    } else {
-        onIdle.enableNotification();
     }
 }
 

@@ -1,9 +1,10 @@
-"""Writes the property sets of the dialogs library: one header a set, one source for all of them."""
+"""Writes the property sets of the dialogs library: one header a set, and a few sources that compile side by side."""
 
 from .description import INTEGER_TYPES, Member, Style
 from .sets import PropertySet, load_sets
 
 NAMESPACE = "vantrix::sdk::ui::propertymanager"
+SOURCES = 4  # as many as cmake/VxStyle.cmake names
 NOTICE = "/* Written from style/ by tools/generate_style.py. Do not edit. */"
 
 
@@ -172,15 +173,21 @@ def definitions(one: PropertySet) -> list[str]:
     return lines
 
 
+def source(sets: list[PropertySet], defined: list[PropertySet]) -> str:
+    """Nested sets are made in the sources of others, so each source knows all classes."""
+    lines = [NOTICE, *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
+    lines += [f"namespace {NAMESPACE} {{", ""]
+    for one in defined:
+        lines += definitions(one)
+    return "\n".join([*lines, f"}} // namespace {NAMESPACE}", ""])
+
+
 def write(style: Style) -> dict[str, str]:
     """The text of each file by its name."""
     sets = load_sets(style)
     files = {f"{one.class_name}.h": header(one, sets) for one in sets}
-    source = [NOTICE, *(f'#include "propertymanager/generated/{one.class_name}.h"' for one in sets), ""]
-    source += [f"namespace {NAMESPACE} {{", ""]
-    for one in sets:
-        source += definitions(one)
-    files["PropertySets.cpp"] = "\n".join([*source, f"}} // namespace {NAMESPACE}", ""])
+    for number in range(SOURCES):
+        files[f"PropertySets{number + 1}.cpp"] = source(sets, sets[number::SOURCES])
     return files
 
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <boost/signals2.hpp>
+#include "property/ValueSignal.h"
 
 #include <string>
 
@@ -20,11 +20,11 @@ public:
     template<typename Slot>
     boost::signals2::connection connectToValueEnteredSignal(Slot const& slot) const
     {
-        return m_valueEntered.connect(slot);
+        return m_valueEntered.connectOnce(slot);
     }
 
 protected:
-    mutable boost::signals2::signal<void(T const& value)> m_valueEntered;
+    mutable ValueSignal<T> m_valueEntered;
 };
 
 } // namespace vantrix::sdk::ui::dialogs::propertybindings::models

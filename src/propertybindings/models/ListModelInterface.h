@@ -1,5 +1,6 @@
 #pragma once
 
+#include <boost/function.hpp>
 #include <boost/signals2.hpp>
 
 #include <string>
@@ -56,8 +57,7 @@ public:
     virtual ~ListModelInterface() = default;
 
     /// Called when the whole list may be another one.
-    template<typename Slot>
-    boost::signals2::connection connectToDataChangedSignal(Slot const& slot) const
+    boost::signals2::connection connectToDataChangedSignal(boost::function<void()> const& slot) const
     {
         boost::signals2::connection const connection = m_dataChanged.connect(slot);
         signalDataChangedConnected();
@@ -65,8 +65,7 @@ public:
     }
 
     /// Called with the row that has another value or text.
-    template<typename Slot>
-    boost::signals2::connection connectToItemChangedSignal(Slot const& slot) const
+    boost::signals2::connection connectToItemChangedSignal(boost::function<void(int)> const& slot) const
     {
         boost::signals2::connection const connection = m_itemChanged.connect(slot);
         signalItemChangedConnected();
@@ -74,8 +73,7 @@ public:
     }
 
     /// Called with the first and the last row that are new.
-    template<typename Slot>
-    boost::signals2::connection connectToItemsInsertedSignal(Slot const& slot) const
+    boost::signals2::connection connectToItemsInsertedSignal(boost::function<void(int, int)> const& slot) const
     {
         boost::signals2::connection const connection = m_itemsInserted.connect(slot);
         signalItemsInsertedConnected();
@@ -83,8 +81,7 @@ public:
     }
 
     /// Called with the first and the last row that are gone, as they were numbered before.
-    template<typename Slot>
-    boost::signals2::connection connectToItemsRemovedSignal(Slot const& slot) const
+    boost::signals2::connection connectToItemsRemovedSignal(boost::function<void(int, int)> const& slot) const
     {
         boost::signals2::connection const connection = m_itemsRemoved.connect(slot);
         signalItemsRemovedConnected();
