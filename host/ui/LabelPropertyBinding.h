@@ -1,7 +1,7 @@
 #pragma once
 
+#include "propertybindings/PlainText.h"
 #include "propertybindings/UIPropertyBindingAbstract.h"
-#include "propertybindings/ValueFormat.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -34,7 +34,7 @@ public:
     void updateWidget() override
     {
         if (m_label) {
-            m_label->setText(formatValue(plainValueFormat, this->property().retrieveValue()));
+            m_label->setText(plainText(this->property().retrieveValue()));
         }
     }
 

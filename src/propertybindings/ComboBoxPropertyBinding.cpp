@@ -1,6 +1,7 @@
 #include "propertybindings/ComboBoxPropertyBinding.h"
 
 #include "propertybindings/LineEditPropertyBindingAbstract.h"
+#include "propertybindings/PlainText.h"
 #include "propertybindings/models/EditedValueSource.h"
 #include "sdk/AppLock.h"
 
@@ -8,9 +9,7 @@
 #include <QListView>
 
 #include <limits>
-#include <locale>
 #include <optional>
-#include <sstream>
 #include <type_traits>
 
 namespace vantrix::sdk::ui::dialogs::propertybindings {
@@ -21,22 +20,13 @@ namespace {
 constexpr int LONG_LIST = 1000;
 constexpr int WIDTH_WITH_LONG_LIST = 24;
 
-template<typename Number>
-QString textOfNumber(Number number)
-{
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << number;
-    return QString::fromStdString(stream.str());
-}
-
 template<typename T>
 QString textOfValue(T const& value)
 {
     if constexpr (std::is_floating_point_v<T>) {
-        return textOfNumber(value);
+        return plainText(value);
     } else {
-        return textOfNumber(static_cast<int>(value));
+        return plainText(static_cast<int>(value));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "propertybindings/TextFieldPropertyBinding.h"
 
+#include "propertybindings/PlainText.h"
+
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 
 template<typename T>
@@ -38,7 +40,7 @@ void TextFieldPropertyBinding<T>::updateWidget()
 template<typename T>
 QString TextFieldPropertyBinding<T>::textOf(T const& value) const
 {
-    return formatValue(m_format, value);
+    return plainText(value);
 }
 
 template class TextFieldPropertyBinding<int>;

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "propertybindings/LineEditPropertyBindingAbstract.h"
-#include "propertybindings/ValueFormat.h"
-
-#include <string>
 
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 
@@ -33,7 +30,6 @@ protected:
     QString textOf(T const& value) const override;
 
 private:
-    std::string const m_format = plainValueFormat;
     CursorPosition_e m_cursorPosition;
 };
 

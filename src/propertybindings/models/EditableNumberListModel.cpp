@@ -1,24 +1,10 @@
 #include "propertybindings/models/EditableNumberListModel.h"
 
-#include <QString>
+#include "propertybindings/PlainText.h"
 
-#include <locale>
 #include <optional>
-#include <sstream>
 
 namespace vantrix::sdk::ui::dialogs::propertybindings::models {
-
-namespace {
-
-std::string numberText(double number)
-{
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << number;
-    return stream.str();
-}
-
-} // namespace
 
 EditableNumberListModel::EditableNumberListModel(Rows rows, double minimum, double maximum, std::string noun)
     : PremappedListModel<double>(std::move(rows))
@@ -29,7 +15,7 @@ EditableNumberListModel::EditableNumberListModel(Rows rows, double minimum, doub
 
 std::string EditableNumberListModel::getStrForEdit(int row) const
 {
-    return numberText(get(row));
+    return plainText(get(row)).toStdString();
 }
 
 bool EditableNumberListModel::setEditedItem(std::string const& text, int /*row*/) const
@@ -56,7 +42,7 @@ bool EditableNumberListModel::setEditedItem(std::string const& text, int /*row*/
 
 std::string EditableNumberListModel::expectedText() const
 {
-    return m_noun + " from " + numberText(m_minimum) + " to " + numberText(m_maximum);
+    return m_noun + " from " + plainText(m_minimum).toStdString() + " to " + plainText(m_maximum).toStdString();
 }
 
 } // namespace vantrix::sdk::ui::dialogs::propertybindings::models
