@@ -14,6 +14,10 @@
 
 namespace vantrix::dialogs::common {
 
+namespace {
+QString const geometryKey = QStringLiteral("geometry");
+}
+
 QtDialogAbstract::QtDialogAbstract(QWidget& parent, Relevance relevance)
     : QDialog(&parent)
     , m_relevance(std::move(relevance))
@@ -250,7 +254,11 @@ QtDialogAbstract::Settings QtDialogAbstract::openSettings() const
 void QtDialogAbstract::savePersistentState() const
 {
     Settings const settings = openSettings();
-    settings->setValue(QStringLiteral("geometry"), saveGeometry());
+    // What is set is written to the file, also where it is there already.
+    QByteArray const geometry = saveGeometry();
+    if (settings->value(geometryKey).toByteArray() != geometry) {
+        settings->setValue(geometryKey, geometry);
+    }
     for (auto const& state : m_persistentStates) {
         state->save(*settings);
     }
@@ -259,7 +267,7 @@ void QtDialogAbstract::savePersistentState() const
 void QtDialogAbstract::restorePersistentState()
 {
     Settings const settings = openSettings();
-    restoreGeometry(settings->value(QStringLiteral("geometry")).toByteArray());
+    restoreGeometry(settings->value(geometryKey).toByteArray());
     for (auto const& state : m_persistentStates) {
         state->restore(*settings);
     }

@@ -11,9 +11,14 @@ class SpinBoxIntPropertyBinding : public SpinBoxPropertyBindingAbstract<int, QSp
 {
 public:
     SpinBoxIntPropertyBinding(QSpinBox* spinBox, boost::shared_ptr<PropertyAbstract<int>> property,
-                              WidgetUpdateMode_e updateMode);
+                              WidgetUpdateMode_e updateMode)
+        : SpinBoxPropertyBindingAbstract(spinBox, std::move(property), updateMode)
+    {}
+
     SpinBoxIntPropertyBinding(QSpinBox* spinBox, propertymanager::UIStylePropertyAbstract<int>& property,
-                              WidgetUpdateMode_e updateMode);
+                              WidgetUpdateMode_e updateMode)
+        : SpinBoxPropertyBindingAbstract(spinBox, property, updateMode)
+    {}
 };
 
 } // namespace vantrix::sdk::ui::dialogs::propertybindings

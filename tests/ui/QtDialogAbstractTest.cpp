@@ -8,7 +8,10 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDialogButtonBox>
+#include <QFile>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -201,6 +204,28 @@ TEST_F(QtDialogAbstractTest, SizeIsKeptFromRunToRun)
     SampleDialog dialog(parent);
     launch(dialog);
     EXPECT_EQ(dialog.width(), width);
+}
+
+TEST_F(QtDialogAbstractTest, TheSettingsFileIsWrittenOnlyWhenSomethingChanged)
+{
+    QSettings const settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("vantrix"),
+                             QStringLiteral("dialogs"));
+    auto const open = [this](int wider) {
+        SampleDialog dialog(parent);
+        launch(dialog);
+        dialog.resize(dialog.width() + wider, dialog.height());
+        idle();
+        dialog.drop();
+    };
+    open(0);
+    QDateTime const longAgo(QDate(2001, 2, 3), QTime(4, 5));
+    QFile file(settings.fileName());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+    file.close();
+    open(0);
+    EXPECT_EQ(QFileInfo(file.fileName()).lastModified(), longAgo);
+    open(50);
+    EXPECT_GT(QFileInfo(file.fileName()).lastModified(), longAgo);
 }
 
 TEST_F(QtDialogAbstractTest, OnlyADialogThatGainsFromItCanBeMadeHigher)
