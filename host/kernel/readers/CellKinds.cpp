@@ -273,6 +273,29 @@ private:
     std::array<CellsOfKind, KindCount> m_results;
 };
 
+/* The kind of zone that has cells of one VTK type only, where there is one. */
+std::optional<ZoneType_e> zoneTypeOf(int cellType)
+{
+    switch (cellType) {
+    case VTK_LINE:
+        return ZoneType_FELineSeg;
+    case VTK_TRIANGLE:
+        return ZoneType_FETriangle;
+    case VTK_QUAD:
+        return ZoneType_FEQuad;
+    case VTK_TETRA:
+        return ZoneType_FETetra;
+    case VTK_HEXAHEDRON:
+        return ZoneType_FEBrick;
+    case VTK_POLYGON:
+        return ZoneType_FEPolygon;
+    case VTK_POLYHEDRON:
+        return ZoneType_FEPolyhedron;
+    default:
+        return std::nullopt;
+    }
+}
+
 /* The connectivity as it is, when it is already what a zone of one kind has. */
 std::optional<CellsOfKind> shared(vtkUnstructuredGrid& grid)
 {
@@ -282,35 +305,18 @@ std::optional<CellsOfKind> shared(vtkUnstructuredGrid& grid)
         !std::all_of(types, types + count, [&](unsigned char type) { return type == *types; })) {
         return std::nullopt;
     }
-    CellsOfKind result;
-    result.cells = grid.GetCells();
-    switch (*types) {
-    case VTK_LINE:
-        result.type = ZoneType_FELineSeg;
-        return result;
-    case VTK_TRIANGLE:
-        result.type = ZoneType_FETriangle;
-        return result;
-    case VTK_QUAD:
-        result.type = ZoneType_FEQuad;
-        return result;
-    case VTK_TETRA:
-        result.type = ZoneType_FETetra;
-        return result;
-    case VTK_HEXAHEDRON:
-        result.type = ZoneType_FEBrick;
-        return result;
-    case VTK_POLYGON:
-        result.type = ZoneType_FEPolygon;
-        return result;
-    case VTK_POLYHEDRON:
-        result.type = ZoneType_FEPolyhedron;
-        result.faces = grid.GetFaces();
-        result.faceLocations = grid.GetFaceLocations();
-        return result;
-    default:
+    const std::optional<ZoneType_e> type = zoneTypeOf(*types);
+    if (!type) {
         return std::nullopt;
     }
+    CellsOfKind result;
+    result.type = *type;
+    result.cells = grid.GetCells();
+    if (type == ZoneType_FEPolyhedron) {
+        result.faces = grid.GetFaces();
+        result.faceLocations = grid.GetFaceLocations();
+    }
+    return result;
 }
 
 std::optional<CellsOfKind> shared(vtkPolyData& surface)
