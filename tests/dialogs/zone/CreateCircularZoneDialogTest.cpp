@@ -1,13 +1,11 @@
 #include "dialogs/zone/CreateCircularZoneDialog.h"
 
+#include "CreateZoneDialogTest.h"
 #include "dialogs/DialogRegistry.h"
 #include "propertymanager/managers/zone/CreateCircularZonePropertiesManager.h"
-#include "support/DialogTest.h"
 
-#include <QApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
-#include <QPushButton>
 
 using namespace vantrix::sdk::ui::dialogs;
 using namespace vantrix::test;
@@ -18,15 +16,12 @@ using vantrix::sdk::ui::propertymanager::CreateCircularZonePropertiesManager;
 namespace {
 
 /// The dialog over a 3D plot of data from (0, 0, -1) to (6, 8, 5).
-class CreateCircularZoneDialogTest : public DialogTest
+class CreateCircularZoneDialogTest : public CreateZoneDialogTest
 {
 protected:
     CreateCircularZoneDialogTest()
+        : CreateZoneDialogTest(0.0)
     {
-        host.plotType = PlotType_Cartesian3D;
-        host.dataSetIsAvailable = true;
-        host.axisVariables = {{'X', 1}, {'Y', 2}, {'Z', 3}};
-        host.extents = {{1, {0.0, 6.0}}, {2, {0.0, 8.0}}, {3, {-1.0, 5.0}}};
         // Dimensions live as long as the process: begin each test with the first ones.
         CreateCircularZonePropertiesManager const manager;
         manager.IDim()->setValue(10);
@@ -34,14 +29,7 @@ protected:
         manager.KDim()->setValue(10);
     }
 
-    CreateCircularZoneDialog& launch()
-    {
-        auto& dialog = CreateCircularZoneDialog::getInstance(parent);
-        dialog.launch();
-        QApplication::setActiveWindow(&dialog);
-        idle();
-        return dialog;
-    }
+    CreateCircularZoneDialog& launch() { return launchDialog<CreateCircularZoneDialog>(); }
 
     static QLineEdit& field(QDialog const& dialog, char const* item)
     {
@@ -57,29 +45,14 @@ protected:
         return result;
     }
 
-    static QPushButton& create(QDialog const& dialog)
-    {
-        for (QPushButton* const button : dialog.findChildren<QPushButton*>()) {
-            if (button->text() == QStringLiteral("Cr&eate")) {
-                return *button;
-            }
-        }
-        throw std::runtime_error("no Create button");
-    }
+    static QPushButton& create(QDialog const& dialog) { return button(dialog, QStringLiteral("Cr&eate")); }
 
     static std::vector<bool> threeDElementsEnabled(QDialog const& dialog)
     {
-        std::vector<bool> result;
-        for (char const* const name :
-             {"createCircularZone_TopToBottom_Label", "createCircularZone_KDim_1Text", "createCircularZone_ZMin_Label",
-              "createCircularZone_ZMin_1Text", "createCircularZone_ZMax_Label", "createCircularZone_ZMax_1Text"}) {
-            result.push_back(find(dialog, name).isEnabled());
-        }
-        return result;
+        return enabled(dialog, {"createCircularZone_TopToBottom_Label", "createCircularZone_KDim_1Text",
+                                "createCircularZone_ZMin_Label", "createCircularZone_ZMin_1Text",
+                                "createCircularZone_ZMax_Label", "createCircularZone_ZMax_1Text"});
     }
-
-    std::vector<bool> const allSix = std::vector<bool>(6, true);
-    std::vector<bool> const none = std::vector<bool>(6, false);
 };
 
 } // namespace

@@ -1,9 +1,6 @@
 #include "dialogs/zone/CreateRectangularZoneDialog.h"
 
-#include "support/DialogTest.h"
-
-#include <QApplication>
-#include <QPushButton>
+#include "CreateZoneDialogTest.h"
 
 using namespace vantrix::sdk::ui::dialogs;
 using namespace vantrix::test;
@@ -13,16 +10,12 @@ using testing::IsEmpty;
 namespace {
 
 /// The dialog over a 3D plot of data from (0, 1, -1) to (6, 8, 5).
-class CreateRectangularZoneDialogTest : public DialogTest
+class CreateRectangularZoneDialogTest : public CreateZoneDialogTest
 {
 protected:
     CreateRectangularZoneDialogTest()
-    {
-        host.plotType = PlotType_Cartesian3D;
-        host.dataSetIsAvailable = true;
-        host.axisVariables = {{'X', 1}, {'Y', 2}, {'Z', 3}};
-        host.extents = {{1, {0.0, 6.0}}, {2, {1.0, 8.0}}, {3, {-1.0, 5.0}}};
-    }
+        : CreateZoneDialogTest(1.0)
+    {}
 
     ~CreateRectangularZoneDialogTest() override
     {
@@ -33,14 +26,7 @@ protected:
         }
     }
 
-    CreateRectangularZoneDialog& launch()
-    {
-        auto& dialog = CreateRectangularZoneDialog::getInstance(parent);
-        dialog.launch();
-        QApplication::setActiveWindow(&dialog);
-        idle();
-        return dialog;
-    }
+    CreateRectangularZoneDialog& launch() { return launchDialog<CreateRectangularZoneDialog>(); }
 
     static QLineEdit& field(QDialog const& dialog, char const* item)
     {
@@ -59,27 +45,14 @@ protected:
 
     static void pressCreate(QDialog const& dialog)
     {
-        for (QPushButton* const button : dialog.findChildren<QPushButton*>()) {
-            if (button->text() == QStringLiteral("C&reate")) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                return;
-            }
-        }
-        throw std::runtime_error("no Create button");
+        QTest::mouseClick(&button(dialog, QStringLiteral("C&reate")), Qt::LeftButton);
     }
 
     static std::vector<bool> threeDElementsEnabled(QDialog const& dialog)
     {
-        std::vector<bool> result;
-        for (char const* const name : {"kDimension_label", "kDimension_lineEdit", "zMin_label", "zMin_lineEdit",
-                                       "zMax_label", "zMax_lineEdit"}) {
-            result.push_back(find(dialog, name).isEnabled());
-        }
-        return result;
+        return enabled(dialog, {"kDimension_label", "kDimension_lineEdit", "zMin_label", "zMin_lineEdit", "zMax_label",
+                                "zMax_lineEdit"});
     }
-
-    std::vector<bool> const allSix = std::vector<bool>(6, true);
-    std::vector<bool> const none = std::vector<bool>(6, false);
 };
 
 } // namespace
