@@ -1,8 +1,7 @@
 // A dialog made and shown, with manager, bindings and relevance, beside its bare form.
 
+#include "OpenSample.h"
 #include "dialogs/zone/CreateCircularZoneDialog.h"
-#include "kernel/Kernel.h"
-#include "kernel/OpenData.h"
 #include "ui_CreateCircularZoneDialog.h"
 
 #include <QApplication>
@@ -13,15 +12,6 @@
 #include <memory>
 
 namespace {
-
-void openSample()
-{
-    static bool const opened = [] {
-        vantrix::kernel::OpenData(vantrix::kernel::Kernel::instance()).sample("flow3d");
-        return true;
-    }();
-    benchmark::DoNotOptimize(opened);
-}
 
 void dialogLaunch(benchmark::State& state)
 {

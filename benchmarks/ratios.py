@@ -20,6 +20,8 @@ AIMS = {
     "axis_details_open": 1.5,
     "axis_details_tab": 1.5,
     "open_file": 1.2,
+    "zone_list": 1.5,
+    "style_burst": 1.5,
 }
 REPETITIONS = 9
 
