@@ -1,8 +1,10 @@
 #pragma once
 
 #include "kernel/DataSet.h"
+#include "kernel/Text.h"
 
 #include <memory>
+#include <vector>
 
 namespace vantrix::kernel {
 
@@ -25,9 +27,16 @@ public:
     /* Only Document calls this; see Document::replaceDataSet() and Document::attachDataSet(). */
     void setDataSet(std::shared_ptr<const DataSet> dataSet) { m_dataSet = std::move(dataSet); }
 
+    /* The texts, the last on top. */
+    const std::vector<std::shared_ptr<const Text>>& texts() const { return m_texts; }
+
+    /* Only Texts calls this. */
+    void setTexts(std::vector<std::shared_ptr<const Text>> texts) { m_texts = std::move(texts); }
+
 private:
     long m_id;
     std::shared_ptr<const DataSet> m_dataSet;
+    std::vector<std::shared_ptr<const Text>> m_texts;
 };
 
 } // namespace vantrix::kernel

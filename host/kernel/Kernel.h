@@ -12,6 +12,7 @@ class MouseModes;
 class ProbeService;
 class StateChanges;
 class StyleStore;
+class Texts;
 class UndoStack;
 class VariableMemory;
 
@@ -41,6 +42,7 @@ public:
     ProbeService& probes() const { return *m_probes; }
     StateChanges& stateChanges() const { return *m_stateChanges; }
     StyleStore& style() const { return *m_style; }
+    Texts& texts() const { return *m_texts; }
     UndoStack& undoStack() const { return *m_undo; }
     VariableMemory& variableMemory() const { return *m_variableMemory; }
 
@@ -62,6 +64,7 @@ private:
     std::unique_ptr<ApplicationLock> m_lock;
     std::unique_ptr<StyleStore> m_style;
     std::unique_ptr<Document> m_document;
+    std::unique_ptr<Texts> m_texts;
     std::unique_ptr<MouseModes> m_mouseModes;
     std::unique_ptr<ProbeService> m_probes;
     std::unique_ptr<VariableMemory> m_variableMemory;

@@ -8,56 +8,61 @@
 
 namespace vantrix::view {
 
-QFont Canvas::font(double height, bool isBold) const
-{
-    QFont font;
-    font.setFamilies({QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"), QStringLiteral("Liberation Sans"),
-                      QStringLiteral("Helvetica"), QStringLiteral("Arial")});
-    font.setStyleHint(QFont::SansSerif);
-    font.setBold(isBold);
-    // A size in points is a fraction of an inch of the device, not of the paper.
-    font.setPointSizeF(std::max(1.0, height * inch * 72.0 / painter.device()->logicalDpiY()));
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setStyleStrategy(textStrategy(height));
-    return font;
-}
+namespace {
 
-QFont Canvas::font(Font_e kind, double height) const
+constexpr double smallText = 12.0; /* pixels of height */
+
+/* The families that may stand for one, the best first. */
+QStringList familiesOf(Font_e family)
 {
-    const bool isBold = kind == Font_HelveticaBold || kind == Font_TimesBold || kind == Font_TimesItalicBold ||
-                        kind == Font_CourierBold;
-    QFont result = font(height, isBold);
-    switch (kind) {
+    switch (family) {
     case Font_Times:
     case Font_TimesItalic:
     case Font_TimesBold:
     case Font_TimesItalicBold:
     case Font_Greek:
     case Font_Math:
-        result.setFamilies({QStringLiteral("Noto Serif"), QStringLiteral("Liberation Serif"), QStringLiteral("Times")});
-        result.setStyleHint(QFont::Serif);
-        result.setItalic(kind == Font_TimesItalic || kind == Font_TimesItalicBold);
-        break;
+        return {QStringLiteral("Liberation Serif"), QStringLiteral("Times New Roman"), QStringLiteral("DejaVu Serif"),
+                QStringLiteral("serif")};
     case Font_Courier:
     case Font_CourierBold:
-        result.setFamilies(
-            {QStringLiteral("Noto Sans Mono"), QStringLiteral("Liberation Mono"), QStringLiteral("Courier")});
-        result.setStyleHint(QFont::Monospace);
-        break;
-    case Font_Helvetica:
-    case Font_HelveticaBold:
-    case Font_UserDefined:
-        break;
+        return {QStringLiteral("Liberation Mono"), QStringLiteral("Courier New"), QStringLiteral("DejaVu Sans Mono"),
+                QStringLiteral("monospace")};
+    default:
+        return {QStringLiteral("Noto Sans"), QStringLiteral("Open Sans"), QStringLiteral("Liberation Sans"),
+                QStringLiteral("Helvetica"), QStringLiteral("Arial")};
     }
-    result.setStyleStrategy(textStrategy(height)); // a hint for the family sets another
-    return result;
 }
 
-QFont::StyleStrategy Canvas::textStrategy(double height) const
+QFont::StyleHint hintOf(Font_e family)
 {
-    constexpr double smallPixels = 12.0;
-    const bool isSmall = height * inch * resolution() < smallPixels;
-    return edges.arePlain || (edges.arePlainWhereSmall && isSmall) ? QFont::NoAntialias : QFont::PreferDefault;
+    if ((family >= Font_Times && family <= Font_TimesItalicBold) || family == Font_Greek || family == Font_Math) {
+        return QFont::Serif;
+    }
+    return family == Font_Courier || family == Font_CourierBold ? QFont::Monospace : QFont::SansSerif;
+}
+
+} // namespace
+
+QFont Canvas::font(double height, bool isBold) const
+{
+    return font(isBold ? Font_HelveticaBold : Font_Helvetica, height);
+}
+
+QFont Canvas::font(Font_e family, double height) const
+{
+    QFont font;
+    font.setFamilies(familiesOf(family));
+    const bool isSmall = height * inch * resolution() < smallText;
+    const bool isPlain = edges.arePlain || (edges.arePlainWhereSmall && isSmall);
+    font.setStyleHint(hintOf(family), isPlain ? QFont::NoAntialias : QFont::PreferDefault);
+    font.setBold(family == Font_HelveticaBold || family == Font_TimesBold || family == Font_TimesItalicBold ||
+                 family == Font_CourierBold);
+    font.setItalic(family == Font_TimesItalic || family == Font_TimesItalicBold);
+    // A size in points is a fraction of an inch of the device, not of the paper.
+    font.setPointSizeF(std::max(1.0, height * inch * 72.0 / painter.device()->logicalDpiY()));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
 }
 
 QPen Canvas::pen(const QColor& color, double thickness) const

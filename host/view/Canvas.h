@@ -15,7 +15,7 @@ namespace vantrix::view {
 struct TextEdges
 {
     bool arePlain = false;
-    bool arePlainWhereSmall = false; /* less than 12 pixels high */
+    bool arePlainWhereSmall = false;
 };
 
 /*
@@ -35,11 +35,9 @@ public:
     const double inch; /* in logical units */
     const TextEdges edges;
 
-    /* A sans-serif font of a height in inches. */
+    /* A sans-serif font, or one of a family, of a height in inches; Greek and mathematical ones are serif fonts. */
     QFont font(double height, bool isBold = false) const;
-
-    /* The font that stands for one of the style; Greek and mathematical ones are serif fonts. */
-    QFont font(Font_e kind, double height) const;
+    QFont font(Font_e family, double height) const;
 
     /* A line never thinner than a pixel of the device. */
     QPen pen(const QColor& color, double thickness) const;
@@ -59,9 +57,6 @@ public:
 
     /* The rectangle moved to whole pixels of the device. */
     QRectF aligned(const QRectF& rect) const;
-
-private:
-    QFont::StyleStrategy textStrategy(double height) const;
 };
 
 } // namespace vantrix::view

@@ -9,6 +9,7 @@
 #include "view/LinePlot.h"
 #include "view/PlotMeasures.h"
 #include "view/PolarAxisPainter.h"
+#include "view/TextPainter.h"
 
 #include <algorithm>
 #include <chrono>
@@ -91,6 +92,9 @@ void FramePainter::paint(const Canvas& canvas, const QRectF& rect, const PaintRe
         paintPlot(canvas, inside);
     } catch (const kernel::DataError& error) {
         paintNotice(canvas, inside, QString::fromStdString(error.what()));
+    }
+    for (const auto& text : m_texts) {
+        TextPainter(canvas, rect, m_plot, *text).paint();
     }
     painter.restore();
     if (style.hasBorder) {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "kernel/Text.h"
 #include "view/Canvas.h"
 #include "view/FieldScene.h"
 #include "view/FramePlot.h"
 
 #include <memory>
+#include <vector>
 
 namespace vantrix::kernel {
 class DataSet;
@@ -33,6 +35,9 @@ public:
 
     /* What the frame shows from now on; `dataSet` may be null. Costs a comparison when both are as before. */
     void show(PlotStyle style, std::shared_ptr<const kernel::DataSet> dataSet);
+
+    /* The texts over the plot, the last on top. The plot is not made again for them. */
+    void setTexts(const std::vector<std::shared_ptr<const kernel::Text>>& texts) { m_texts = texts; }
 
     /* `rect` is where the frame lies, in the painter's logical units. */
     void paint(const Canvas& canvas, const QRectF& rect, const PaintRequest& request);
@@ -81,6 +86,7 @@ private:
     std::unique_ptr<FieldScene> m_thinScene; /* of an approximate plot; made when one is painted first */
     FramePlot m_plot;
     std::shared_ptr<const kernel::DataSet> m_dataSet;
+    std::vector<std::shared_ptr<const kernel::Text>> m_texts;
     unsigned long m_revision = 0;
     PaintRequest m_request;
     bool m_isApproximate = false;

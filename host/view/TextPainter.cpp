@@ -1,0 +1,154 @@
+#include "view/TextPainter.h"
+
+#include "view/ColorMap.h"
+
+#include <QFontMetricsF>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrix::view {
+namespace {
+
+constexpr double pointsPerInch = 72.0;
+
+/* 0, 0.5 or 1: the anchor's place along the width, from the left, and along the height, from the bottom. */
+QPointF anchorPart(TextAnchor_e anchor)
+{
+    const int number = static_cast<int>(anchor);
+    return {0.5 * (number % 3), 0.5 * (number / 3)};
+}
+
+} // namespace
+
+TextPainter::TextPainter(const Canvas& canvas, const QRectF& frame, const FramePlot& plot, const kernel::Text& text)
+    : m_canvas(canvas)
+    , m_text(text)
+    , m_anchor(anchor(frame, plot))
+    , m_height(height(frame, plot))
+    , m_font(font(m_height))
+    , m_lines(QString::fromStdString(text.text).split(QLatin1Char('\n')))
+    , m_frameHeight(frame.height())
+{}
+
+std::optional<QPointF> TextPainter::anchor(const QRectF& frame, const FramePlot& plot) const
+{
+    switch (m_text.coordSys) {
+    case CoordSys_Frame:
+        return QPointF(frame.left() + m_text.x / 100.0 * frame.width(),
+                       frame.bottom() - m_text.y / 100.0 * frame.height());
+    case CoordSys_Grid:
+        if (plot.x && plot.y) {
+            const QRectF area(frame.topLeft() + plot.area.topLeft() * m_canvas.inch, plot.area.size() * m_canvas.inch);
+            return QPointF(area.left() + plot.x->fraction(m_text.x) * area.width(),
+                           area.bottom() - plot.y->fraction(m_text.y) * area.height());
+        }
+        break;
+    case CoordSys_Grid3D:
+        if (plot.camera) {
+            const auto& scale = plot.style.axisScale;
+            const QPointF place = plot.camera->project({m_text.x * scale[0], m_text.y * scale[1], m_text.z * scale[2]});
+            const double width = plot.area.width();
+            const QPointF middle = plot.area.center();
+            return frame.topLeft() +
+                   QPointF(middle.x() + place.x() * width, middle.y() - place.y() * width) * m_canvas.inch;
+        }
+        break;
+    }
+    return std::nullopt;
+}
+
+double TextPainter::height(const QRectF& frame, const FramePlot& plot) const
+{
+    switch (m_text.sizeUnits) {
+    case Units_Point:
+        return m_text.height / pointsPerInch * m_canvas.inch;
+    case Units_Grid:
+        if (plot.y && !plot.y->isLogarithmic()) {
+            return m_text.height / (plot.y->maximum() - plot.y->minimum()) * plot.area.height() * m_canvas.inch;
+        }
+        break;
+    case Units_Frame:
+        break;
+    }
+    return m_text.height / 100.0 * frame.height();
+}
+
+QFont TextPainter::font(double height) const
+{
+    QFont font = m_canvas.font(height / m_canvas.inch, m_text.isBold);
+    const QString family = QString::fromStdString(m_text.fontFamily);
+    font.setFamilies(QStringList(family) + font.families());
+    font.setItalic(m_text.isItalic);
+    const double capital = QFontMetricsF(font, m_canvas.painter.device()).capHeight();
+    if (capital > 0.0) {
+        font.setPointSizeF(font.pointSizeF() * height / capital);
+    }
+    return font;
+}
+
+double TextPainter::lineDistance() const
+{
+    return QFontMetricsF(m_font, m_canvas.painter.device()).height() * m_text.lineSpacing;
+}
+
+QSizeF TextPainter::size() const
+{
+    double width = 0.0;
+    for (const QString& line : m_lines) {
+        width = std::max(width, m_canvas.textSize(line, m_font).width());
+    }
+    const QFontMetricsF metrics(m_font, m_canvas.painter.device());
+    return {width, double(m_lines.size() - 1) * lineDistance() + metrics.capHeight()};
+}
+
+QRectF TextPainter::box() const
+{
+    const QSizeF extent = size();
+    const QPointF part = anchorPart(m_text.anchor);
+    // Y goes down: the bottom of the box is at part.y() heights below the anchor.
+    const QRectF lines(QPointF(-part.x() * extent.width(), (part.y() - 1.0) * extent.height()), extent);
+    const double margin = m_text.box == TextBox_None ? 0.0 : m_text.boxMargin / 100.0 * m_height;
+    return lines.adjusted(-margin, -margin, margin, margin);
+}
+
+QPolygonF TextPainter::outline() const
+{
+    if (!m_anchor) {
+        return {};
+    }
+    return QTransform::fromTranslate(m_anchor->x(), m_anchor->y()).rotate(-m_text.angle).map(QPolygonF(box()));
+}
+
+void TextPainter::paint() const
+{
+    if (!m_anchor) {
+        return;
+    }
+    QPainter& painter = m_canvas.painter;
+    painter.save();
+    painter.translate(*m_anchor);
+    painter.rotate(-m_text.angle);
+    if (m_text.box != TextBox_None) {
+        const double thickness = m_text.boxLineThickness / 100.0 * m_frameHeight / m_canvas.inch;
+        painter.setPen(m_canvas.pen(indexedColor(m_text.boxColor), thickness));
+        painter.setBrush(m_text.box == TextBox_Filled ? QBrush(indexedColor(m_text.boxFillColor)) : QBrush());
+        painter.drawRect(box());
+    }
+    const QSizeF extent = size();
+    const QPointF part = anchorPart(m_text.anchor);
+    const double left = -part.x() * extent.width();
+    double baseline = part.y() * extent.height() - double(m_lines.size() - 1) * lineDistance();
+    for (const QString& line : m_lines) {
+        // Lines are aligned to the side that the anchor is on.
+        const double indent = part.x() * (extent.width() - m_canvas.textSize(line, m_font).width());
+        painter.setFont(m_font);
+        painter.setPen(indexedColor(m_text.color));
+        painter.drawText(QPointF(left + indent, baseline), line);
+        baseline += lineDistance();
+    }
+    painter.restore();
+}
+
+} // namespace vantrix::view
