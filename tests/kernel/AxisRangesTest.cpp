@@ -66,10 +66,7 @@ TEST_F(AxisRangesTest, FitTakesTheRangeOfTheVariableAndIsOneStepOfUndo)
     setRange(x2D, {5.0, 7.0});
     ASSERT_TRUE(locked(VtxUtilViewAxisFit, 'X', 1));
     EXPECT_EQ(range(x2D), variable(1));
-    {
-        const LockScope lock;
-        VtxUtilUndo();
-    }
+    EXPECT_TRUE(VtxUtilUndo());
     EXPECT_EQ(range(x2D), Range(5.0, 7.0));
 }
 

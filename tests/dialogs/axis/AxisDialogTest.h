@@ -34,7 +34,14 @@ protected:
         }
     }
 
-    static void setPlotType(PlotType_e plotType) { setStyle({"PlotType"}, static_cast<long>(plotType)); }
+    /// A frame without data gets some first: all plots but sketches need them.
+    static void setPlotType(PlotType_e plotType)
+    {
+        if (!VtxUtilDataSetIsAvailable()) {
+            showSample("flow3d");
+        }
+        setStyle({"PlotType"}, static_cast<long>(plotType));
+    }
 
     /// Gives the active frame a built-in data set and a plot of it.
     static void showSample(std::string const& name)

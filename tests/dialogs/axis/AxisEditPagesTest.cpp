@@ -79,8 +79,9 @@ void change(QWidget& widget)
 {
     widget.setFocus();
     if (auto* color = qobject_cast<ColorButton*>(&widget)) {
+        auto const wanted = (color->color() + 1) % 8;
         for (auto* const choice : color->popup().findChildren<QAbstractButton*>()) {
-            if (choice->property("color") == (color->color() + 1) % 8) {
+            if (choice->property("color") == wanted) {
                 choice->click();
             }
         }

@@ -236,6 +236,7 @@ TEST_F(AxisEditRangePageTest, TurningOnNiceValuesMakesTheRangeNiceAtOnce)
 TEST_F(AxisEditRangePageTest, SpinBoxesStepToWhatTheHostSays)
 {
     auto const& dialog = openOn(PlotType_Cartesian2D);
+    setStyle({"TwoDAxis", "XDetail", "RangeMin"}, 0.0);
     setStyle({"TwoDAxis", "XDetail", "RangeMax"}, 2.0);
     auto& minimum = find<QDoubleSpinBox>(dialog, "axisEdit_RangeMin_1Text");
     minimum.setFocus();
