@@ -16,6 +16,9 @@ bool VtxUtilFrameActivate(long frameId);
 bool VtxUtilFramePop(long frameId);
 bool VtxUtilFramePush(long frameId);
 
+/* Moves and resizes a frame of the active page; the same limits as for a new one. */
+bool VtxUtilFrameSetRect(long frameId, double left, double top, double width, double height);
+
 /* The identifier of frame `position` (from 1, the last is on top) of the active page; 0 when there is none. */
 long VtxUtilFrameGetIdAt(long position);
 
@@ -26,15 +29,18 @@ bool VtxUtilPageActivate(long position);
 long VtxUtilPageGetActive(void);
 
 /*
- * A layout is a readable file of every page, frame, style value, text and data file name. Saving replaces the file at
+ * A layout is a readable file of every page and frame, their style, texts, and how their data came to be; the settings of
+ * the program itself (style values of the process) are not in it. Saving replaces the file at
  * once or leaves it as it was. Opening replaces everything, or on any error nothing; entries that are not known are kept
  * for the next save and named in the status line. Not to be called under the lock.
  */
+bool VtxUtilLayoutNew(void);
 bool VtxUtilLayoutSave(const char* file);
 bool VtxUtilLayoutOpen(const char* file);
 
-/* Opens data files in the active frame. */
+/* Opens data files, or a built-in data set, in the active frame. */
 bool VtxUtilDataRead(const char* const* files, long count);
+bool VtxUtilDataReadSample(const char* name);
 
 /*
  * A macro is a text file with one command a line. Recording writes one line for each outermost lock that asks for it.

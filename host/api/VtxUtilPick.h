@@ -40,6 +40,9 @@ bool VtxUtilPickZone(long zone);
 bool VtxUtilPickLineMap(long lineMap);
 bool VtxUtilPickAxis(char axis, int axisNumber, AxisSubObject_e part);
 
+/* The contour legend or that of the line maps. */
+bool VtxUtilPickLegend(PickObject_e legend);
+
 /*
  * Picks what is seen at a place of the paper (inches from its lower left corner): a text or geometry before an axis
  * title, an axis line, a legend, a zone or line map, the grid area, a frame. `collect` keeps what was picked before.

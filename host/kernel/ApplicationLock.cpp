@@ -1,6 +1,7 @@
 #include "kernel/ApplicationLock.h"
 
 #include "kernel/UndoStack.h"
+#include "kernel/macro/MacroRecorder.h"
 
 namespace vantrix::kernel {
 
@@ -20,6 +21,7 @@ void ApplicationLock::finish()
     }
     if (--m_depth == 0) {
         m_undo.endStep();
+        m_recorder.endStep();
     }
 }
 

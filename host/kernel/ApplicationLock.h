@@ -2,17 +2,19 @@
 
 namespace vantrix::kernel {
 
+class MacroRecorder;
 class UndoStack;
 
 /*
- * The application lock: nests, and the outermost one brackets one step of undo. It guards no threads (everything runs
- * on the thread of the user interface); it marks where an action begins and ends.
+ * The application lock: nests, and the outermost one brackets one step of undo and one line of a macro. It guards no
+ * threads (everything runs on the thread of the user interface); it marks where an action begins and ends.
  */
 class ApplicationLock
 {
 public:
-    explicit ApplicationLock(UndoStack& undo)
+    ApplicationLock(UndoStack& undo, MacroRecorder& recorder)
         : m_undo(undo)
+        , m_recorder(recorder)
     {}
 
     /* `record` counts for the outermost lock only: whether the step is one command of a recorded macro. */
@@ -29,9 +31,27 @@ public:
 
 private:
     UndoStack& m_undo;
+    MacroRecorder& m_recorder;
     long m_depth = 0;
     long m_violations = 0;
     bool m_isRecorded = false;
+};
+
+/* Holds the lock for as long as it lives. */
+class ActionLock
+{
+public:
+    explicit ActionLock(ApplicationLock& lock, bool record = true)
+        : m_lock(lock)
+    {
+        m_lock.start(record);
+    }
+    ~ActionLock() { m_lock.finish(); }
+    ActionLock(const ActionLock&) = delete;
+    ActionLock& operator=(const ActionLock&) = delete;
+
+private:
+    ApplicationLock& m_lock;
 };
 
 } // namespace vantrix::kernel

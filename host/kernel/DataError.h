@@ -18,6 +18,7 @@ public:
     ActionCancelled()
         : DataError("Stopped at your request; nothing was changed.")
     {}
+    using DataError::DataError;
 };
 
 } // namespace vantrix::kernel

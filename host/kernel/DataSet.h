@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/Zone.h"
+#include "kernel/macro/MacroCommand.h"
 
 #include <memory>
 #include <string>
@@ -35,6 +36,8 @@ public:
     std::vector<Variable> variables;
     std::vector<std::shared_ptr<const Zone>> zones;
     std::vector<bool> zoneEnabled; /* as long as `zones` */
+
+    std::vector<MacroCommand> history; /* how it came to be; see DataHistory */
 
     long variableCount() const { return static_cast<long>(variables.size()); }
     long zoneCount() const { return static_cast<long>(zones.size()); }

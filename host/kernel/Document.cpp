@@ -94,6 +94,27 @@ std::size_t memoryAlone(const DataSet* mine, const DataSet* other)
 
 } // namespace
 
+/* Another page or frame is active. */
+class Document::ActiveChange : public UndoableChange
+{
+public:
+    explicit ActiveChange(Document& document)
+        : m_document(document)
+        , m_page(document.m_activePage)
+        , m_frame(document.activePage()->activeFrame)
+    {}
+
+    void undo() override { m_document.activate(m_page, m_frame); }
+    void redo() override {}
+    std::size_t memory() const override { return 0; }
+    bool isTransient() const override { return true; }
+
+private:
+    Document& m_document;
+    std::size_t m_page;
+    long m_frame;
+};
+
 /* Frames show another data set, or a changed copy of theirs. */
 class Document::DataChange : public UndoableChange
 {
@@ -285,6 +306,15 @@ bool Document::deletePage(std::size_t number)
     return true;
 }
 
+void Document::activate(std::size_t page, long frame)
+{
+    const bool isOtherPage = page != m_activePage;
+    m_activePage = page;
+    activePage()->activeFrame = frame;
+    ++m_contextStamp;
+    m_changes.send(isOtherPage ? StateChange_NewActivePage : StateChange_NewActiveFrame);
+}
+
 bool Document::setActiveFrame(long id)
 {
     Page* page = activePage();
@@ -295,6 +325,7 @@ bool Document::setActiveFrame(long id)
         std::find_if(page->frames.begin(), page->frames.end(), [&](auto& frame) { return frame->id() == id; });
     const long number = found - page->frames.begin() + 1;
     if (number != page->activeFrame) {
+        m_undo.record(std::make_unique<ActiveChange>(*this));
         page->activeFrame = number;
         ++m_contextStamp;
         m_changes.send(StateChange_NewActiveFrame);
@@ -308,6 +339,7 @@ bool Document::setActivePage(std::size_t number)
         return false;
     }
     if (number - 1 != m_activePage) {
+        m_undo.record(std::make_unique<ActiveChange>(*this));
         m_activePage = number - 1;
         ++m_contextStamp;
         m_changes.send(StateChange_NewActivePage);
@@ -395,6 +427,13 @@ void Document::attachDataSet(Frame& frame, std::shared_ptr<const DataSet> dataSe
     const std::vector<StateChange_e> kinds{StateChange_DataSetReset};
     m_undo.record(std::make_unique<DataChange>(*this, std::vector{shared}, before, std::move(dataSet), kinds));
     m_changes.send(StateChange_DataSetReset);
+}
+
+void Document::replacePages(std::vector<std::shared_ptr<Page>> pages, std::size_t activePage)
+{
+    m_pages = std::move(pages);
+    m_activePage = activePage;
+    ++m_contextStamp;
 }
 
 void Document::reset()

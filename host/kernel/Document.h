@@ -65,6 +65,12 @@ public:
     bool raiseFrame(long id);
     bool lowerFrame(long id);
 
+    /* A number that no other page, frame or data set of the process has. */
+    long newId() { return m_nextId++; }
+
+    /* Shows other pages in place of all that there are. Not recorded, sends nothing. */
+    void replacePages(std::vector<std::shared_ptr<Page>> pages, std::size_t activePage);
+
     /* A data set without zones, with a fresh identifier, that no frame shows yet. */
     DataSet newDataSet();
 
@@ -85,6 +91,7 @@ public:
 private:
     class StructureChange;
     class DataChange;
+    class ActiveChange;
     struct Structure;
     Structure structure() const;
     void setStructure(const Structure& structure);
@@ -92,6 +99,7 @@ private:
                          const std::vector<StateChange_e>& done);
     void setDataSet(Frame& frame, std::shared_ptr<const DataSet> dataSet);
     Page* pageOf(long frameId) const;
+    void activate(std::size_t page, long frame);
     bool moveFrame(long id, bool toTop);
 
     UndoStack& m_undo;

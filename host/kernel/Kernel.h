@@ -8,7 +8,10 @@ namespace vantrix::kernel {
 class ApplicationLock;
 class Document;
 class FrontEnd;
+class Layout;
+class MacroRecorder;
 class MouseModes;
+class PickList;
 class ProbeService;
 class StateChanges;
 class StyleStore;
@@ -38,8 +41,11 @@ public:
 
     ApplicationLock& lock() const { return *m_lock; }
     Document& document() const { return *m_document; }
+    Layout& layout() const { return *m_layout; }
+    MacroRecorder& macroRecorder() const { return *m_macroRecorder; }
     MouseModes& mouseModes() const { return *m_mouseModes; }
     ProbeService& probes() const { return *m_probes; }
+    PickList& pickList() const { return *m_pickList; }
     StateChanges& stateChanges() const { return *m_stateChanges; }
     StyleStore& style() const { return *m_style; }
     Texts& texts() const { return *m_texts; }
@@ -50,9 +56,6 @@ public:
     const std::string& lastError() const { return m_lastError; }
     void setLastError(std::string text) { m_lastError = std::move(text); }
 
-    /* Whether commands are being recorded into a macro. */
-    bool isRecordingMacro() const { return m_isRecordingMacro; }
-
     /* Back to one page with one empty frame, default style, no history. Sends `StateChange_NewLayout`. */
     void reset();
 
@@ -61,6 +64,7 @@ private:
 
     std::unique_ptr<StateChanges> m_stateChanges;
     std::unique_ptr<UndoStack> m_undo;
+    std::unique_ptr<MacroRecorder> m_macroRecorder;
     std::unique_ptr<ApplicationLock> m_lock;
     std::unique_ptr<StyleStore> m_style;
     std::unique_ptr<Document> m_document;
@@ -68,11 +72,12 @@ private:
     std::unique_ptr<MouseModes> m_mouseModes;
     std::unique_ptr<ProbeService> m_probes;
     std::unique_ptr<VariableMemory> m_variableMemory;
+    std::unique_ptr<PickList> m_pickList;
+    std::unique_ptr<Layout> m_layout;
     std::unique_ptr<FrontEnd> m_noFrontEnd;
     FrontEnd* m_frontEnd = nullptr;
     std::string m_lastError;
     long m_waits = 0;
-    bool m_isRecordingMacro = false;
 };
 
 } // namespace vantrix::kernel

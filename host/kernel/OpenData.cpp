@@ -2,6 +2,7 @@
 
 #include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
+#include "kernel/DataHistory.h"
 #include "kernel/DataReader.h"
 #include "kernel/Document.h"
 #include "kernel/FrontEnd.h"
@@ -9,6 +10,9 @@
 #include "kernel/PlotDefaults.h"
 #include "kernel/SampleData.h"
 #include "kernel/UndoStack.h"
+#include "kernel/macro/MacroRecorder.h"
+
+#include <filesystem>
 
 namespace vantrix::kernel {
 
@@ -28,22 +32,6 @@ public:
 
 private:
     FrontEnd& m_frontEnd;
-};
-
-class Locked
-{
-public:
-    explicit Locked(ApplicationLock& lock)
-        : m_lock(lock)
-    {
-        m_lock.start(true);
-    }
-    ~Locked() { m_lock.finish(); }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-
-private:
-    ApplicationLock& m_lock;
 };
 
 /* Takes the progress away from the screen however the work ends. */
@@ -75,26 +63,35 @@ void OpenData::files(const std::vector<std::string>& names)
         Progress progress(m_kernel.frontEnd(), "Reading data");
         DataReader::read(names, read, [&](double fraction) { return progress.report(fraction); });
     }
-    show(std::move(read), "Open");
+    std::vector<std::string> paths;
+    for (const std::string& name : names) {
+        paths.push_back(std::filesystem::absolute(name).string());
+    }
+    show(std::move(read), "Open", DataHistory::reading(paths));
 }
 
 void OpenData::sample(const std::string& name)
 {
     DataSet made = m_kernel.document().newDataSet();
     SampleData::make(name, made);
-    show(std::move(made), "Open Sample");
+    show(std::move(made), "Open Sample", DataHistory::readingSample(name));
 }
 
-void OpenData::show(DataSet dataSet, const char* stepName)
+void OpenData::show(DataSet dataSet, const char* stepName, MacroCommand command)
 {
+    dataSet.history = {command};
     Frame* frame = m_kernel.document().activeFrame();
     if (!frame) {
         throw DataError("There is no frame to show the data in. Create a frame first.");
     }
-    const Locked locked(m_kernel.lock());
+    const ActionLock lock(m_kernel.lock());
+    MacroRecorder::Call call(m_kernel.macroRecorder(), m_kernel.lock().isRecorded());
     m_kernel.undoStack().nameStep(stepName);
     m_kernel.document().attachDataSet(*frame, std::make_shared<const DataSet>(std::move(dataSet)));
     PlotDefaults::apply(*frame);
+    if (call.isDescribed()) {
+        call.succeeded(std::move(command));
+    }
 }
 
 } // namespace vantrix::kernel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/DataSet.h"
+#include "kernel/macro/MacroCommand.h"
 
 #include <string>
 #include <vector>
@@ -27,7 +28,7 @@ public:
     void sample(const std::string& name);
 
 private:
-    void show(DataSet dataSet, const char* stepName);
+    void show(DataSet dataSet, const char* stepName, MacroCommand command);
 
     Kernel& m_kernel;
 };

@@ -141,6 +141,19 @@ long styleIndex(const StyleEntry& entry, long offset1, long offset2, long zoneCo
     return index;
 }
 
+std::pair<long, long> styleOffsets(const StyleEntry& entry, std::size_t index)
+{
+    const auto place = static_cast<long>(index);
+    if (entry.offsets[0] == 0) {
+        return {-1, -1};
+    }
+    if (entry.offsets[1] == 0) {
+        return {place + 1, -1};
+    }
+    const long stride = styleOffset(entry.offsets[1]).limit;
+    return {place / stride + 1, place % stride + 1};
+}
+
 std::string badOffsetText(long entry, long offset1, long offset2, long zoneCount)
 {
     const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];

@@ -3,7 +3,9 @@
 #include "kernel/StyleStore.h"
 #include "kernel/StyleVocabulary.h"
 
+#include <cstddef>
 #include <string>
+#include <utility>
 
 namespace vantrix::kernel {
 
@@ -25,6 +27,9 @@ const char* styleTypeText(StyleType type);
  * number allowed.
  */
 long styleIndex(const StyleEntry& entry, long offset1, long offset2, long zoneCount);
+
+/* The offsets of the object at a place; -1 where the entry has none. */
+std::pair<long, long> styleOffsets(const StyleEntry& entry, std::size_t index);
 
 /* Why styleIndex() answered -1. */
 std::string badOffsetText(long entry, long offset1, long offset2, long zoneCount);

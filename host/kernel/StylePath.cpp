@@ -78,6 +78,16 @@ std::string knownPartOfStylePath(const long* nameIds, std::size_t count)
     return {};
 }
 
+std::string stylePath(long entry)
+{
+    const StyleEntry& found = styleVocabulary()[static_cast<std::size_t>(entry)];
+    std::string text;
+    for (std::size_t i = 0; i < found.pathLength; ++i) {
+        text += (i == 0 ? "" : "/") + std::string(styleNames()[static_cast<std::size_t>(found.path[i])]);
+    }
+    return text;
+}
+
 std::string stylePathText(long entry)
 {
     const auto entries = styleVocabulary();

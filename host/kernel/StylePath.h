@@ -16,6 +16,9 @@ long styleEntryOf(const long* nameIds, std::size_t count);
  * name begins a path. */
 std::string knownPartOfStylePath(const long* nameIds, std::size_t count);
 
+/* FrameLayout/XYPos/X, as StyleStore::entry() takes it. */
+std::string stylePath(long entry);
+
 /* "FrameLayout" / "XYPos" / "X", for messages. */
 std::string stylePathText(long entry);
 

@@ -8,6 +8,7 @@
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
+#include <limits>
 #include <map>
 #include <numeric>
 #include <set>
@@ -566,6 +567,44 @@ void StyleStore::copyScope(long from, long to)
         m_impl->m_scopes.erase(to);
     }
     ++m_impl->m_commonStamp;
+}
+
+std::vector<StyleStore::Stored> StyleStore::storedValues(long scopeId) const
+{
+    std::vector<Stored> stored;
+    const auto scope = m_impl->m_scopes.find(scopeId);
+    if (scope == m_impl->m_scopes.end()) {
+        return stored;
+    }
+    const auto entries = styleVocabulary();
+    const StyleScope kind = scope->second->scope();
+    const StyleValues& defaults = m_impl->m_defaults[static_cast<std::size_t>(kind)];
+    StyleData value;
+    StyleData missing;
+    for (long entry = 0; entry < static_cast<long>(entries.size()); ++entry) {
+        const StyleEntry& about = description(entry);
+        for (std::size_t i = 0; about.scope == kind && i < scope->second->count(entry); ++i) {
+            scope->second->read(entry, i, value);
+            defaults.read(entry, i, missing);
+            const auto [offset1, offset2] = styleOffsets(about, i);
+            const bool isThere =
+                styleOffset(about.offsets[0]).kind != StyleOffset::Kind::Zone || offset1 <= m_impl->zoneLimit(scopeId);
+            if (value != missing && isThere) {
+                stored.push_back({entry, offset1, offset2, value});
+            }
+        }
+    }
+    return stored;
+}
+
+void StyleStore::fillScope(long scopeId, const std::vector<Stored>& values)
+{
+    for (const Stored& stored : values) {
+        const StyleEntry& about = description(stored.entry);
+        constexpr long anyZone = std::numeric_limits<int>::max();
+        const long index = styleIndex(about, stored.offset1, stored.offset2, anyZone);
+        m_impl->writeUnchecked(scopeId, stored.entry, static_cast<std::size_t>(index), stored.value);
+    }
 }
 
 void StyleStore::clear()

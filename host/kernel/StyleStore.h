@@ -90,6 +90,21 @@ public:
     void removeScope(long scopeId);
     void copyScope(long from, long to);
 
+    /* A value with where it belongs. */
+    struct Stored
+    {
+        long entry;
+        long offset1 = -1;
+        long offset2 = -1;
+        StyleData value;
+    };
+
+    /* What differs from its default in a scope, in the order of the entries; of zones only those that there are. */
+    std::vector<Stored> storedValues(long scopeId) const;
+
+    /* Fills a scope that nobody shows yet with values that were checked. Not recorded, sends nothing. */
+    void fillScope(long scopeId, const std::vector<Stored>& values);
+
     /* Drops every value that was set. Not recorded, sends nothing. */
     void clear();
 

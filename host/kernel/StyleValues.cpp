@@ -77,6 +77,7 @@ void eraseIndexed(std::vector<Value>& values, std::size_t first, std::size_t cou
 } // namespace
 
 StyleValues::StyleValues(StyleScope scope)
+    : m_scope(scope)
 {
     const Layout::Sizes& sizes = layout().sizes[static_cast<std::size_t>(scope)];
     m_numbers.single.reserve(sizes.singleNumbers);

@@ -18,6 +18,8 @@ class StyleValues
 public:
     explicit StyleValues(StyleScope scope);
 
+    StyleScope scope() const { return m_scope; }
+
     /* `index` is the object's place from 0; see styleIndex(). 0 for a value without offsets. */
     void read(long entry, std::size_t index, StyleData& value) const;
     void write(long entry, std::size_t index, const StyleData& value);
@@ -46,6 +48,7 @@ private:
     };
     static Number defaultNumber(const StyleEntry& entry);
 
+    StyleScope m_scope;
     Vectors<Number> m_numbers;
     Vectors<std::string> m_texts;
 };

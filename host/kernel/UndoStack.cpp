@@ -51,10 +51,12 @@ void UndoStack::endStep()
         return;
     }
     const std::unique_ptr<Step> step = std::move(m_current);
+    std::erase_if(step->changes, [](const auto& change) { return change->isTransient(); });
     if (step->changes.empty()) {
         return;
     }
     m_redo.clear();
+    step->state = ++m_lastState;
     m_undo.push_back(std::move(*step));
     ++m_revision;
     trim();
@@ -83,7 +85,7 @@ void UndoStack::nameStep(const std::string& name)
 
 void UndoStack::record(std::unique_ptr<UndoableChange> change)
 {
-    if (m_replaying) {
+    if (m_replaying || (change->isTransient() && !m_current)) {
         return;
     }
     const bool isStepOfItsOwn = !m_current;
@@ -165,6 +167,7 @@ void UndoStack::clear()
     if (m_current) {
         m_current->changes.clear();
     }
+    m_oldestState = ++m_lastState;
     ++m_revision;
 }
 
@@ -186,6 +189,7 @@ void UndoStack::trim()
         ++kept;
     }
     if (kept < m_undo.size()) {
+        m_oldestState = m_undo[m_undo.size() - 1 - kept].state;
         m_undo.erase(m_undo.begin(), m_undo.end() - static_cast<std::ptrdiff_t>(kept));
         ++m_revision;
     }

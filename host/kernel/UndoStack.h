@@ -26,6 +26,10 @@ public:
 
     /* Calls `visit` for each data set that the change keeps. */
     virtual void forEachDataSet(const std::function<void(const DataSet&)>& /*visit*/) const {}
+
+    /* Whether the change is taken back with a step that fails, but is no part of a step that is done: what is active or
+     * picked. */
+    virtual bool isTransient() const { return false; }
 };
 
 class StateChanges;
@@ -52,7 +56,8 @@ public:
     /* Names the step under way; the first name given stays. */
     void nameStep(const std::string& name);
 
-    /* Adds a change to the step under way, or makes a step of it alone, and forgets what could be redone. */
+    /* Adds a change to the step under way, or, unless it is transient, makes a step of it alone, and forgets what could
+     * be redone. */
     void record(std::unique_ptr<UndoableChange> change);
 
     /* The change recorded last in the step under way, into which the same kind of change may be merged; or null. */
@@ -74,6 +79,9 @@ public:
     void forEachDataSet(const std::function<void(const DataSet&)>& visit) const;
 
     void clear();
+
+    /* A number of the present state: the same again after undo and redo back to it, another one for every other. */
+    unsigned long state() const { return m_undo.empty() ? m_oldestState : m_undo.back().state; }
     void setMemoryBound(std::size_t bytes);
 
     /* A number that differs after every change of the history; tells a menu or a title when to look again. */
@@ -83,6 +91,7 @@ private:
     struct Step
     {
         std::string name;
+        unsigned long state = 0; /* after it */
         std::vector<std::unique_ptr<UndoableChange>> changes;
         std::size_t memory() const;
     };
@@ -97,7 +106,9 @@ private:
     std::unique_ptr<Step> m_current;
     std::size_t m_memoryBound = std::size_t{2} << 30;
     unsigned long m_revision = 0;
-    bool m_replaying = false; /* changes made by an undo are not recorded again */
+    unsigned long m_lastState = 1;
+    unsigned long m_oldestState = 1; /* before the oldest step */
+    bool m_replaying = false;        /* changes made by an undo are not recorded again */
 };
 
 } // namespace vantrix::kernel

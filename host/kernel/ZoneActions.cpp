@@ -2,6 +2,7 @@
 
 #include "kernel/AxisVariables.h"
 #include "kernel/DataError.h"
+#include "kernel/DataHistory.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/PlotDefaults.h"
@@ -36,11 +37,7 @@ void ZoneActions::createZone(const Description& description)
     }
     if (!frame->dataSet()) {
         DataSet made = document.newDataSet();
-        made.variables = {{"X", true}, {"Y", true}};
-        if (description.kMax > 1) {
-            made.variables.push_back({"Z", true});
-        }
-        made.addZone(makeZone(description, made.variableCount(), {1, 2, made.variableCount() == 3 ? 3 : 0}));
+        DataHistory::apply(DataHistory::creating(description, {1, 2, description.kMax > 1 ? 3 : 0}), made, {});
         document.attachDataSet(*frame, std::make_shared<const DataSet>(std::move(made)));
         PlotDefaults::apply(*frame);
         return;
@@ -49,7 +46,7 @@ void ZoneActions::createZone(const Description& description)
     expectFieldPlot(style.integer(frame->id(), style.entry("PlotType")), description.kMax);
     const AxisVariables axes = axisVariables(style, *frame);
     DataSet changed = *frame->dataSet();
-    changed.addZone(makeZone(description, changed.variableCount(), {axes.x, axes.y, axes.z}));
+    DataHistory::apply(DataHistory::creating(description, {axes.x, axes.y, axes.z}), changed, {});
     document.replaceDataSet(std::move(changed), {StateChange_ZonesAdded});
 }
 
@@ -75,14 +72,7 @@ void ZoneActions::remove(const std::set<long>& zones)
         throw DataError("Cannot delete all zones of a data set. Leave at least one.");
     }
     DataSet changed = *present;
-    changed.zones.clear();
-    changed.zoneEnabled.clear();
-    for (std::size_t i = 0; i < present->zones.size(); ++i) {
-        if (zones.count(static_cast<long>(i) + 1) == 0) {
-            changed.zones.push_back(present->zones[i]);
-            changed.zoneEnabled.push_back(present->zoneEnabled[i]);
-        }
-    }
+    DataHistory::apply(DataHistory::deleting(zones), changed, {});
     m_kernel.document().replaceDataSet(std::move(changed), {StateChange_ZonesDeleted}, {zones.begin(), zones.end()});
 }
 

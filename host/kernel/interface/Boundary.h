@@ -2,6 +2,9 @@
 
 #include "kernel/ApplicationLock.h"
 #include "kernel/Kernel.h"
+#include "kernel/macro/CommandArguments.h"
+#include "kernel/macro/Commands.h"
+#include "kernel/macro/MacroRecorder.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -45,6 +48,58 @@ void guarded(Function&& function) noexcept
 inline void expectLocked()
 {
     Kernel::instance().lock().expectLocked();
+}
+
+inline bool isSuccess(bool result)
+{
+    return result;
+}
+
+inline bool isSuccess(SetValueReturnCode_e code)
+{
+    return code == SetValueReturnCode_Ok || code == SetValueReturnCode_Adjusted;
+}
+
+/* A call of a function of the interface as a command of a macro. */
+template<class... Arguments>
+MacroCommand describe(const Command& about, const Arguments&... arguments)
+{
+    MacroCommand command{about.name, {}};
+    [[maybe_unused]] std::size_t next = 0;
+    [[maybe_unused]] const auto describeOne = [&](const auto& value) {
+        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, VtxArgListHandle>) {
+            describeList(command, *value);
+        } else {
+            const char* name = about.parameters.at(next++);
+            command.add(name, toMacro(name, value));
+        }
+    };
+    (describeOne(arguments), ...);
+    return command;
+}
+
+/*
+ * What every function that changes state is made with: guarded(), under the lock, and recorded in the macro under way
+ * when it succeeds. `Function` is the function itself, listed in Commands.cpp; `arguments` are those it was called
+ * with.
+ */
+template<auto Function, class Result, class Work, class... Arguments>
+Result change(Result failure, Work&& work, const Arguments&... arguments) noexcept
+{
+    return guarded(failure, [&] {
+        expectLocked();
+        const Kernel& kernel = Kernel::instance();
+        MacroRecorder::Call call(kernel.macroRecorder(), kernel.lock().isRecorded());
+        MacroCommand command;
+        if (call.isDescribed()) {
+            command = describe(commandOf(reinterpret_cast<const void*>(Function)), arguments...);
+        }
+        const Result result = work();
+        if (call.isDescribed() && isSuccess(result)) {
+            call.succeeded(std::move(command));
+        }
+        return result;
+    });
 }
 
 /* A copy for VtxUtilStringDealloc(); null where memory is not to be had. */

@@ -55,16 +55,6 @@ VtxSetHandle newSet(long count, const IsMember& isMember)
     return set.release();
 }
 
-template<class Description>
-bool create(const Description& description)
-{
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
-        ZoneActions(Kernel::instance()).create(description);
-        return true;
-    });
-}
-
 } // namespace
 
 bool VtxUtilDataSetIsAvailable(void)
@@ -109,11 +99,11 @@ long VtxUtilDataSetGetNumZones(void)
 
 bool VtxUtilDataSetDeleteZone(VtxSetHandle zones)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto remove = [&] {
         ZoneActions(Kernel::instance()).remove(zones ? zones->members : std::set<long>());
         return true;
-    });
+    };
+    return boundary::change<&VtxUtilDataSetDeleteZone>(false, remove, zones);
 }
 
 bool VtxUtilZoneGetName(long zone, char** name)
@@ -215,11 +205,11 @@ bool VtxUtilDataValueIsLoaded(long zone, long variable)
 
 bool VtxUtilDataValueLoad(long zone, VtxSetHandle variables)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto load = [&] {
         ZoneActions(Kernel::instance()).load(zone, variables ? variables->members : std::set<long>());
         return true;
-    });
+    };
+    return boundary::change<&VtxUtilDataValueLoad>(false, load, zone, variables);
 }
 
 bool VtxUtilVarGetMinMax(long variable, double* minimum, double* maximum)
@@ -267,11 +257,23 @@ long VtxUtilVarGetNumByAssignment(char axis)
 bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, double yOrigin, double radius,
                                double zMin, double zMax, FieldDataType_e dataType)
 {
-    return create(CircularZone{iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin, zMax, dataType});
+    const auto create = [&] {
+        ZoneActions(Kernel::instance())
+            .create(CircularZone{iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin, zMax, dataType});
+        return true;
+    };
+    return boundary::change<&VtxUtilCreateCircularZone>(false, create, iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin,
+                                                        zMax, dataType);
 }
 
 bool VtxUtilCreateRectangularZone(long iMax, long jMax, long kMax, double xMin, double yMin, double zMin, double xMax,
                                   double yMax, double zMax, FieldDataType_e dataType)
 {
-    return create(RectangularZone{iMax, jMax, kMax, xMin, yMin, zMin, xMax, yMax, zMax, dataType});
+    const auto create = [&] {
+        ZoneActions(Kernel::instance())
+            .create(RectangularZone{iMax, jMax, kMax, xMin, yMin, zMin, xMax, yMax, zMax, dataType});
+        return true;
+    };
+    return boundary::change<&VtxUtilCreateRectangularZone>(false, create, iMax, jMax, kMax, xMin, yMin, zMin, xMax,
+                                                           yMax, zMax, dataType);
 }

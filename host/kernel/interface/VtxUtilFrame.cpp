@@ -78,17 +78,16 @@ bool VtxUtilContourOkToTurnOnRGBColoring(void)
 
 bool VtxUtilFrameSetPlotType(PlotType_e plotType)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto set = [&] {
         return report(style().set(style().entry("PlotType"), -1, -1, static_cast<long>(plotType))) ==
                SetValueReturnCode_Ok;
-    });
+    };
+    return boundary::change<&VtxUtilFrameSetPlotType>(false, set, plotType);
 }
 
 SetValueReturnCode_e VtxUtilFrameSetBackgroundColor(long color)
 {
-    return boundary::guarded(SetValueReturnCode_Refused, [&] {
-        boundary::expectLocked();
+    const auto set = [&] {
         const SetValueReturnCode_e code =
             report(style().set(style().entry("FrameLayout/BackgroundColor"), -1, -1, color));
         if (code == SetValueReturnCode_Ok) {
@@ -97,7 +96,8 @@ SetValueReturnCode_e VtxUtilFrameSetBackgroundColor(long color)
             style().replaceForegroundColors(document().activeFrame()->id(), color, color == black ? white : black);
         }
         return code;
-    });
+    };
+    return boundary::change<&VtxUtilFrameSetBackgroundColor>(SetValueReturnCode_Refused, set, color);
 }
 
 bool VtxUtilPaperGetDimensions(double* width, double* height)
@@ -137,9 +137,9 @@ bool VtxUtilMouseIsValidMode(MouseMode_e mode)
 
 bool VtxUtilMouseSetMode(MouseMode_e mode)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto set = [&] {
         return Kernel::instance().mouseModes().set(mode) ||
                boundary::fail("Mouse mode " + std::to_string(mode) + " is not valid for the present plot.");
-    });
+    };
+    return boundary::change<&VtxUtilMouseSetMode>(false, set, mode);
 }

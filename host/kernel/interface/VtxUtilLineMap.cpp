@@ -98,18 +98,18 @@ bool VtxUtilLineMapGetAssignment(long lineMap, long* zone, long* xVariable, long
 
 bool VtxUtilLineMapCreate(long zone, long xVariable, long yVariable)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto add = [&] {
         expectLineMaps().add({{.zone = zone, .xVariable = xVariable, .yVariable = yVariable}});
         return true;
-    });
+    };
+    return boundary::change<&VtxUtilLineMapCreate>(false, add, zone, xVariable, yVariable);
 }
 
 bool VtxUtilLineMapDelete(VtxSetHandle lineMaps)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto remove = [&] {
         expectLineMaps().remove(lineMaps ? lineMaps->members : std::set<long>());
         return true;
-    });
+    };
+    return boundary::change<&VtxUtilLineMapDelete>(false, remove, lineMaps);
 }

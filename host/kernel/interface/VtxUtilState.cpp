@@ -1,4 +1,3 @@
-#include "api/VtxUtilDocument.h"
 #include "api/VtxUtilState.h"
 
 #include "kernel/StateChanges.h"
@@ -35,6 +34,7 @@ bool VtxUtilLockRollBack(void)
             return boundary::fail("There is nothing to take back: the lock is not on.");
         }
         Kernel::instance().undoStack().rollBackStep();
+        Kernel::instance().macroRecorder().dropStep();
         return true;
     });
 }
@@ -47,16 +47,22 @@ void VtxUtilUndoSetStepName(const char* name)
 bool VtxUtilUndo(void)
 {
     return boundary::guarded(false, [] {
-        return Kernel::instance().undoStack().undo() ||
-               boundary::fail("There is nothing to undo, or a step is under way.");
+        if (!Kernel::instance().undoStack().undo()) {
+            return boundary::fail("There is nothing to undo, or a step is under way.");
+        }
+        Kernel::instance().macroRecorder().recordStep({"Undo", {}});
+        return true;
     });
 }
 
 bool VtxUtilRedo(void)
 {
     return boundary::guarded(false, [] {
-        return Kernel::instance().undoStack().redo() ||
-               boundary::fail("There is nothing to redo, or a step is under way.");
+        if (!Kernel::instance().undoStack().redo()) {
+            return boundary::fail("There is nothing to redo, or a step is under way.");
+        }
+        Kernel::instance().macroRecorder().recordStep({"Redo", {}});
+        return true;
     });
 }
 
@@ -110,9 +116,4 @@ long VtxUtilStateChangeGetStyleEntry(VtxStateChangeHandle change)
 long VtxUtilStateChangeGetObject(VtxStateChangeHandle change)
 {
     return change->object;
-}
-
-bool VtxUtilMacroIsRecordingActive(void)
-{
-    return Kernel::instance().isRecordingMacro();
 }

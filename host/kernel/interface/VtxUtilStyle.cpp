@@ -1,5 +1,6 @@
 #include "api/VtxUtilStyle.h"
 
+#include "kernel/StyleActions.h"
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
 #include "kernel/StyleStore.h"
@@ -191,9 +192,9 @@ SetValueReturnCode_e writeValue(const VtxArgList& arguments)
     }
     if (const auto* objects = arguments.findAs<VtxSet>("ObjectSet")) {
         const std::vector<long> offsets(objects->members.begin(), objects->members.end());
-        return report(style().setMany(address.entry, offsets, address.offset2, *value));
+        return report(StyleActions::set(address.entry, offsets, address.offset2, *value));
     }
-    return report(style().set(address.entry, address.offset1, address.offset2, *value));
+    return report(StyleActions::set(address.entry, {address.offset1}, address.offset2, *value));
 }
 
 } // namespace

@@ -1,0 +1,266 @@
+#include "kernel/Layout.h"
+
+#include "kernel/ApplicationLock.h"
+#include "kernel/AtomicFile.h"
+#include "kernel/DataError.h"
+#include "kernel/Document.h"
+#include "kernel/FrontEnd.h"
+#include "kernel/Kernel.h"
+#include "kernel/LayoutReader.h"
+#include "kernel/ProbeService.h"
+#include "kernel/StateChanges.h"
+#include "kernel/StyleActions.h"
+#include "kernel/StyleStore.h"
+#include "kernel/UndoStack.h"
+#include "kernel/macro/MacroCommand.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace vantrix::kernel {
+
+namespace {
+
+std::string folderOf(const std::string& file)
+{
+    return std::filesystem::absolute(file).parent_path().string();
+}
+
+/* Writes the commands of a layout, one a line. */
+class LayoutWriter
+{
+public:
+    LayoutWriter(const StyleStore& style, std::string folder)
+        : m_style(style)
+        , m_folder(std::move(folder))
+    {}
+
+    void write(int depth, const MacroCommand& command) { writeLine(depth, macroText(command)); }
+
+    void writeLine(int depth, const std::string& line)
+    {
+        m_text += std::string(static_cast<std::size_t>(2 * depth), ' ') + line + '\n';
+    }
+
+    void writeStyle(int depth, long scopeId)
+    {
+        for (const StyleStore::Stored& stored : m_style.storedValues(scopeId)) {
+            write(depth, StyleActions::command(stored.entry, {stored.offset1}, stored.offset2, stored.value));
+        }
+    }
+
+    void writeDataSet(long number, const DataSet& dataSet)
+    {
+        write(0, {"DataSet", {{"Id", number}}});
+        for (MacroCommand command : dataSet.history) {
+            for (auto& [name, value] : command.arguments) {
+                if (auto* files = std::get_if<std::vector<std::string>>(&value)) {
+                    for (std::string& file : *files) {
+                        file = relative(file);
+                    }
+                }
+            }
+            write(1, command);
+        }
+        MacroCommand state{"DataState", {}};
+        addDisabled(state, "DisabledZones", dataSet.zones.size(),
+                    [&](std::size_t i) { return dataSet.zoneEnabled[i]; });
+        addDisabled(state, "DisabledVariables", dataSet.variables.size(),
+                    [&](std::size_t i) { return dataSet.variables[i].enabled; });
+        if (!state.arguments.empty()) {
+            write(1, state);
+        }
+    }
+
+    const std::string& text() const { return m_text; }
+
+private:
+    template<class IsEnabled>
+    static void addDisabled(MacroCommand& state, const char* name, std::size_t count, const IsEnabled& isEnabled)
+    {
+        std::set<long> disabled;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (!isEnabled(i)) {
+                disabled.insert(static_cast<long>(i) + 1);
+            }
+        }
+        if (!disabled.empty()) {
+            state.add(name, disabled);
+        }
+    }
+
+    std::string relative(const std::string& file) const
+    {
+        if (m_folder.empty()) {
+            return file;
+        }
+        const std::filesystem::path path = std::filesystem::path(file).lexically_relative(m_folder);
+        const bool isBelow = !path.empty() && *path.begin() != "..";
+        return isBelow ? path.string() : file;
+    }
+
+    const StyleStore& m_style;
+    std::string m_folder;
+    std::string m_text;
+};
+
+} // namespace
+
+Layout::Layout(Kernel& kernel)
+    : m_kernel(kernel)
+    , m_savedState(kernel.undoStack().state())
+{}
+
+std::string Layout::text(const std::string& folder) const
+{
+    const Document& document = m_kernel.document();
+    LayoutWriter writer(m_kernel.style(), folder);
+    const auto writeUnknown = [&](int depth, long scopeId) {
+        if (const auto found = m_unknown.find(scopeId); found != m_unknown.end()) {
+            for (const std::string& line : found->second) {
+                writer.writeLine(depth, line);
+            }
+        }
+    };
+    writer.write(0, {"Layout", {{"Version", 1L}}});
+    writeUnknown(0, 0);
+    std::map<const DataSet*, long> numbers;
+    for (const auto& page : document.pages()) {
+        for (const auto& frame : page->frames) {
+            const DataSet* data = frame->dataSet().get();
+            const long number = static_cast<long>(numbers.size()) + 1;
+            if (data && numbers.try_emplace(data, number).second) {
+                writer.writeDataSet(number, *data);
+            }
+        }
+    }
+    for (const auto& page : document.pages()) {
+        MacroCommand head{"Page", {}};
+        if (page.get() == document.activePage()) {
+            head.add("Active", 1L);
+        }
+        writer.write(0, head);
+        writer.writeStyle(1, page->id);
+        writeUnknown(1, page->id);
+        for (std::size_t i = 0; i < page->frames.size(); ++i) {
+            const Frame& frame = *page->frames[i];
+            MacroCommand frameHead{"Frame", {}};
+            if (frame.dataSet()) {
+                frameHead.add("DataSet", numbers.at(frame.dataSet().get()));
+            }
+            if (static_cast<long>(i) + 1 == page->activeFrame) {
+                frameHead.add("Active", 1L);
+            }
+            writer.write(1, frameHead);
+            writer.writeStyle(2, frame.id());
+            writeUnknown(2, frame.id());
+        }
+    }
+    return writer.text();
+}
+
+void Layout::saveCopy(const std::string& file) const
+{
+    replaceFile(file, text());
+}
+
+void Layout::save(const std::string& file)
+{
+    replaceFile(file, text(folderOf(file)));
+    m_fileName = std::filesystem::absolute(file).string();
+    setUnmodified();
+}
+
+void Layout::open(const std::string& file)
+{
+    load(file);
+    m_fileName = std::filesystem::absolute(file).string();
+    setUnmodified();
+    m_kernel.stateChanges().send(StateChange_NewLayout);
+}
+
+void Layout::recover(const std::string& copy, const std::string& original)
+{
+    load(copy);
+    m_fileName = original;
+    m_savedState = 0; // the state of no document
+    m_kernel.stateChanges().send(StateChange_NewLayout);
+}
+
+void Layout::load(const std::string& file)
+{
+    if (m_kernel.lock().isOn()) {
+        throw DataError("A layout cannot be opened in the middle of another action.");
+    }
+    std::ifstream stream(file);
+    if (!stream || std::filesystem::is_directory(file)) {
+        throw DataError("Cannot read the layout \"" + file + "\"; is there such a file, and may you read it?");
+    }
+    const char* const task = "Opening layout";
+    FrontEnd& frontEnd = m_kernel.frontEnd();
+    LayoutReader reader(m_kernel.document(), m_kernel.style(),
+                        [&](double fraction) { return frontEnd.reportProgress(task, fraction); });
+    try {
+        reader.read(stream, folderOf(file));
+    } catch (const ActionCancelled&) {
+        frontEnd.reportProgress(task, 2.0);
+        throw;
+    } catch (const DataError& failure) {
+        frontEnd.reportProgress(task, 2.0);
+        throw DataError("Layout \"" + file + "\", " + failure.what());
+    }
+    frontEnd.reportProgress(task, 2.0);
+
+    StyleStore& style = m_kernel.style();
+    drop();
+    for (const LayoutReader::Style& each : reader.styles) {
+        style.fillScope(each.scopeId, each.values);
+    }
+    m_kernel.document().replacePages(std::move(reader.pages), reader.activePage);
+    m_unknown = std::move(reader.unknown);
+    if (!m_unknown.empty()) {
+        std::size_t count = 0;
+        for (const auto& [scope, lines] : m_unknown) {
+            count += lines.size();
+        }
+        frontEnd.showStatus("The layout has " + std::to_string(count) + (count == 1 ? " entry" : " entries") +
+                            " that this program does not know; the first is " + m_unknown.begin()->second.front() +
+                            ". They are kept when it is saved.");
+    }
+}
+
+void Layout::clear()
+{
+    drop();
+    setUnmodified();
+    m_kernel.stateChanges().send(StateChange_NewLayout);
+}
+
+void Layout::drop()
+{
+    m_kernel.undoStack().clear();
+    StyleStore& style = m_kernel.style();
+    for (const auto& page : m_kernel.document().pages()) {
+        style.removeScope(page->id);
+        for (const auto& frame : page->frames) {
+            style.removeScope(frame->id());
+        }
+    }
+    m_kernel.document().reset();
+    m_kernel.probes().reset();
+    m_unknown.clear();
+    m_fileName.clear();
+}
+
+bool Layout::isModified() const
+{
+    return m_kernel.undoStack().state() != m_savedState;
+}
+
+void Layout::setUnmodified()
+{
+    m_savedState = m_kernel.undoStack().state();
+}
+
+} // namespace vantrix::kernel

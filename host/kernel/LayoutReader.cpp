@@ -1,0 +1,230 @@
+#include "kernel/LayoutReader.h"
+
+#include "kernel/DataError.h"
+#include "kernel/PlotAxes.h"
+#include "kernel/StyleActions.h"
+#include "kernel/StyleCheck.h"
+#include "kernel/StylePath.h"
+#include "kernel/macro/MacroCommand.h"
+
+#include <utility>
+
+namespace vantrix::kernel {
+
+namespace {
+
+constexpr long layoutVersion = 1;
+
+bool flagOf(const MacroCommand& command, const char* name)
+{
+    return command.find(name) && command.integer(name) != 0;
+}
+
+const std::set<long>& setOf(const MacroCommand& command, const char* name)
+{
+    static const std::set<long> none;
+    const MacroValue* value = command.find(name);
+    const auto* numbers = value ? std::get_if<std::set<long>>(value) : nullptr;
+    return numbers ? *numbers : none;
+}
+
+} // namespace
+
+void LayoutReader::read(std::istream& stream, const std::filesystem::path& folder)
+{
+    m_folder = folder;
+    std::string text;
+    long number = 1;
+    try {
+        for (; std::getline(stream, text); ++number) {
+            readLine(text);
+        }
+        finishDataSet();
+        if (!m_hasHead) {
+            throw DataError("the file is empty; it is no layout.");
+        }
+        if (pages.empty()) {
+            throw DataError("the layout has no page.");
+        }
+        checkPlotTypes();
+    } catch (const ActionCancelled&) {
+        throw;
+    } catch (const std::exception& failure) {
+        throw DataError("line " + std::to_string(number) + ": " + failure.what());
+    }
+    for (const auto& page : pages) {
+        if (page->frames.empty()) {
+            page->frames.push_back(std::make_shared<Frame>(m_document.newId()));
+        }
+        page->activeFrame = page->activeFrame > 0 ? page->activeFrame : static_cast<long>(page->frames.size());
+    }
+}
+
+void LayoutReader::readLine(const std::string& text)
+{
+    const std::vector<MacroCommand> commands = parseMacroLine(text);
+    if (commands.empty()) {
+        return;
+    }
+    if (commands.size() > 1) {
+        throw DataError("one entry a line is expected.");
+    }
+    readCommand(commands.front(), text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
+}
+
+void LayoutReader::readCommand(const MacroCommand& command, const std::string& text)
+{
+    if (!m_hasHead) {
+        if (command.name != "Layout") {
+            throw DataError("a layout begins with \"Layout Version=1\".");
+        }
+        if (command.integer("Version") > layoutVersion) {
+            throw DataError("the layout has version " + std::to_string(command.integer("Version")) +
+                            "; this program knows versions up to " + std::to_string(layoutVersion) + '.');
+        }
+        m_hasHead = true;
+    } else if (command.name == "DataSet") {
+        beginDataSet(command);
+    } else if (command.name == "Page") {
+        beginPage(command);
+    } else if (command.name == "Frame") {
+        beginFrame(command);
+    } else if (m_dataSet) {
+        addData(command);
+    } else if (command.name == "StyleSet") {
+        addStyle(command, text);
+    } else {
+        unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
+    }
+}
+
+void LayoutReader::beginDataSet(const MacroCommand& command)
+{
+    finishDataSet();
+    m_dataSetId = command.integer("Id");
+    if (m_dataSets.contains(m_dataSetId)) {
+        throw DataError("there is a data set " + std::to_string(m_dataSetId) + " already.");
+    }
+    m_dataSet = std::make_unique<DataSet>(m_document.newDataSet());
+}
+
+void LayoutReader::addData(MacroCommand command)
+{
+    if (command.name == "DataState") {
+        for (const long zone : setOf(command, "DisabledZones")) {
+            if (zone <= m_dataSet->zoneCount()) {
+                m_dataSet->zoneEnabled[static_cast<std::size_t>(zone - 1)] = false;
+            }
+        }
+        for (const long variable : setOf(command, "DisabledVariables")) {
+            if (variable <= m_dataSet->variableCount()) {
+                m_dataSet->variables[static_cast<std::size_t>(variable - 1)].enabled = false;
+            }
+        }
+        return;
+    }
+    for (auto& [name, value] : command.arguments) {
+        if (auto* files = std::get_if<std::vector<std::string>>(&value)) {
+            for (std::string& file : *files) {
+                file = (m_folder / file).lexically_normal().string();
+            }
+        }
+    }
+    DataHistory::apply(command, *m_dataSet, m_progress);
+}
+
+void LayoutReader::finishDataSet()
+{
+    if (m_dataSet) {
+        m_dataSets[m_dataSetId] = std::make_shared<const DataSet>(std::move(*m_dataSet));
+        m_dataSet.reset();
+    }
+}
+
+void LayoutReader::beginPage(const MacroCommand& command)
+{
+    finishDataSet();
+    pages.push_back(std::make_shared<Page>());
+    pages.back()->id = m_document.newId();
+    if (flagOf(command, "Active")) {
+        activePage = pages.size() - 1;
+    }
+    m_frame.reset();
+    styles.push_back({pages.back()->id, {}});
+}
+
+void LayoutReader::beginFrame(const MacroCommand& command)
+{
+    finishDataSet();
+    if (pages.empty()) {
+        throw DataError("a frame stands behind the page that it lies on.");
+    }
+    m_frame = std::make_shared<Frame>(m_document.newId());
+    Page& page = *pages.back();
+    page.frames.push_back(m_frame);
+    if (flagOf(command, "Active")) {
+        page.activeFrame = static_cast<long>(page.frames.size());
+    }
+    if (command.find("DataSet")) {
+        const auto found = m_dataSets.find(command.integer("DataSet"));
+        if (found == m_dataSets.end()) {
+            throw DataError("there is no data set " + std::to_string(command.integer("DataSet")) +
+                            " before this frame.");
+        }
+        m_frame->setDataSet(found->second);
+    }
+    styles.push_back({m_frame->id(), {}});
+}
+
+void LayoutReader::addStyle(const MacroCommand& command, const std::string& text)
+{
+    const long entry = m_style.entry(command.text("Path").c_str());
+    const StyleScope scope = m_frame ? StyleScope::Frame : StyleScope::Page;
+    const bool isOfScope = entry >= 0 && styleVocabulary()[static_cast<std::size_t>(entry)].scope == scope;
+    if (styles.empty() || !isOfScope) {
+        unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
+        return;
+    }
+    const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];
+    StyleStore::Stored stored{entry,
+                              command.find("Object") ? command.integer("Object") : -1,
+                              command.find("Object2") ? command.integer("Object2") : -1,
+                              {}};
+    const std::optional<StyleData> value = StyleActions::value(entry, command);
+    if (!value) {
+        throw DataError(stylePathText(entry) + " is " + styleTypeText(about.type) + '.');
+    }
+    stored.value = *value;
+    const DataSet* data = m_frame ? m_frame->dataSet().get() : nullptr;
+    const long zones = data ? data->zoneCount() : 0;
+    if (styleIndex(about, stored.offset1, stored.offset2, zones) < 0) {
+        throw DataError(badOffsetText(entry, stored.offset1, stored.offset2, zones));
+    }
+    if (const StyleRefusal refusal = checkStyleValue(entry, stored.value); refusal.code != SetValueReturnCode_Ok) {
+        throw DataError(refusal.text);
+    }
+    styles.back().values.push_back(std::move(stored));
+}
+
+void LayoutReader::checkPlotTypes() const
+{
+    const long plotType = m_style.entry("PlotType");
+    for (const auto& page : pages) {
+        for (const auto& frame : page->frames) {
+            for (const Style& style : styles) {
+                for (const StyleStore::Stored& stored : style.values) {
+                    if (style.scopeId != frame->id() || stored.entry != plotType) {
+                        continue;
+                    }
+                    const std::string refused = whyPlotTypeIsRefused(
+                        frame->dataSet().get(), static_cast<PlotType_e>(std::get<long>(stored.value)));
+                    if (!refused.empty()) {
+                        throw DataError(refused);
+                    }
+                }
+            }
+        }
+    }
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,121 @@
+#include "kernel/StyleActions.h"
+
+#include "kernel/ApplicationLock.h"
+#include "kernel/DataError.h"
+#include "kernel/Kernel.h"
+#include "kernel/StyleCheck.h"
+#include "kernel/StylePath.h"
+#include "kernel/StyleVocabulary.h"
+#include "kernel/macro/MacroRecorder.h"
+
+#include <algorithm>
+
+namespace vantrix::kernel {
+
+namespace {
+
+const StyleEntry& description(long entry)
+{
+    return styleVocabulary()[static_cast<std::size_t>(entry)];
+}
+
+std::span<const StyleEnumerator> enumeratorsOf(long entry)
+{
+    const StyleEntry& about = description(entry);
+    return about.type == StyleType::Enumeration ? styleEnumeration(about.enumeration).enumerators
+                                                : std::span<const StyleEnumerator>();
+}
+
+MacroValue macroValue(long entry, const StyleData& value)
+{
+    if (const long* number = std::get_if<long>(&value)) {
+        const auto names = enumeratorsOf(entry);
+        const auto name = std::ranges::find(names, *number, &StyleEnumerator::value);
+        return name != names.end() ? MacroValue(std::string(name->name)) : MacroValue(*number);
+    }
+    if (const double* number = std::get_if<double>(&value)) {
+        return *number;
+    }
+    return std::get<std::string>(value);
+}
+
+} // namespace
+
+SetValueReturnCode_e StyleActions::set(long entry, const std::vector<long>& objects, long object2,
+                                       const StyleData& value)
+{
+    const Kernel& kernel = Kernel::instance();
+    StyleStore& style = kernel.style();
+    MacroRecorder::Call call(kernel.macroRecorder(), kernel.lock().isRecorded());
+    const unsigned long before = style.changeStamp(entry);
+    const SetValueReturnCode_e code = style.setMany(entry, objects, object2, value);
+    if (call.isDescribed() && style.changeStamp(entry) != before) {
+        call.succeeded(command(entry, objects, object2, value));
+    }
+    return code;
+}
+
+MacroCommand StyleActions::command(long entry, const std::vector<long>& objects, long object2, const StyleData& value)
+{
+    MacroCommand command{"StyleSet", {{"Path", stylePath(entry)}}};
+    if (objects.size() == 1 && objects.front() >= 0) {
+        command.add("Object", objects.front());
+    } else if (objects.size() > 1) {
+        command.add("Object", std::set<long>(objects.begin(), objects.end()));
+    }
+    if (object2 >= 0) {
+        command.add("Object2", object2);
+    }
+    command.add("Value", macroValue(entry, value));
+    return command;
+}
+
+std::optional<StyleData> StyleActions::value(long entry, const MacroCommand& command)
+{
+    const MacroValue* given = command.find("Value");
+    const long* number = given ? std::get_if<long>(given) : nullptr;
+    const auto* text = given ? std::get_if<std::string>(given) : nullptr;
+    switch (description(entry).type) {
+    case StyleType::Flag:
+    case StyleType::Integer:
+        return number ? std::optional<StyleData>(*number) : std::nullopt;
+    case StyleType::Enumeration:
+        if (text) {
+            const auto names = enumeratorsOf(entry);
+            const auto name = std::ranges::find(names, *text, &StyleEnumerator::name);
+            return name != names.end() ? std::optional<StyleData>(name->value) : std::nullopt;
+        }
+        return number ? std::optional<StyleData>(*number) : std::nullopt;
+    case StyleType::Double:
+        return command.real("Value");
+    case StyleType::String:
+        return text ? std::optional<StyleData>(*text) : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+bool StyleActions::run(const MacroCommand& command)
+{
+    const long entry = Kernel::instance().style().entry(command.text("Path").c_str());
+    if (entry < 0) {
+        throw DataError("There is no style value \"" + command.text("Path") + "\".");
+    }
+    std::vector<long> objects{-1};
+    if (const MacroValue* object = command.find("Object")) {
+        const auto* many = std::get_if<std::set<long>>(object);
+        objects = many ? std::vector<long>(many->begin(), many->end()) : std::vector{command.integer("Object")};
+    }
+    const std::optional<StyleData> given = value(entry, command);
+    if (!given) {
+        throw DataError(stylePathText(entry) + " is " + styleTypeText(description(entry).type) + ", not " +
+                        (command.find("Value") ? macroText(*command.find("Value")) : "empty") + '.');
+    }
+    const SetValueReturnCode_e code =
+        set(entry, objects, command.find("Object2") ? command.integer("Object2") : -1, *given);
+    if (code != SetValueReturnCode_Ok && code != SetValueReturnCode_Adjusted) {
+        throw DataError(Kernel::instance().style().lastError());
+    }
+    return true;
+}
+
+} // namespace vantrix::kernel

@@ -1,0 +1,134 @@
+#include "kernel/macro/MacroPlayer.h"
+
+#include "kernel/ApplicationLock.h"
+#include "kernel/DataError.h"
+#include "kernel/FrontEnd.h"
+#include "kernel/Kernel.h"
+#include "kernel/UndoStack.h"
+#include "kernel/macro/Commands.h"
+#include "kernel/macro/MacroRecorder.h"
+
+#include <fstream>
+
+namespace vantrix::kernel {
+
+namespace {
+
+const char* const taskName = "Playing macro";
+
+void checkLine(const std::vector<MacroCommand>& commands, long number)
+{
+    for (const MacroCommand& command : commands) {
+        if (command.name == "Macro") {
+            if (number != 1 || commands.size() != 1) {
+                throw DataError("\"Macro\" with the version stands alone on the first line.");
+            }
+            if (command.integer("Version") > macroVersion) {
+                throw DataError("the macro has version " + std::to_string(command.integer("Version")) +
+                                "; this program knows versions up to " + std::to_string(macroVersion) + '.');
+            }
+            continue;
+        }
+        const Command* about = commandNamed(command.name);
+        if (!about) {
+            throw DataError("there is no command \"" + command.name + "\".");
+        }
+        if (about->isStepOfItsOwn && commands.size() > 1) {
+            throw DataError("\"" + command.name + "\" has to stand alone on its line.");
+        }
+        if (!about->takesList) {
+            checkArguments(command, *about);
+        }
+    }
+}
+
+DataError located(const std::string& file, long line, const std::string& cause)
+{
+    return DataError("Macro \"" + file + "\", line " + std::to_string(line) + ": " + cause);
+}
+
+} // namespace
+
+std::vector<MacroPlayer::Line> MacroPlayer::read(const std::string& file) const
+{
+    std::ifstream stream(file);
+    if (!stream) {
+        throw DataError("Cannot read the macro \"" + file + "\"; is there such a file, and may you read it?");
+    }
+    std::vector<Line> lines;
+    std::string text;
+    for (long number = 1; std::getline(stream, text); ++number) {
+        try {
+            Line line{number, parseMacroLine(text)};
+            checkLine(line.commands, number);
+            if (!line.commands.empty() && line.commands.front().name != "Macro") {
+                lines.push_back(std::move(line));
+            }
+        } catch (const std::exception& failure) {
+            throw located(file, number, failure.what());
+        }
+    }
+    if (stream.bad()) {
+        throw DataError("Cannot read the macro \"" + file + "\" to its end.");
+    }
+    return lines;
+}
+
+void MacroPlayer::run(const std::string& file)
+{
+    if (m_kernel.lock().isOn()) {
+        throw DataError("A macro cannot be played in the middle of another action.");
+    }
+    const std::vector<Line> lines = read(file);
+    try {
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (!m_kernel.frontEnd().reportProgress(taskName,
+                                                    static_cast<double>(i) / static_cast<double>(lines.size()))) {
+                throw ActionCancelled("The macro was stopped before line " + std::to_string(lines[i].number) + '.');
+            }
+            try {
+                play(lines[i]);
+            } catch (const ActionCancelled&) {
+                throw;
+            } catch (const DataError& failure) {
+                throw located(file, lines[i].number, failure.what());
+            }
+        }
+    } catch (...) {
+        m_kernel.frontEnd().reportProgress(taskName, 2.0);
+        throw;
+    }
+    m_kernel.frontEnd().reportProgress(taskName, 2.0);
+}
+
+void MacroPlayer::play(const Line& line)
+{
+    const auto runAll = [&] {
+        for (const MacroCommand& command : line.commands) {
+            if (!runCommand(command)) {
+                throw DataError(m_kernel.lastError());
+            }
+        }
+    };
+    if (commandNamed(line.commands.front().name)->isStepOfItsOwn) {
+        runAll();
+        return;
+    }
+    const ActionLock lock(m_kernel.lock());
+    try {
+        runAll();
+        m_kernel.undoStack().nameStep("Macro");
+    } catch (...) {
+        m_kernel.undoStack().rollBackStep();
+        m_kernel.macroRecorder().dropStep();
+        throw;
+    }
+}
+
+bool MacroPlayer::runCommand(const MacroCommand& command)
+{
+    const Command& about = *commandNamed(command.name);
+    return about.run(command, about);
+}
+
+} // namespace vantrix::kernel
