@@ -1,5 +1,6 @@
 #include "view/AxisBoxPainter.h"
 
+#include "view/HitMap.h"
 #include "view/LinePattern.h"
 
 #include <algorithm>
@@ -237,6 +238,8 @@ void AxisBoxPainter::paintBack() const
                            ? m_canvas.pen(first.grid.color, m_style.area.borderThickness / 100.0 * m_frameHeight)
                            : QPen(Qt::NoPen));
         painter.drawPolygon(corners.data(), 4);
+        m_canvas.markArea(axisObject("XYZ"[side.first], AxisSubObject_GridArea),
+                          QPolygonF(corners.begin(), corners.end()));
         paintGrid(side, false);
     }
 }
@@ -247,6 +250,7 @@ void AxisBoxPainter::paintAxes() const
         paintGrid(side, true);
     }
     for (const AxisLinePainter& line : lines()) {
+        line.mark("XYZ"[&line.style() - m_style.axes.data()]);
         line.paint();
     }
     if (m_style.tripod.isShown) {

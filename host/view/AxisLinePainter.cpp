@@ -1,5 +1,6 @@
 #include "view/AxisLinePainter.h"
 
+#include "view/HitMap.h"
 #include "view/NumberLabel.h"
 
 #include <algorithm>
@@ -238,6 +239,21 @@ void AxisLinePainter::paint(std::optional<QColor> behind) const
     if (m_title) {
         m_canvas.drawTurnedText(m_title->middle, m_title->degrees, m_title->text, m_title->font,
                                 m_style.title.text.color);
+    }
+}
+
+void AxisLinePainter::mark(char axis, int axisNumber) const
+{
+    const kernel::PickedObject line = axisObject(axis, AxisSubObject_AxisLine, axisNumber);
+    if (m_parts.hasLine) {
+        m_canvas.markLine(line, m_path.painterPath().toSubpathPolygons().value(0));
+    }
+    for (const Label& label : m_labels) {
+        m_canvas.markArea(line, turnedBox(label.middle, label.size, label.degrees));
+    }
+    if (m_title) {
+        m_canvas.markArea(axisObject(axis, AxisSubObject_Title, axisNumber),
+                          turnedBox(m_title->middle, m_title->size, m_title->degrees));
     }
 }
 

@@ -50,6 +50,10 @@ public:
     /* `behind` is what labels erase lines with; without one nothing is erased. */
     void paint(std::optional<QColor> behind = std::nullopt) const;
 
+    /* Tells the hit map where line, numbers and title of the axis are; see VtxUtilAxis.h for how axes are named. */
+    void mark(char axis, int axisNumber = 1) const;
+
+    const AxisStyle& style() const { return m_style; }
     const AxisTicks& ticks() const { return m_ticks; }
 
     /* The ticks that an axis has along a path, whatever is drawn of them. */

@@ -1,5 +1,6 @@
 #include "view/AxisPainter.h"
 
+#include "view/HitMap.h"
 #include "view/LinePattern.h"
 
 #include <algorithm>
@@ -290,7 +291,9 @@ void AxisPainter::paintFront() const
         m_canvas.painter.drawRect(m_area);
     }
     const QColor behind = style.isFilled ? style.fill : m_style.frame.background;
+    m_canvas.markArea(axisObject('X', AxisSubObject_GridArea), m_area);
     for (const Line& line : lines()) {
+        line.painter.mark("XY"[line.axis->kind], line.axis->number);
         line.painter.paint(line.isAtBorder ? std::nullopt : std::optional(behind));
     }
 }

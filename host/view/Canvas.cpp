@@ -1,5 +1,7 @@
 #include "view/Canvas.h"
 
+#include "view/HitMap.h"
+
 #include <QFontMetricsF>
 #include <QPaintDevice>
 
@@ -121,6 +123,20 @@ QRectF Canvas::aligned(const QRectF& rect) const
     const QPointF topLeft(std::round(device.left()), std::round(device.top()));
     const QPointF bottomRight(std::round(device.right()), std::round(device.bottom()));
     return toDevice.inverted().mapRect(QRectF(topLeft, bottomRight));
+}
+
+void Canvas::markArea(const kernel::PickedObject& object, const QPolygonF& outline) const
+{
+    if (hits) {
+        hits->addArea(object, painter.transform().map(outline));
+    }
+}
+
+void Canvas::markLine(const kernel::PickedObject& object, const QPolygonF& line) const
+{
+    if (hits) {
+        hits->addLine(object, painter.transform().map(line));
+    }
 }
 
 } // namespace vantrix::view

@@ -9,7 +9,13 @@
 #include <QSizeF>
 #include <QString>
 
+namespace vantrix::kernel {
+struct PickedObject;
+}
+
 namespace vantrix::view {
+
+class HitMap;
 
 /* Texts whose edges are not smoothed, which is quick to draw. */
 struct TextEdges
@@ -25,15 +31,17 @@ struct TextEdges
 class Canvas
 {
 public:
-    Canvas(QPainter& onto, double unitsPerInch, TextEdges textEdges = {})
+    Canvas(QPainter& onto, double unitsPerInch, TextEdges textEdges = {}, HitMap* hitMap = nullptr)
         : painter(onto)
         , inch(unitsPerInch)
         , edges(textEdges)
+        , hits(hitMap)
     {}
 
     QPainter& painter;
     const double inch; /* in logical units */
     const TextEdges edges;
+    HitMap* const hits; /* where to tell what was painted where; may be null */
 
     /* A sans-serif font, or one of a family, of a height in inches; Greek and mathematical ones are serif fonts. */
     QFont font(double height, bool isBold = false) const;
@@ -51,6 +59,10 @@ public:
     /* The same, turned by degrees counter-clockwise about the point, the box centred on it. */
     void drawTurnedText(QPointF middle, double degrees, const QString& text, const QFont& font,
                         const QColor& color) const;
+
+    /* Tells the hit map, if there is one, where an object was painted; see HitMap. */
+    void markArea(const kernel::PickedObject& object, const QPolygonF& outline) const;
+    void markLine(const kernel::PickedObject& object, const QPolygonF& line) const;
 
     /* Pixels of the device for a logical unit. */
     double resolution() const;

@@ -8,8 +8,10 @@
 #include <vtkLight.h>
 #include <vtkLookupTable.h>
 #include <vtkMath.h>
+#include <vtkMatrix4x4.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>
+#include <vtkRenderWindow.h>
 #include <vtkRenderer.h>
 #include <vtkStructuredGrid.h>
 
@@ -271,12 +273,21 @@ QImage FieldScene::picture(const Camera3D& view, QSize size)
     return rendered(pixels);
 }
 
+bool FieldScene::pick(vtkCellPicker& picker, double across, double up) const
+{
+    picker.SetTolerance(0.0005);
+    if (!m_renderer->GetRenderWindow()) {
+        return false;
+    }
+    // Another frame may have been rendered since, in another size.
+    m_renderer->GetRenderWindow()->SetSize(m_pixels.width(), m_pixels.height());
+    return picker.Pick(across * m_pixels.width(), up * m_pixels.height(), 0.0, m_renderer) != 0;
+}
+
 std::optional<Point3> FieldScene::pick(double across, double up) const
 {
     const auto picker = vtkSmartPointer<vtkCellPicker>::New();
-    picker->SetTolerance(0.0005);
-    if (!m_renderer->GetRenderWindow() ||
-        !picker->Pick(across * m_pixels.width(), up * m_pixels.height(), 0.0, m_renderer)) {
+    if (!pick(*picker, across, up)) {
         return std::nullopt;
     }
     Point3 point{};
@@ -285,6 +296,39 @@ std::optional<Point3> FieldScene::pick(double across, double up) const
         point[i] /= m_scale[i] != 0.0 ? m_scale[i] : 1.0;
     }
     return point;
+}
+
+long FieldScene::zoneAt(double across, double up) const
+{
+    const auto picker = vtkSmartPointer<vtkCellPicker>::New();
+    if (pick(*picker, across, up)) {
+        for (const auto& [number, zone] : m_zones) {
+            if (zone.layers->hasProp(picker->GetViewProp())) {
+                return number;
+            }
+        }
+    }
+    return 0;
+}
+
+std::vector<QPointF> FieldScene::zoneCorners(long zone) const
+{
+    std::vector<QPointF> corners;
+    const auto found = m_zones.find(zone);
+    std::array<double, 6> bounds{};
+    if (found == m_zones.end() || m_pixels.isEmpty() || !found->second.layers->worldBounds(bounds)) {
+        return corners;
+    }
+    const double aspect = double(m_pixels.width()) / m_pixels.height();
+    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
+    for (std::size_t corner = 0; corner < (found->second.isFlat ? 4U : 8U); ++corner) {
+        const std::array<double, 4> world{bounds[corner & 1U], bounds[2 + (corner >> 1U & 1U)],
+                                          bounds[4 + (corner >> 2U)], 1.0};
+        std::array<double, 4> view{}; /* -1 to 1 in the picture */
+        toView->MultiplyPoint(world.data(), view.data());
+        corners.emplace_back(0.5 + 0.5 * view[0] / view[3], 0.5 + 0.5 * view[1] / view[3]);
+    }
+    return corners;
 }
 
 long FieldScene::surfacePointCount() const

@@ -8,6 +8,7 @@
 #include "view/ZoneLayers.h"
 
 #include <QImage>
+#include <QPointF>
 
 #include <vtkSmartPointer.h>
 
@@ -16,6 +17,7 @@
 #include <optional>
 #include <vector>
 
+class vtkCellPicker;
 class vtkDataSet;
 class vtkLight;
 class vtkRenderer;
@@ -58,6 +60,12 @@ public:
      * coordinates of the data. */
     std::optional<Point3> pick(double across, double up) const;
 
+    /* The zone whose surface is seen at a place of that picture; 0 where there is none. */
+    long zoneAt(double across, double up) const;
+
+    /* Where the corners of the box around a zone lie in that picture; none for a zone that is not drawn. */
+    std::vector<QPointF> zoneCorners(long zone) const;
+
     /* Zones whose layers are kept at present, and the points of their surfaces. */
     long zoneCount() const { return static_cast<long>(m_zones.size()); }
     long surfacePointCount() const;
@@ -78,6 +86,7 @@ private:
         ContourColors colors;
     };
 
+    bool pick(vtkCellPicker& picker, double across, double up) const;
     void updateGroups(const std::vector<ContourGroupStyle>& groups);
     void updateZone(const kernel::DataSet& dataSet, const PlotStyle& style, const ZoneStyle& zone,
                     const LayerContext& context);

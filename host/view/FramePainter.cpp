@@ -59,8 +59,11 @@ void FramePainter::show(PlotStyle style, std::shared_ptr<const kernel::DataSet> 
     m_dataSet = std::move(dataSet);
 }
 
-void FramePainter::paint(const Canvas& canvas, const QRectF& rect, const PaintRequest& request)
+void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request)
 {
+    const Canvas canvas(onto, inch, edges, &m_plot.hits);
+    m_plot.hits.begin(onto.transform().inverted() * QTransform::fromTranslate(-rect.left(), -rect.top()) *
+                      QTransform::fromScale(1.0 / inch, 1.0 / inch));
     m_request = request;
     m_isApproximate = mayApproximate();
     m_rect = rect;
@@ -170,9 +173,11 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
         } else {
             lineLegend.paint({column.topLeft(), QSizeF(legendWidth, lineLegend.size().height())});
         }
+        canvas.markArea({.type = group ? PickObject_ContourLegend : PickObject_LineLegend}, column);
     }
     if (lineLegend.isShown() && style.lineLegend.isPlaced) {
         lineLegend.paint(lineLegend.placedRect(m_rect));
+        canvas.markArea({.type = PickObject_LineLegend}, lineLegend.placedRect(m_rect));
     }
 }
 
@@ -330,6 +335,31 @@ std::optional<Point3> FramePainter::pick(QPointF place)
                                                      (m_plot.area.bottom() - place.y()) / m_plot.area.height());
     scene().release(m_request.settings.cache);
     return point;
+}
+
+kernel::PickedObject FramePainter::objectAt(QPointF place, double reach)
+{
+    constexpr kernel::PickedObject frame{.type = PickObject_Frame};
+    const kernel::PickedObject marked = m_plot.hits.at(place, reach).value_or(frame);
+    const long zone = hasField(m_plot.style) && m_plot.area.contains(place)
+                          ? scene().zoneAt((place.x() - m_plot.area.left()) / m_plot.area.width(),
+                                           (m_plot.area.bottom() - place.y()) / m_plot.area.height())
+                          : 0;
+    const kernel::PickedObject drawn{.type = PickObject_Zone, .number = zone};
+    return zone != 0 && pickOrder(drawn) < pickOrder(marked) ? drawn : marked;
+}
+
+QPolygonF FramePainter::handles(const kernel::PickedObject& object)
+{
+    if (object.type != PickObject_Zone) {
+        return m_plot.hits.handles(object);
+    }
+    QPolygonF places;
+    for (const QPointF& corner : scene().zoneCorners(object.number)) {
+        places << QPointF(m_plot.area.left() + corner.x() * m_plot.area.width(),
+                          m_plot.area.bottom() - corner.y() * m_plot.area.height());
+    }
+    return places;
 }
 
 } // namespace vantrix::view

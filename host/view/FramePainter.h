@@ -40,10 +40,17 @@ public:
     void setTexts(const std::vector<std::shared_ptr<const kernel::Text>>& texts) { m_texts = texts; }
 
     /* `rect` is where the frame lies, in the painter's logical units. */
-    void paint(const Canvas& canvas, const QRectF& rect, const PaintRequest& request);
+    void paint(QPainter& painter, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request);
 
     const FramePlot& plot() const { return m_plot; }
     std::optional<Point3> pick(QPointF place);
+
+    /* What is seen at a place in the frame (inches from its upper left corner), as it was painted last: nothing but the
+     * frame itself where nothing is nearer than `reach`. */
+    kernel::PickedObject objectAt(QPointF place, double reach);
+
+    /* Where an object that was picked shows handles; none for what was not painted. */
+    QPolygonF handles(const kernel::PickedObject& object);
     long renderCount() const { return m_renderCount; }
 
     /* Whether the plot was painted thinned last, and how many points it had. */

@@ -2,6 +2,7 @@
 
 #include "view/AxisTicks.h"
 #include "view/Camera3D.h"
+#include "view/HitMap.h"
 #include "view/PlotStyle.h"
 #include "view/PolarScale.h"
 
@@ -37,6 +38,7 @@ public:
     std::optional<PolarScale> polar; /* of polar plots */
     QPointF polarCenter;
     double polarRadius = 0.0;
+    HitMap hits;
 
     /* Data coordinates in a 2D or line plot, of an XY line plot those of X1 and Y1, of a polar one theta and R; none
      * outside of its area. */

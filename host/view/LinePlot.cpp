@@ -1,6 +1,7 @@
 #include "view/LinePlot.h"
 
 #include "kernel/DataSet.h"
+#include "view/HitMap.h"
 #include "view/LinePattern.h"
 #include "view/MarkSymbol.h"
 #include "view/Polyline.h"
@@ -90,6 +91,7 @@ void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& 
         m_canvas.painter.setBrush(Qt::NoBrush);
         for (const QPolygonF& piece : curve.take()) {
             m_canvas.painter.drawPolyline(piece);
+            m_canvas.markLine({.type = PickObject_LineMap, .number = map.number}, piece);
         }
     }
     if (map.hasSymbols) {

@@ -4,7 +4,6 @@
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleStore.h"
-#include "view/Canvas.h"
 #include "view/FramePainter.h"
 #include "view/PaperStyle.h"
 
@@ -89,7 +88,7 @@ void PageRenderer::Impl::paint(QPainter& painter, const kernel::Frame& frame, co
     const PaintRequest request{settings(), isForScreen, isActive, isMoving && isActive};
     const TextEdges edges =
         !isForScreen ? TextEdges{} : TextEdges{settings().hasPlainTexts, settings().hasPlainSmallTexts};
-    entry(frame).painter.paint(Canvas(painter, inch, edges), rect, request);
+    entry(frame).painter.paint(painter, inch, edges, rect, request);
 }
 
 void PageRenderer::Impl::paintAll(QPainter& painter, const kernel::Page& page, double inch, bool isForScreen)
@@ -231,6 +230,25 @@ std::optional<std::array<double, 3>> PageRenderer::pick(long frameId, QPointF pl
 {
     FramePainter* painter = m_impl->painterOf(frameId);
     return painter ? painter->pick(place) : std::nullopt;
+}
+
+kernel::PickedObject PageRenderer::objectAt(long frameId, QPointF place, double reach) const
+{
+    const auto found = m_impl->entries.find(frameId);
+    kernel::PickedObject object{.type = PickObject_Frame};
+    if (found != m_impl->entries.end()) {
+        object = found->second->painter.objectAt(place, reach);
+    }
+    object.frameId = frameId;
+    return object;
+}
+
+QPolygonF PageRenderer::handles(const kernel::PickedObject& object) const
+{
+    const auto found = m_impl->entries.find(object.frameId);
+    kernel::PickedObject inFrame = object;
+    inFrame.frameId = 0;
+    return found != m_impl->entries.end() ? found->second->painter.handles(inFrame) : QPolygonF();
 }
 
 long PageRenderer::renderCount() const

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPointF>
+#include <QPolygonF>
 #include <QRectF>
 #include <QSizeF>
 
@@ -15,6 +16,7 @@ class QPainter;
 namespace vantrix::kernel {
 class Frame;
 class Kernel;
+struct PickedObject;
 struct Page;
 } // namespace vantrix::kernel
 
@@ -84,6 +86,13 @@ public:
     /* The first surface point of a 3D plot at a place in its frame (inches from the upper left corner), in data
      * coordinates. */
     std::optional<std::array<double, 3>> pick(long frameId, QPointF place) const;
+
+    /* What is seen at a place in a frame as it was painted last; the frame itself where nothing is nearer than `reach`
+     * inches. */
+    kernel::PickedObject objectAt(long frameId, QPointF place, double reach) const;
+
+    /* Where an object that was picked shows handles, in inches from its frame's upper left corner. */
+    QPolygonF handles(const kernel::PickedObject& object) const;
 
     /* How often a field plot was rendered since this object was made. */
     long renderCount() const;

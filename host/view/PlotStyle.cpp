@@ -220,6 +220,7 @@ void readLines(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
     for (long map = 1; map <= count; ++map) {
         if (store.flag(frame, activeEntry, map)) {
             plot.lineMaps.push_back(readLineMap(StyleReader(store, frame, "LineMap", map), layers, dataSet));
+            plot.lineMaps.back().number = map;
         }
     }
     plot.lineLegend = readLegend(style.below("GlobalLinePlot/Legend"));

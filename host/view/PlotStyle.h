@@ -100,6 +100,7 @@ struct SymbolStyle
 
 struct LineMapStyle
 {
+    long number = 0;
     std::string name;
     long zone = 0;
     long xVariable = 0;

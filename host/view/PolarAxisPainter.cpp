@@ -1,5 +1,6 @@
 #include "view/PolarAxisPainter.h"
 
+#include "view/HitMap.h"
 #include "view/LinePattern.h"
 
 #include <algorithm>
@@ -404,7 +405,9 @@ void PolarAxisPainter::paintFront() const
                                     m_canvas.pen(style.borderColor, style.borderThickness / 100.0 * m_frameHeight));
     }
     const QColor behind = style.isFilled ? style.fill : m_style.frame.background;
+    m_canvas.markArea(axisObject('T', AxisSubObject_GridArea), wholeSector().toFillPolygon());
     for (const Line& line : lines()) {
+        line.painter.mark(&line.painter.style() == &m_style.axes[0] ? 'T' : 'R');
         line.painter.paint(line.isAtBorder ? std::nullopt : std::optional(behind));
     }
 }

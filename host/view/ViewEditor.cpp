@@ -3,12 +3,14 @@
 #include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
 #include "kernel/DataSet.h"
-#include "kernel/Frame.h"
+#include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/StyleActions.h"
 #include "kernel/StyleStore.h"
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <optional>
 #include <vector>
@@ -113,8 +115,8 @@ void ViewEditor::end()
 
 void ViewEditor::write(const kernel::Frame& frame, const std::string& path, double value, long offset)
 {
-    kernel::StyleStore& style = m_kernel.style();
-    style.setOf(frame.id(), style.entry(path.c_str()), offset, -1, value);
+    assert(m_kernel.document().activeFrame() == &frame);
+    kernel::StyleActions::set(m_kernel.style().entry(path.c_str()), {offset}, -1, value);
 }
 
 void ViewEditor::writeRange(const kernel::Frame& frame, const std::string& detail, long offset, double minimum,

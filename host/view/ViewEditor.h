@@ -12,8 +12,8 @@ class Kernel;
 namespace vantrix::view {
 
 /*
- * Changes the view of frames by writing their style. Every change lies between begin() and end(); everything from one
- * to the other is one step of undo.
+ * Changes the view of the active frame by writing its style. Every change lies between begin() and end(); everything
+ * from one to the other is one step of undo.
  */
 class ViewEditor
 {

@@ -4,95 +4,106 @@
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
+#include "kernel/PickList.h"
 #include "kernel/StateChanges.h"
 #include "view/Coordinates.h"
 #include "view/FramePlot.h"
-#include "view/KeptView.h"
-#include "view/PageRenderer.h"
 #include "view/PaperGrid.h"
 #include "view/PaperRuler.h"
 #include "view/PaperStyle.h"
 #include "view/RenderSettings.h"
-#include "view/ViewEditor.h"
+#include "view/mouse/ClickTool.h"
+#include "view/mouse/CreateFrameTool.h"
+#include "view/mouse/MouseContext.h"
+#include "view/mouse/RotateTool.h"
+#include "view/mouse/SelectorTool.h"
+#include "view/mouse/TranslateTool.h"
+#include "view/mouse/ZoomTool.h"
 
-#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
-#include <optional>
+#include <map>
+#include <utility>
 
 namespace vantrix::view {
 namespace {
 
-constexpr double degreesPerPixel = 0.4;
 constexpr double zoomPerNotch = 1.2;
 constexpr int wheelPause = 350; /* milliseconds after which turning the wheel again is another step of undo */
 const QColor deskColor(0xd9, 0xdd, 0xe3);
-const QColor activeColor(0x2f, 0x6f, 0xd0);
 
 } // namespace
 
-struct WorkArea::Impl
+struct WorkArea::Impl : kernel::PickSurface
 {
-    enum class Drag
-    {
-        None,
-        RubberBand,
-        Zoom,
-        Move,
-        Rotate,
-        Paper
-    };
-
-    Impl(WorkArea& owner, kernel::Kernel& k)
+    Impl(WorkArea& owner, kernel::Kernel& kernel)
         : widget(owner)
-        , kernel(k)
-        , renderer(k)
-        , editor(k)
+        , context(owner, kernel)
     {
+        tools[MouseMode_Selector] = std::make_unique<SelectorTool>(context);
+        tools[MouseMode_Zoom] = std::make_unique<ZoomTool>(context);
+        tools[MouseMode_Translate] = std::make_unique<TranslateTool>(context);
+        tools[MouseMode_Rotate] = std::make_unique<RotateTool>(context);
+        tools[MouseMode_CreateFrame] = std::make_unique<CreateFrameTool>(context);
+        for (const MouseMode_e mode : {MouseMode_Probe, MouseMode_Text, MouseMode_Streamtrace}) {
+            tools[mode] = std::make_unique<ClickTool>(context, mode);
+        }
         kernel.stateChanges().addListener(&Impl::stateChanged, this);
+        kernel.pickList().setSurface(this);
         wheelTimer.setSingleShot(true);
         QObject::connect(&wheelTimer, &QTimer::timeout, &owner, [this] { endGesture(); });
     }
-    ~Impl() { kernel.stateChanges().removeListener(&Impl::stateChanged, this); }
+    ~Impl() override
+    {
+        context.kernel.pickList().setSurface(nullptr);
+        context.kernel.stateChanges().removeListener(&Impl::stateChanged, this);
+    }
     Impl(const Impl&) = delete;
     Impl& operator=(const Impl&) = delete;
 
-    static void stateChanged(VtxStateChangeHandle, void* impl) { static_cast<Impl*>(impl)->widget.update(); }
+    static void stateChanged(VtxStateChangeHandle change, void* impl)
+    {
+        auto* self = static_cast<Impl*>(impl);
+        self->widget.update();
+        if (change->kind == StateChange_MouseMode) {
+            self->widget.setCursor(self->tool().cursor());
+        }
+    }
 
-    kernel::Page* page() const { return kernel.document().activePage(); }
-    kernel::Frame* frame() const { return kernel.document().activeFrame(); }
-    PaperStyle paperStyle(const kernel::Page& page) const { return PaperStyle::read(kernel.style(), page.id); }
-    const FramePlot* activePlot() const { return frame() ? renderer.plot(frame()->id()) : nullptr; }
+    std::optional<kernel::PickedObject> objectAt(double x, double y) const override
+    {
+        const double height = context.page() ? paperStyle(*context.page()).size.height() : 0.0;
+        return context.objectAt(context.paper.toWidget(QPointF(x, height - y)));
+    }
 
-    /* A place in the widget as one in the active frame, in inches from its corner. */
-    QPointF inFrame(QPointF place) const { return widget.toPaper(place) - renderer.frameRect(*frame()).topLeft(); }
+    MouseTool& tool() { return *tools.at(context.kernel.mouseModes().current()); }
+    PaperStyle paperStyle(const kernel::Page& page) const { return PaperStyle::read(context.kernel.style(), page.id); }
 
-    void zoomPaper(double factor, QPointF about);
-    void startDrag(MouseMode_e mode, QPointF place);
-    void drag(QPointF place);
-    void endDrag(QPointF place);
-    void endGesture();
-    void click(MouseMode_e mode, QPointF place);
-    void activate(QPointF place);
+    void press(MouseTool& tool, const QMouseEvent& event)
+    {
+        endGesture();
+        pressed = &tool;
+        tool.press(event);
+    }
+
+    void endGesture()
+    {
+        wheelTimer.stop();
+        context.endGesture();
+    }
+
     void paintPaper(QPainter& painter, const kernel::Page& page);
+    void paintPicked(QPainter& painter) const;
 
     WorkArea& widget;
-    kernel::Kernel& kernel;
-    PageRenderer renderer;
-    ViewEditor editor;
-    KeptView view;
+    MouseContext context;
+    std::map<MouseMode_e, std::unique_ptr<MouseTool>> tools;
+    MouseTool* pressed = nullptr; /* the one whose drag is under way */
     QTimer wheelTimer;
-    double inch = 72.0;
-    QPointF origin; /* of the paper, in the widget */
-    bool isFitted = true;
-    Drag dragging = Drag::None;
-    QPointF dragStart;
-    QPointF dragLast;
 };
 
 WorkArea::WorkArea(kernel::Kernel& kernel, QWidget* parent)
@@ -109,7 +120,7 @@ WorkArea::~WorkArea() = default;
 
 PageRenderer& WorkArea::renderer() const
 {
-    return m_impl->renderer;
+    return m_impl->context.renderer;
 }
 
 QSize WorkArea::sizeHint() const
@@ -119,203 +130,56 @@ QSize WorkArea::sizeHint() const
 
 void WorkArea::fitPaper()
 {
-    m_impl->isFitted = true;
-    const kernel::Page* page = m_impl->page();
-    if (!page) {
-        return;
+    if (const kernel::Page* page = m_impl->context.page()) {
+        const PaperStyle style = m_impl->paperStyle(*page);
+        const double ruler = style.hasRuler ? PaperRuler::thickness : 0.0;
+        m_impl->context.paper.fit(style.size, QRectF(rect()).adjusted(ruler, ruler, 0.0, 0.0));
+        update();
     }
-    const QSizeF paper = m_impl->renderer.paperSize(*page);
-    const double margin = 12.0;
-    const double ruler = m_impl->paperStyle(*page).hasRuler ? PaperRuler::thickness : 0.0;
-    const QSizeF area(width() - ruler, height() - ruler);
-    m_impl->inch = std::max(
-        5.0, std::min((area.width() - 2.0 * margin) / paper.width(), (area.height() - 2.0 * margin) / paper.height()));
-    m_impl->origin = QPointF(ruler + 0.5 * (area.width() - paper.width() * m_impl->inch),
-                             ruler + 0.5 * (area.height() - paper.height() * m_impl->inch));
-    update();
 }
 
 void WorkArea::redraw()
 {
-    m_impl->view.request();
+    m_impl->context.view.request();
     update();
 }
 
 double WorkArea::zoom() const
 {
-    return m_impl->inch;
+    return m_impl->context.paper.inch();
 }
 
 void WorkArea::setZoom(double pixelsPerInch)
 {
-    m_impl->zoomPaper(pixelsPerInch / m_impl->inch, QPointF(0.5 * width(), 0.5 * height()));
+    m_impl->context.paper.zoom(pixelsPerInch / zoom(), QRectF(rect()).center());
+    update();
 }
 
 void WorkArea::fitPlot()
 {
-    const FramePlot* plot = m_impl->activePlot();
-    if (plot) {
+    MouseContext& context = m_impl->context;
+    if (const FramePlot* plot = context.activePlot()) {
         m_impl->endGesture();
-        m_impl->editor.begin("Fit View");
-        m_impl->editor.fit(*m_impl->frame(), *plot);
-        m_impl->editor.end();
+        context.editor.begin("Fit View");
+        context.editor.fit(*context.frame(), *plot);
+        context.editor.end();
         redraw();
     }
 }
 
 QPointF WorkArea::toWidget(QPointF paper) const
 {
-    return m_impl->origin + paper * m_impl->inch;
+    return m_impl->context.paper.toWidget(paper);
 }
 
 QPointF WorkArea::toPaper(QPointF widget) const
 {
-    return (widget - m_impl->origin) / m_impl->inch;
+    return m_impl->context.paper.toPaper(widget);
 }
 
 long WorkArea::frameAt(QPointF widget) const
 {
-    const kernel::Page* page = m_impl->page();
-    if (page) {
-        for (auto frame = page->frames.rbegin(); frame != page->frames.rend(); ++frame) {
-            if (m_impl->renderer.frameRect(**frame).contains(toPaper(widget))) {
-                return (*frame)->id();
-            }
-        }
-    }
-    return 0;
-}
-
-void WorkArea::Impl::zoomPaper(double factor, QPointF about)
-{
-    isFitted = false;
-    const QPointF paper = widget.toPaper(about);
-    inch = std::clamp(inch * factor, 10.0, 2000.0);
-    origin = about - paper * inch;
-    widget.update();
-}
-
-void WorkArea::Impl::activate(QPointF place)
-{
-    const long id = widget.frameAt(place);
-    if (id != 0 && (!frame() || frame()->id() != id)) {
-        endGesture();
-        kernel.document().setActiveFrame(id);
-    }
-}
-
-void WorkArea::Impl::endGesture()
-{
-    wheelTimer.stop();
-    if (editor.isEditing()) {
-        view.request();
-    }
-    editor.end();
-    renderer.setMoving(false);
-    widget.update();
-}
-
-void WorkArea::Impl::startDrag(MouseMode_e mode, QPointF place)
-{
-    endGesture();
-    dragStart = place;
-    dragLast = place;
-    const FramePlot* plot = activePlot();
-    const bool isPlot = plot && (plot->camera || plot->x);
-    if (!isPlot) {
-        dragging = mode == MouseMode_Translate ? Drag::Paper : Drag::None;
-        return;
-    }
-    switch (mode) {
-    case MouseMode_Zoom:
-        dragging = plot->camera ? Drag::Zoom : Drag::RubberBand;
-        break;
-    case MouseMode_Translate:
-        dragging = Drag::Move;
-        break;
-    case MouseMode_Rotate:
-        dragging = plot->camera ? Drag::Rotate : Drag::None;
-        break;
-    default:
-        dragging = Drag::None;
-        break;
-    }
-}
-
-void WorkArea::Impl::drag(QPointF place)
-{
-    const QPointF by = place - dragLast;
-    dragLast = place;
-    const FramePlot* plot = activePlot();
-    if (dragging == Drag::Paper) {
-        isFitted = false;
-        origin += by;
-        widget.update();
-        return;
-    }
-    if (dragging == Drag::RubberBand) {
-        widget.update();
-        return;
-    }
-    if (dragging == Drag::None || !plot) {
-        return;
-    }
-    renderer.setMoving(true);
-    const kernel::Frame& target = *frame();
-    switch (dragging) {
-    case Drag::Move:
-        editor.begin("Translate");
-        editor.move(target, *plot, by / inch);
-        break;
-    case Drag::Rotate:
-        editor.begin("Rotate");
-        editor.turn(target, *plot, -by.x() * degreesPerPixel, -by.y() * degreesPerPixel);
-        break;
-    case Drag::Zoom:
-        editor.begin("Zoom");
-        editor.magnify(target, *plot, std::pow(1.01, -by.y()), plot->area.center());
-        break;
-    default:
-        break;
-    }
-    // The next move starts from what this one shows.
-    view.request();
-    widget.repaint();
-}
-
-void WorkArea::Impl::endDrag(QPointF place)
-{
-    const Drag ended = dragging;
-    dragging = Drag::None;
-    if (ended == Drag::RubberBand && frame()) {
-        const FramePlot* plot = activePlot();
-        const QRectF band =
-            plot ? QRectF(inFrame(dragStart), inFrame(place)).normalized().intersected(plot->area) : QRectF();
-        if (band.width() * inch > 4.0 && band.height() * inch > 4.0) {
-            editor.begin("Zoom");
-            editor.showRect(*frame(), *plot, band);
-        }
-    }
-    endGesture();
-}
-
-void WorkArea::Impl::click(MouseMode_e mode, QPointF place)
-{
-    const FramePlot* plot = activePlot();
-    if (!plot) {
-        return;
-    }
-    const QPointF at = inFrame(place);
-    std::array<double, 3> point{0.0, 0.0, 0.0};
-    bool isHit = false;
-    if (const auto flat = plot->dataAt(at)) {
-        point = {flat->x(), flat->y(), 0.0};
-        isHit = true;
-    } else if (const auto surface = renderer.pick(frame()->id(), at)) {
-        point = *surface;
-        isHit = true;
-    }
-    Q_EMIT widget.clickedInMode(mode, frame()->id(), point[0], point[1], point[2], isHit);
+    return m_impl->context.frameAt(widget);
 }
 
 bool WorkArea::event(QEvent* event)
@@ -323,7 +187,9 @@ bool WorkArea::event(QEvent* event)
     // Whoever takes the mouse away in the middle of a drag ends the drag.
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide ||
         event->type() == QEvent::WindowDeactivate) {
-        m_impl->dragging = Impl::Drag::None;
+        if (m_impl->pressed) {
+            std::exchange(m_impl->pressed, nullptr)->cancel();
+        }
         m_impl->endGesture();
     }
     return QWidget::event(event);
@@ -332,125 +198,134 @@ bool WorkArea::event(QEvent* event)
 void WorkArea::Impl::paintPaper(QPainter& painter, const kernel::Page& page)
 {
     painter.fillRect(widget.rect(), deskColor);
-    painter.save();
-    painter.translate(origin);
+    const double inch = context.paper.inch();
     const PaperStyle style = paperStyle(page);
+    painter.save();
+    painter.translate(context.paper.origin());
     if (style.isShown) {
-        const QRectF paper(QPointF(), style.size * inch);
-        painter.fillRect(paper.translated(3.0, 3.0), QColor(0, 0, 0, 45));
-        painter.fillRect(paper, style.color);
+        const QRectF sheet(QPointF(), style.size * inch);
+        painter.fillRect(sheet.translated(3.0, 3.0), QColor(0, 0, 0, 45));
+        painter.fillRect(sheet, style.color);
         if (style.hasGrid) {
-            PaperGrid(style.gridSpacing).paint(painter, paper, inch);
+            PaperGrid(style.gridSpacing).paint(painter, sheet, inch);
         }
     }
-    renderer.paintFrames(painter, page, inch);
-    if (frame() && page.frames.size() > 1) {
-        const QRectF active = renderer.frameRect(*frame());
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(activeColor, 2.0));
-        painter.drawRect(QRectF(active.topLeft() * inch, active.size() * inch));
-    }
+    context.renderer.paintFrames(painter, page, inch);
     painter.restore();
+    if (context.frame() && page.frames.size() > 1) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(MouseContext::highlight, 2.0));
+        painter.drawRect(context.paper.toWidget(context.renderer.frameRect(*context.frame())));
+    }
     if (style.hasRuler) {
-        PaperRuler(style.rulerSpacing).paint(painter, widget.rect(), origin, inch);
+        PaperRuler(style.rulerSpacing).paint(painter, widget.rect(), context.paper.origin(), inch);
+    }
+}
+
+void WorkArea::Impl::paintPicked(QPainter& painter) const
+{
+    painter.setPen(QPen(Qt::white, 1.0));
+    painter.setBrush(MouseContext::highlight);
+    for (const kernel::PickedObject& object : context.kernel.pickList().objects()) {
+        for (const QPointF& place : context.handles(object)) {
+            painter.drawRect(MouseContext::handleRect(place));
+        }
     }
 }
 
 void WorkArea::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const kernel::Page* page = m_impl->page();
+    MouseContext& context = m_impl->context;
+    const kernel::Page* page = context.page();
     if (!page) {
         painter.fillRect(rect(), deskColor);
         return;
     }
-    const KeptView::Place place{size(), devicePixelRatioF(), m_impl->origin, m_impl->inch, page->id};
-    m_impl->view.paint(painter, place, m_impl->renderer.settings().redrawsAlways,
+    const KeptView::Place place{size(), devicePixelRatioF(), context.paper.origin(), context.paper.inch(), page->id};
+    context.view.paint(painter, place, context.renderer.settings().redrawsAlways,
                        [&](QPainter& onto) { m_impl->paintPaper(onto, *page); });
-    if (m_impl->dragging == Impl::Drag::RubberBand) {
-        const QRectF band = QRectF(m_impl->dragStart, m_impl->dragLast).normalized();
-        painter.setPen(QPen(activeColor, 1.0, Qt::DashLine));
-        painter.setBrush(QColor(activeColor.red(), activeColor.green(), activeColor.blue(), 30));
-        painter.drawRect(band);
-    }
+    m_impl->paintPicked(painter);
+    (m_impl->pressed ? *m_impl->pressed : m_impl->tool()).paint(painter);
 }
 
 void WorkArea::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    if (m_impl->isFitted) {
+    if (m_impl->context.paper.isFitted()) {
         fitPaper();
     }
 }
 
 void WorkArea::mousePressEvent(QMouseEvent* event)
 {
-    const MouseMode_e mode = m_impl->kernel.mouseModes().current();
-    m_impl->activate(event->position());
-    if (event->button() == Qt::MiddleButton) {
-        m_impl->startDrag(MouseMode_Translate, event->position());
-    } else if (event->button() == Qt::LeftButton) {
-        const bool isOwn = mode == MouseMode_Selector || mode == MouseMode_Zoom || mode == MouseMode_Translate ||
-                           mode == MouseMode_Rotate;
-        if (isOwn) {
-            m_impl->startDrag(mode, event->position());
-        } else if (m_impl->frame() && frameAt(event->position()) != 0) {
-            m_impl->click(mode, event->position());
-        }
+    MouseTool* tool = event->button() == Qt::LeftButton     ? &m_impl->tool()
+                      : event->button() == Qt::MiddleButton ? m_impl->tools[MouseMode_Translate].get()
+                                                            : nullptr;
+    if (tool && tool->activatesFrames()) {
+        m_impl->context.activate(event->position());
+    }
+    if (tool) {
+        m_impl->press(*tool, *event);
     }
 }
 
 void WorkArea::mouseMoveEvent(QMouseEvent* event)
 {
     const QPointF place = event->position();
-    m_impl->drag(place);
+    if (m_impl->pressed) {
+        m_impl->pressed->drag(*event);
+    } else {
+        m_impl->tool().hover(place);
+    }
+    const MouseContext& context = m_impl->context;
     const long id = frameAt(place);
-    const kernel::Frame* frame = id ? m_impl->kernel.document().frameById(id) : nullptr;
-    const FramePlot* plot = frame ? m_impl->renderer.plot(id) : nullptr;
-    const QPointF inFrame = frame ? toPaper(place) - m_impl->renderer.frameRect(*frame).topLeft() : QPointF();
+    const kernel::Frame* frame = id ? context.kernel.document().frameById(id) : nullptr;
+    const FramePlot* plot = frame ? context.renderer.plot(id) : nullptr;
+    const QPointF inFrame = frame ? toPaper(place) - context.renderer.frameRect(*frame).topLeft() : QPointF();
     Q_EMIT coordinatesChanged(coordinatesText(plot, inFrame, toPaper(place)));
 }
 
 void WorkArea::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (m_impl->dragging != Impl::Drag::None || m_impl->editor.isEditing()) {
-        m_impl->endDrag(event->position());
+    if (m_impl->pressed) {
+        std::exchange(m_impl->pressed, nullptr)->release(*event);
+        m_impl->endGesture();
     }
 }
 
 void WorkArea::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const long id = frameAt(event->position());
-    if (event->button() != Qt::LeftButton || id == 0) {
-        fitPaper();
-    } else if (m_impl->kernel.mouseModes().current() == MouseMode_Selector) {
-        Q_EMIT frameActivated(id);
+    if (event->button() == Qt::LeftButton && frameAt(event->position()) != 0) {
+        m_impl->tool().doubleClick(*event);
     } else {
-        fitPlot();
+        fitPaper();
     }
 }
 
 void WorkArea::wheelEvent(QWheelEvent* event)
 {
+    MouseContext& context = m_impl->context;
     const double notches = event->angleDelta().y() / 120.0;
     const QPointF place = event->position();
-    const long id = frameAt(place);
     event->accept();
     if (notches == 0.0) {
         return;
     }
-    const FramePlot* plot = id ? m_impl->renderer.plot(id) : nullptr;
+    const double factor = std::pow(zoomPerNotch, notches);
+    const long id = frameAt(place);
+    const FramePlot* plot = id ? context.renderer.plot(id) : nullptr;
     if ((event->modifiers() & Qt::ControlModifier) || !plot || !(plot->camera || plot->x)) {
-        m_impl->zoomPaper(std::pow(zoomPerNotch, notches), place);
+        context.paper.zoom(factor, place);
+        update();
         return;
     }
-    m_impl->activate(place);
-    m_impl->editor.begin("Zoom");
-    m_impl->renderer.setMoving(true);
-    m_impl->editor.magnify(*m_impl->frame(), *plot, std::pow(zoomPerNotch, notches), m_impl->inFrame(place));
+    context.activate(place);
+    context.editor.begin("Zoom");
+    context.renderer.setMoving(true);
+    context.editor.magnify(*context.frame(), *plot, factor, context.inFrame(place));
     m_impl->wheelTimer.start(wheelPause);
-    m_impl->view.request();
-    repaint();
+    context.showMove();
 }
 
 void WorkArea::leaveEvent(QEvent* event)
@@ -462,7 +337,9 @@ void WorkArea::leaveEvent(QEvent* event)
 void WorkArea::keyPressEvent(QKeyEvent* event)
 {
     m_impl->endGesture();
-    QWidget::keyPressEvent(event);
+    if (!m_impl->tool().keyPress(*event)) {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 } // namespace vantrix::view

@@ -70,8 +70,8 @@ Q_SIGNALS:
      */
     void clickedInMode(MouseMode_e mode, long frameId, double x, double y, double z, bool hit);
 
-    /* A frame was double-clicked in selector mode; whoever runs the dialogs may offer to edit it. */
-    void frameActivated(long frameId);
+    /* An object was double-clicked in selector mode and is picked; whoever runs the dialogs may offer to edit it. */
+    void objectActivated(PickObject_e type);
 
 protected:
     bool event(QEvent* event) override;

@@ -3,6 +3,8 @@
 #include <vtkDataSet.h>
 #include <vtkPolyData.h>
 
+#include <algorithm>
+
 namespace vantrix::view {
 
 ZoneLayers::ZoneLayers(vtkRenderer* renderer)
@@ -50,6 +52,16 @@ void ZoneLayers::place(const Placement& placement)
     m_edges.place(placement);
     m_vectors.place(placement);
     m_scatter.place(placement);
+}
+
+bool ZoneLayers::hasProp(const vtkProp* prop) const
+{
+    return std::ranges::any_of(layers(), [&](const FieldLayer* layer) { return layer->isProp(prop); });
+}
+
+bool ZoneLayers::worldBounds(std::array<double, 6>& bounds) const
+{
+    return std::ranges::any_of(layers(), [&](const FieldLayer* layer) { return layer->shownBounds(bounds); });
 }
 
 long ZoneLayers::surfaceCellCount()

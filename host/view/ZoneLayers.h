@@ -39,11 +39,22 @@ public:
 
     void place(const Placement& placement);
 
+    /* Whether something that a picker found belongs to the zone. */
+    bool hasProp(const vtkProp* prop) const;
+
+    /* The box around what is drawn of the zone, in the renderer's world; false when nothing is. */
+    bool worldBounds(std::array<double, 6>& bounds) const;
+
     /* The number of polygons and lines of the surface, and of its points. */
     long surfaceCellCount();
     long surfacePointCount();
 
 private:
+    std::array<const FieldLayer*, 8> layers() const
+    {
+        return {&m_shade, &m_flood, &m_mesh, &m_lines, &m_edges, &m_vectors, &m_scatter.fill(), &m_scatter.outline()};
+    }
+
     ZoneSurface m_surface;
     ZonePoints m_points;
     ShadeLayer m_shade;

@@ -49,6 +49,21 @@ void FieldLayer::place(const Placement& placement)
     m_actor->SetPosition(placement.shift[0], placement.shift[1], isFlat ? m_order : placement.shift[2]);
 }
 
+bool FieldLayer::isProp(const vtkProp* prop) const
+{
+    return m_actor == prop;
+}
+
+bool FieldLayer::shownBounds(std::array<double, 6>& bounds) const
+{
+    const double* drawn = isShown() ? m_actor->GetBounds() : nullptr;
+    if (!drawn || drawn[0] > drawn[1]) {
+        return false;
+    }
+    std::copy_n(drawn, bounds.size(), bounds.begin());
+    return true;
+}
+
 vtkActor& FieldLayer::actor() const
 {
     return *m_actor;

@@ -11,6 +11,7 @@
 class vtkActor;
 class vtkMapper;
 class vtkPolyDataMapper;
+class vtkProp;
 class vtkRenderer;
 
 namespace vantrix::view {
@@ -62,6 +63,12 @@ public:
 
     /* Puts the layer at its place in the world. */
     virtual void place(const Placement& placement);
+
+    /* Whether something that a picker found is this layer's actor. */
+    bool isProp(const vtkProp* prop) const;
+
+    /* The box around what is drawn, in the renderer's world; false when nothing is. */
+    bool shownBounds(std::array<double, 6>& bounds) const;
 
 protected:
     vtkActor& actor() const;

@@ -21,6 +21,9 @@ public:
 
     void place(const Placement& placement);
 
+    const FieldLayer& fill() const { return m_fill; }
+    const FieldLayer& outline() const { return m_outline; }
+
 private:
     struct Source
     {

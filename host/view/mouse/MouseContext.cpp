@@ -1,0 +1,132 @@
+#include "view/mouse/MouseContext.h"
+
+#include "api/VtxUtilDocument.h"
+#include "kernel/ApplicationLock.h"
+#include "kernel/Document.h"
+#include "kernel/Kernel.h"
+#include "view/PaperSpacing.h"
+#include "view/PaperStyle.h"
+#include "view/WorkArea.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace vantrix::view {
+
+kernel::Page* MouseContext::page() const
+{
+    return kernel.document().activePage();
+}
+
+kernel::Frame* MouseContext::frame() const
+{
+    return kernel.document().activeFrame();
+}
+
+const FramePlot* MouseContext::activePlot() const
+{
+    const FramePlot* plot = frame() ? renderer.plot(frame()->id()) : nullptr;
+    return plot && (plot->camera || plot->x) ? plot : nullptr;
+}
+
+QPointF MouseContext::inFrame(QPointF place) const
+{
+    return paper.toPaper(place) - renderer.frameRect(*frame()).topLeft();
+}
+
+long MouseContext::frameAt(QPointF place) const
+{
+    if (page()) {
+        for (auto each = page()->frames.rbegin(); each != page()->frames.rend(); ++each) {
+            if (renderer.frameRect(**each).contains(paper.toPaper(place))) {
+                return (*each)->id();
+            }
+        }
+    }
+    return 0;
+}
+
+QPointF MouseContext::snapped(QPointF place) const
+{
+    const PaperStyle style = page() ? PaperStyle::read(kernel.style(), page()->id) : PaperStyle();
+    if (!page() || !style.isShown || !style.hasGrid) {
+        return place;
+    }
+    const double spacing = PaperSpacing::of(style.gridSpacing).inches;
+    return {std::round(place.x() / spacing) * spacing, std::round(place.y() / spacing) * spacing};
+}
+
+std::optional<kernel::PickedObject> MouseContext::objectAt(QPointF place) const
+{
+    constexpr double reach = 5.0; /* pixels */
+    const long id = frameAt(place);
+    if (id == 0) {
+        return std::nullopt;
+    }
+    const QPointF corner = renderer.frameRect(*kernel.document().frameById(id)).topLeft();
+    return renderer.objectAt(id, paper.toPaper(place) - corner, reach / paper.inch());
+}
+
+void MouseContext::activate(QPointF place)
+{
+    const long id = frameAt(place);
+    if (id != 0 && (!frame() || frame()->id() != id)) {
+        endGesture();
+        const kernel::ActionLock lock(kernel.lock());
+        VtxUtilFrameActivate(id);
+    }
+}
+
+void MouseContext::showMove()
+{
+    view.request();
+    widget.repaint();
+}
+
+void MouseContext::endGesture()
+{
+    if (editor.isEditing()) {
+        view.request();
+    }
+    editor.end();
+    renderer.setMoving(false);
+    widget.update();
+}
+
+QPolygonF MouseContext::handles(const kernel::PickedObject& object) const
+{
+    const kernel::Frame* owner = kernel.document().frameById(object.frameId);
+    if (!owner) {
+        return {};
+    }
+    const QRectF rect = renderer.frameRect(*owner);
+    QPolygonF places;
+    if (object.type == PickObject_Frame) {
+        const QPointF middle = rect.center();
+        places << rect.topLeft() << QPointF(middle.x(), rect.top()) << rect.topRight()
+               << QPointF(rect.right(), middle.y()) << rect.bottomRight() << QPointF(middle.x(), rect.bottom())
+               << rect.bottomLeft() << QPointF(rect.left(), middle.y());
+    } else {
+        places = renderer.handles(object).translated(rect.topLeft());
+    }
+    for (QPointF& place : places) {
+        place = paper.toWidget(place);
+    }
+    return places;
+}
+
+QRectF MouseContext::handleRect(QPointF place)
+{
+    constexpr double half = 3.5;
+    return {place - QPointF(half, half), QSizeF(2.0 * half, 2.0 * half)};
+}
+
+void MouseContext::paintRubberBand(QPainter& painter, QPointF from, QPointF to)
+{
+    painter.setPen(QPen(highlight, 1.0, Qt::DashLine));
+    painter.setBrush(QColor(highlight.red(), highlight.green(), highlight.blue(), 30));
+    painter.drawRect(QRectF(from, to).normalized());
+}
+
+} // namespace vantrix::view

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "view/mouse/FrameDrag.h"
+#include "view/mouse/MouseTool.h"
+
+namespace vantrix::view {
+
+/*
+ * Picks what is clicked, with Ctrl in addition to what is picked; a click beside the frames picks nothing. Picked
+ * frames are moved by dragging, one is resized by its handles; they snap to the paper's grid while it is shown, but not
+ * with Alt. A double click asks for the dialog that edits the object. Delete deletes what is picked, Escape picks
+ * nothing.
+ */
+class SelectorTool : public MouseTool
+{
+public:
+    using MouseTool::MouseTool;
+
+    void press(const QMouseEvent& event) override;
+    void drag(const QMouseEvent& event) override;
+    void release(const QMouseEvent& event) override;
+    void cancel() override { m_drag = {}; }
+    void doubleClick(const QMouseEvent& event) override;
+    void hover(QPointF place) override;
+    bool keyPress(const QKeyEvent& event) override;
+
+private:
+    void pick(QPointF place, bool collect);
+
+    FrameDrag m_drag;
+};
+
+} // namespace vantrix::view

@@ -1,0 +1,215 @@
+#include "api/VtxUtil.h"
+#include "kernel/ApplicationLock.h"
+#include "kernel/Document.h"
+#include "kernel/Kernel.h"
+#include "kernel/MouseModes.h"
+#include "kernel/PickList.h"
+#include "kernel/UndoStack.h"
+#include "view/FramePlot.h"
+#include "view/PageRenderer.h"
+#include "view/ShownSample.h"
+#include "view/WorkArea.h"
+
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace vantrix;
+
+namespace {
+
+/* A work area on the screen in selector mode, and a hand on the mouse. Places are in inches of the paper. */
+class SelectorTest : public testing::Test
+{
+protected:
+    void show(const char* name, PlotType_e type)
+    {
+        m_sample = std::make_unique<ShownSample>(name, type);
+        m_area = std::make_unique<view::WorkArea>(m_sample->kernel);
+        m_area->resize(900, 720);
+        m_area->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_area.get()));
+        m_area->repaint();
+    }
+
+    void TearDown() override
+    {
+        EXPECT_EQ(m_sample->kernel.lock().violationCount(), 0);
+        EXPECT_FALSE(m_sample->kernel.lock().isOn());
+    }
+
+    const view::FramePlot& plot() const { return *m_area->renderer().plot(m_sample->frame().id()); }
+    QPointF corner() const { return m_area->renderer().frameRect(m_sample->frame()).topLeft(); }
+    QPoint widgetPlace(QPointF paper) const { return m_area->toWidget(paper).toPoint(); }
+
+    /* A place in the plot area, 0 to 1 across and down. */
+    QPointF inPlot(double across, double down) const
+    {
+        const QRectF area = plot().area;
+        return corner() + area.topLeft() + QPointF(across * area.width(), down * area.height());
+    }
+
+    void click(QPointF paper, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mouseClick(m_area.get(), Qt::LeftButton, keys, widgetPlace(paper));
+        m_area->repaint();
+    }
+
+    void drag(QPointF from, QPointF to, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::mousePress(m_area.get(), Qt::LeftButton, keys, widgetPlace(from));
+        for (int i = 1; i <= 4; ++i) {
+            QMouseEvent move(QEvent::MouseMove, m_area->toWidget(from + (to - from) * i / 4.0),
+                             m_area->mapToGlobal(m_area->toWidget(to)), Qt::LeftButton, Qt::LeftButton, keys);
+            QCoreApplication::sendEvent(m_area.get(), &move);
+        }
+        QTest::mouseRelease(m_area.get(), Qt::LeftButton, keys, widgetPlace(to));
+        m_area->repaint();
+    }
+
+    QRectF activeRect() const { return m_area->renderer().frameRect(m_sample->frame()); }
+    kernel::Kernel& kernel() const { return m_sample->kernel; }
+
+    std::unique_ptr<ShownSample> m_sample;
+    std::unique_ptr<view::WorkArea> m_area;
+};
+
+} // namespace
+
+TEST_F(SelectorTest, PicksWhatIsClickedInAFlatPlot)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const double below = 0.02; /* inches under the axis line */
+    click(inPlot(0.5, 1.0) + QPointF(0.0, below));
+    ASSERT_EQ(VtxUtilPickListGetType(1), PickObject_Axis);
+    EXPECT_EQ(VtxUtilPickListGetAxisKind(1), 'X');
+    EXPECT_EQ(VtxUtilPickListGetAxisSubObject(1), AxisSubObject_AxisLine);
+
+    click(inPlot(0.0, 0.6), Qt::ControlModifier);
+    ASSERT_EQ(VtxUtilPickListGetCount(), 2);
+    EXPECT_EQ(VtxUtilPickListGetAxisKind(2), 'Y');
+
+    click(inPlot(0.8, 0.5));
+    EXPECT_EQ(VtxUtilPickListGetCount(), 1);
+    EXPECT_EQ(VtxUtilPickListGetType(1), PickObject_Zone);
+    EXPECT_GE(VtxUtilPickListGetZoneNumber(1), 1);
+
+    click(corner() + QPointF(0.03, 0.03));
+    EXPECT_EQ(VtxUtilPickListGetType(1), PickObject_Frame);
+    EXPECT_EQ(VtxUtilPickListGetFrame(1), m_sample->frame().id());
+
+    click(QPointF(-0.4, 1.0));
+    EXPECT_EQ(VtxUtilPickListGetCount(), 0) << "beside the paper";
+
+    // A title lies below the numbers of its axis, in the middle.
+    bool hasTitle = false;
+    for (double y = 0.0; y < 1.0 && !hasTitle; y += 0.02) {
+        click(inPlot(0.5, 1.0) + QPointF(0.0, y));
+        hasTitle =
+            VtxUtilPickListGetType(1) == PickObject_Axis && VtxUtilPickListGetAxisSubObject(1) == AxisSubObject_Title;
+    }
+    EXPECT_TRUE(hasTitle);
+    EXPECT_EQ(VtxUtilUndoGetStepName() != nullptr && kernel().undoStack().undoName() == "Move Frame", false)
+        << "a click moves nothing";
+}
+
+TEST_F(SelectorTest, PicksZonesAndAxesOfASpatialPlot)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    click(inPlot(0.5, 0.5));
+    EXPECT_EQ(VtxUtilPickListGetType(1), PickObject_Zone);
+    EXPECT_EQ(VtxUtilPickListGetZoneNumber(1), 1);
+    const QPolygonF handles = m_area->renderer().handles(kernel().pickList().objects().front());
+    ASSERT_EQ(handles.size(), 8) << "the corners of the box around the zone";
+    EXPECT_TRUE(handles.boundingRect().contains(inPlot(0.5, 0.5) - corner()));
+    bool hasAxis = false;
+    for (double x = 0.02; x < 1.0; x += 0.05) {
+        for (double y = 0.02; y < 1.0; y += 0.02) {
+            const auto object = m_area->renderer().objectAt(m_sample->frame().id(), inPlot(x, y) - corner(), 0.05);
+            hasAxis = hasAxis || (object.type == PickObject_Axis && object.part == AxisSubObject_AxisLine);
+        }
+    }
+    EXPECT_TRUE(hasAxis);
+}
+
+TEST_F(SelectorTest, PicksLineMapsAndTheirLegend)
+{
+    show("lines", PlotType_XYLine);
+    std::set<int> types;
+    std::set<long> maps;
+    for (double x = 0.05; x < 1.2; x += 0.05) {
+        for (double y = 0.02; y < 1.0; y += 0.01) {
+            const auto object = m_area->renderer().objectAt(m_sample->frame().id(), inPlot(x, y) - corner(), 0.02);
+            types.insert(object.type);
+            if (object.type == PickObject_LineMap) {
+                maps.insert(object.number);
+            }
+        }
+    }
+    EXPECT_TRUE(types.contains(PickObject_LineLegend));
+    EXPECT_TRUE(types.contains(PickObject_Axis));
+    EXPECT_GE(maps.size(), 2U);
+}
+
+TEST_F(SelectorTest, MovesAFrameByTheGridAsOneStep)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const QRectF before = activeRect();
+    const QPointF grip = before.topLeft() + QPointF(0.05, 0.05);
+    drag(grip, grip + QPointF(0.63, 0.41));
+    const QRectF after = activeRect();
+    EXPECT_EQ(after.size(), before.size());
+    EXPECT_NEAR(after.left(), 1.5, 1e-9) << "the grid has half an inch";
+    EXPECT_NEAR(after.top(), 0.5, 1e-9);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Move Frame");
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(activeRect(), before);
+
+    drag(grip, grip + QPointF(0.63, 0.41), Qt::AltModifier);
+    EXPECT_NEAR(activeRect().left(), before.left() + 0.63, 0.03) << "freely with Alt";
+}
+
+TEST_F(SelectorTest, ResizesAFrameByItsHandles)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const QRectF before = activeRect();
+    click(before.topLeft() + QPointF(0.05, 0.05));
+    drag(before.bottomRight(), before.bottomRight() - QPointF(4.1, 3.1));
+    const QRectF after = activeRect();
+    EXPECT_EQ(after.topLeft(), before.topLeft());
+    EXPECT_NEAR(after.right(), 6.0, 1e-9);
+    EXPECT_NEAR(after.bottom(), 5.0, 1e-9);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Resize Frame");
+    drag(after.bottomRight(), after.topLeft() - QPointF(1.0, 1.0), Qt::AltModifier);
+    EXPECT_NEAR(activeRect().width(), 0.25, 1e-9) << "not smaller";
+    EXPECT_EQ(activeRect().topLeft(), before.topLeft());
+}
+
+TEST_F(SelectorTest, CreatesAndDeletesAFrame)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const long first = m_sample->frame().id();
+    ASSERT_TRUE(kernel().mouseModes().set(MouseMode_CreateFrame));
+    drag(QPointF(2.04, 1.96), QPointF(5.1, 4.4));
+    ASSERT_EQ(VtxUtilFrameGetCount(), 2);
+    EXPECT_EQ(m_area->renderer().frameRect(*kernel().document().activeFrame()), QRectF(2.0, 2.0, 3.0, 2.5));
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Selector);
+    EXPECT_EQ(VtxUtilPickListGetFrame(1), VtxUtilFrameGetUniqueID());
+    const long renders = m_area->renderer().renderCount();
+    QTest::keyClick(m_area.get(), Qt::Key_Delete);
+    EXPECT_EQ(VtxUtilFrameGetCount(), 1);
+    EXPECT_EQ(VtxUtilFrameGetUniqueID(), first);
+    m_area->repaint();
+    EXPECT_EQ(m_area->renderer().renderCount(), renders) << "the other frame did not change";
+}
+
+TEST_F(SelectorTest, ADoubleClickAsksForTheDialog)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    QSignalSpy spy(m_area.get(), &view::WorkArea::objectActivated);
+    const QPoint place = widgetPlace(inPlot(0.5, 1.0));
+    QTest::mouseClick(m_area.get(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(m_area.get(), Qt::LeftButton, {}, place);
+    ASSERT_EQ(spy.size(), 1);
+    EXPECT_EQ(spy.at(0).at(0).value<PickObject_e>(), PickObject_Axis);
+}
