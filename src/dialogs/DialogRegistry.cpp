@@ -15,6 +15,8 @@
 #include "dialogs/zone/DeleteZoneDialog.h"
 #include "property/ExceptionBase.h"
 
+#include <algorithm>
+
 namespace vantrix::sdk::ui::dialogs {
 
 using vantrix::dialogs::common::QtDialogAbstract;
@@ -27,8 +29,26 @@ DialogEntry::DialogEntry(QString menuPath, QString name, GetInstance getInstance
 
 QtDialogAbstract* DialogEntry::launch(QWidget& parent) const
 {
+    return launch(m_getInstance, parent);
+}
+
+DialogEntry DialogEntry::editing(PickObject_e type, GetInstance getPicked) const
+{
+    DialogEntry entry = *this;
+    entry.m_getPicked = std::move(getPicked);
+    entry.m_pickedType = type;
+    return entry;
+}
+
+QtDialogAbstract* DialogEntry::launchForPicked(QWidget& parent) const
+{
+    return launch(m_getPicked, parent);
+}
+
+QtDialogAbstract* DialogEntry::launch(GetInstance const& getInstance, QWidget& parent) const
+{
     try {
-        m_dialog = &m_getInstance(parent);
+        m_dialog = &getInstance(parent);
         m_dialog->launch();
         return m_dialog;
     } catch (ExceptionBase const& exception) {
@@ -66,12 +86,26 @@ std::vector<DialogEntry> const& dialogRegistry()
         entry<ProbeDialog>("&Data/&Probe...", "probe"),
         entry<ProbeAtDialog>("&Data/Probe &At...", "probe_at"),
         entry<ProbeHistoryDialog>("&Data/Probe &History...", "probe_history"),
-        entry<AxisEditDialog>("&Plot/&Axis...", "axis_details"),
-        entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit"),
+        entry<AxisEditDialog>("&Plot/&Axis...", "axis_details")
+            .editing(PickObject_Axis,
+                     [](QWidget& parent) -> QtDialogAbstract& {
+                         return AxisEditDialog::getInstance(parent, DialogInitialization_Picked);
+                     }),
+        entry<FrameEditDialog>("F&rame/&Edit Active Frame...", "frame_edit")
+            .editing(PickObject_Frame,
+                     [](QWidget& parent) -> QtDialogAbstract& { return FrameEditDialog::getInstance(parent); }),
         entry<OptionsRulerGridDialog>("&Options/&Ruler and Grid...", "options_ruler_grid"),
         entry<PerformanceDialog>("&Options/&Performance...", "performance"),
     };
     return entries;
+}
+
+bool launchDialogForPicked(PickObject_e type, QWidget& parent)
+{
+    auto const& entries = dialogRegistry();
+    auto const found =
+        std::find_if(entries.begin(), entries.end(), [&](DialogEntry const& each) { return each.edits(type); });
+    return found != entries.end() && found->launchForPicked(parent);
 }
 
 } // namespace vantrix::sdk::ui::dialogs

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "api/VtxEnumerations.h"
 #include "ui/QtDialogAbstract.h"
 
 #include <QPointer>
@@ -31,14 +32,31 @@ public:
     /// Hides the dialog if it is there.
     void drop() const;
 
+    /// The same entry, which besides opens on a picked object of one type: `getPicked` then returns the dialog, aimed
+    /// at the first object of the pick list.
+    DialogEntry editing(PickObject_e type, GetInstance getPicked) const;
+
+    /// Whether the dialog edits picked objects of a type.
+    bool edits(PickObject_e type) const { return m_getPicked && m_pickedType == type; }
+
+    /// The same as launch(), on the first object of the pick list.
+    vantrix::dialogs::common::QtDialogAbstract* launchForPicked(QWidget& parent) const;
+
 private:
+    vantrix::dialogs::common::QtDialogAbstract* launch(GetInstance const& getInstance, QWidget& parent) const;
+
     QString m_menuPath;
     QString m_name;
     GetInstance m_getInstance;
+    GetInstance m_getPicked; ///< empty for a dialog that edits no picked object
+    PickObject_e m_pickedType = PickObject_None;
     mutable QPointer<vantrix::dialogs::common::QtDialogAbstract> m_dialog; ///< the one that was launched
 };
 
 /// All dialogs, in the order of the menus. A new dialog is added here and nowhere else.
 std::vector<DialogEntry> const& dialogRegistry();
+
+/// Opens the dialog that edits picked objects of a type, on the first one; false when there is none.
+bool launchDialogForPicked(PickObject_e type, QWidget& parent);
 
 } // namespace vantrix::sdk::ui::dialogs
