@@ -15,6 +15,7 @@ public:
 
 private:
     bool open();
+    bool playMacro();
     bool exportPicture();
     bool saveDialogPictures();
 

@@ -20,10 +20,12 @@ struct CommandLine
 
     Task task = Task::Window;
     QString text;
-    QStringList files; /* absolute paths */
+    QStringList files; /* absolute paths; of data, or one of a layout */
     QString sample;    /* empty without one */
+    QString macro;     /* absolute path of one to play when everything is open */
     QString exportPath;
-    QSize exportSize; /* not valid unless --size was given */
+    QSize exportSize;      /* not valid unless --size was given */
+    int exportDensity = 0; /* dots per inch; 0 unless --density was given */
     QString dialogsDirectory;
 
     /* The program's name and its arguments; needs a QCoreApplication. Never fails: see `Task::Rejected`. */

@@ -1,9 +1,13 @@
 #include "app/MainMenu.h"
 
+#include "app/FrameMenu.h"
 #include "app/HelpWindow.h"
 #include "app/HistoryActions.h"
+#include "app/LayoutFiles.h"
+#include "app/MacroMenu.h"
 #include "app/MainWindow.h"
 #include "app/MouseModeBar.h"
+#include "app/PageMenu.h"
 #include "app/RecentFiles.h"
 #include "dialogs/DialogRegistry.h"
 #include "kernel/SampleData.h"
@@ -38,7 +42,9 @@ MainMenu::MainMenu(MainWindow& window, const Parts& parts)
     addFileMenu(parts.recentFiles);
     addEditMenu(parts.history);
     addViewMenu(parts.mouseModes);
+    addPlotMenus();
     addDialogs();
+    new MacroMenu(menu(tr("&Macro")), m_window);
     addHelpMenu();
 }
 
@@ -62,10 +68,16 @@ QMenu* MainMenu::menu(const QString& path)
 void MainMenu::addFileMenu(RecentFiles& recentFiles)
 {
     QMenu* file = menu(tr("&File"));
+    QAction* clear = file->addAction(tr("&New Layout"), &m_window.layoutFiles(), &LayoutFiles::clear);
+    clear->setObjectName(u"newLayoutAction"_s);
+    clear->setShortcuts(QKeySequence::New);
     QAction* open = file->addAction(icon("open"), tr("&Open..."), &m_window, &MainWindow::chooseFiles);
     open->setObjectName(u"openAction"_s);
     open->setShortcuts(QKeySequence::Open);
     m_standardActions << open;
+    QAction* openLayout = file->addAction(tr("Open &Layout..."), &m_window.layoutFiles(), &LayoutFiles::choose);
+    openLayout->setObjectName(u"openLayoutAction"_s);
+    openLayout->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_O);
     file->addMenu(&recentFiles);
     QMenu* samples = file->addMenu(tr("Open &Sample"));
     for (const std::string& sample : kernel::SampleData::names()) {
@@ -74,6 +86,14 @@ void MainMenu::addFileMenu(RecentFiles& recentFiles)
         action->setObjectName(u"sample_"_s + name);
         connect(action, &QAction::triggered, &m_window, [this, name] { m_window.openSample(name); });
     }
+    file->addSeparator();
+    QAction* save = file->addAction(m_window.style()->standardIcon(QStyle::SP_DialogSaveButton), tr("Sa&ve Layout"),
+                                    &m_window.layoutFiles(), &LayoutFiles::save);
+    save->setObjectName(u"saveLayoutAction"_s);
+    save->setShortcuts(QKeySequence::Save);
+    QAction* saveAs = file->addAction(tr("Save Layout &As..."), &m_window.layoutFiles(), &LayoutFiles::saveAs);
+    saveAs->setObjectName(u"saveLayoutAsAction"_s);
+    saveAs->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     file->addSeparator();
     QAction* image = file->addAction(icon("export"), tr("Export &Image..."), &m_window, &MainWindow::exportImage);
     image->setObjectName(u"exportImageAction"_s);
@@ -112,6 +132,12 @@ void MainMenu::addViewMenu(const MouseModeBar& mouseModes)
     QMenu* windows = m_window.createPopupMenu();
     windows->setTitle(tr("&Bars"));
     view->addMenu(windows);
+}
+
+void MainMenu::addPlotMenus()
+{
+    new FrameMenu(menu(tr("F&rame")));
+    new PageMenu(menu(tr("&Page")));
 }
 
 void MainMenu::addDialogs()

@@ -39,6 +39,7 @@ private:
     void addFileMenu(RecentFiles& recentFiles);
     void addEditMenu(const HistoryActions& history);
     void addViewMenu(const MouseModeBar& mouseModes);
+    void addPlotMenus();
     void addDialogs();
     void addHelpMenu();
 

@@ -1,8 +1,12 @@
 #include "app/MainWindow.h"
 
+#include "api/VtxUtilDocument.h"
+#include "app/AutoSave.h"
 #include "app/DataOpener.h"
 #include "app/HelpWindow.h"
 #include "app/HistoryActions.h"
+#include "app/ImageSizeDialog.h"
+#include "app/LayoutFiles.h"
 #include "app/MainMenu.h"
 #include "app/MouseModeBar.h"
 #include "app/PictureExport.h"
@@ -11,10 +15,14 @@
 #include "app/StatusLine.h"
 #include "app/ToolTipFilter.h"
 #include "app/WindowFrontEnd.h"
+#include "dialogs/DialogRegistry.h"
+#include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/Layout.h"
 #include "kernel/VariableMemory.h"
 #include "sdk/WaitState.h"
+#include "view/PageRenderer.h"
 #include "view/WorkArea.h"
 
 #include <QApplication>
@@ -22,6 +30,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
+#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -52,9 +61,9 @@ bool mayConcernMemory(const toolbox::StateChangeEventInterface& event)
     return event.kind() != StateChange_View && event.kind() != StateChange_DataAvailability;
 }
 
-bool mayConcernTitle(const toolbox::StateChangeEventInterface& event)
+bool mayConcernTitle(const toolbox::StateChangeEventInterface& /*event*/)
 {
-    return event.kind() != StateChange_View && event.kind() != StateChange_Style;
+    return true; // every change may make the layout differ from its file
 }
 
 } // namespace
@@ -65,6 +74,8 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     , m_statusLine(new StatusLine(this))
     , m_helpWindow(new HelpWindow(this))
     , m_recentFiles(new RecentFiles(this))
+    , m_layoutFiles(new LayoutFiles(kernel, *this))
+    , m_autoSave(new AutoSave(kernel.layout(), AutoSave::defaultFolder(), this))
     , m_frontEnd(std::make_unique<WindowFrontEnd>(
           WindowFrontEnd::Parts{*this, *m_statusLine, *m_helpWindow, [this] { m_workArea->fitPaper(); }}))
     , m_titleUpdater(mayConcernTitle, [this] { updateTitle(); })
@@ -86,10 +97,11 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
 
     connect(m_workArea, &view::WorkArea::coordinatesChanged, m_statusLine, &StatusLine::setCoordinates);
     connect(m_workArea, &view::WorkArea::statusMessage, m_statusLine, &StatusLine::setText);
+    connect(m_workArea, &view::WorkArea::objectActivated, this, &MainWindow::activateObject);
     connect(m_recentFiles, &RecentFiles::chosen, this, &MainWindow::openFiles);
     qApp->installEventFilter(new ToolTipFilter(this));
     m_kernel.setFrontEnd(m_frontEnd.get());
-    restoreLayout();
+    restoreWindow();
 }
 
 MainWindow::~MainWindow()
@@ -99,7 +111,10 @@ MainWindow::~MainWindow()
 
 bool MainWindow::openFiles(const QStringList& files)
 {
-    if (!DataOpener(m_kernel).openFiles(files)) {
+    // Data that were only opened are no work that could be lost.
+    const bool isPlain = !m_kernel.layout().isModified();
+    const bool isLayout = files.size() == 1 && LayoutFiles::isLayout(files.first());
+    if (isLayout ? !m_layoutFiles->open(files.first()) : !DataOpener(m_kernel).openFiles(files)) {
         // An entry whose file is gone is of no more use.
         for (const QString& file : files) {
             if (!QFileInfo::exists(file))
@@ -107,6 +122,8 @@ bool MainWindow::openFiles(const QStringList& files)
         }
         return false;
     }
+    if (isPlain)
+        m_kernel.layout().setUnmodified();
     QSettings().setValue(openFolderKey, QFileInfo(files.first()).absolutePath());
     m_recentFiles->add(files);
     return true;
@@ -114,7 +131,46 @@ bool MainWindow::openFiles(const QStringList& files)
 
 bool MainWindow::openSample(const QString& name)
 {
-    return DataOpener(m_kernel).openSample(name);
+    const bool isPlain = !m_kernel.layout().isModified();
+    const bool isOpen = DataOpener(m_kernel).openSample(name);
+    if (isOpen && isPlain)
+        m_kernel.layout().setUnmodified();
+    return isOpen;
+}
+
+bool MainWindow::playMacro(const QString& file)
+{
+    const sdk::WaitState wait;
+    if (VtxUtilMacroRun(file.toUtf8().constData()))
+        return true;
+    m_frontEnd->showMessage(m_kernel.lastError(), MessageBox_Error);
+    return false;
+}
+
+void MainWindow::offerRecovery()
+{
+    for (const AutoSave::Copy& copy : m_autoSave->leftBehind()) {
+        const QString name = copy.original.isEmpty() ? tr("a layout without a name") : copy.original;
+        const auto answer =
+            QMessageBox::question(this, tr("Recover Layout"),
+                                  tr("vxplot ended unexpectedly while %1 had unsaved changes. Open the copy of %2?")
+                                      .arg(name, QLocale().toString(copy.time, QLocale::ShortFormat)));
+        try {
+            if (answer == QMessageBox::Yes)
+                m_kernel.layout().recover(copy.file.toStdString(), copy.original.toStdString());
+            AutoSave::remove(copy);
+        } catch (const kernel::DataError& failure) {
+            m_frontEnd->showMessage(failure.what(), MessageBox_Error);
+        }
+        if (answer == QMessageBox::Yes)
+            break; // the others are offered again at the next start
+    }
+}
+
+void MainWindow::activateObject(PickObject_e type)
+{
+    if (!sdk::ui::dialogs::launchDialogForPicked(type, *this))
+        m_statusLine->setText(tr("There is no dialog for what was clicked."));
 }
 
 void MainWindow::chooseFiles()
@@ -127,7 +183,10 @@ void MainWindow::chooseFiles()
 
 void MainWindow::exportImage()
 {
-    exportTo(tr("Export Image"), tr("PNG image (*.png);;JPEG image (*.jpg *.jpeg);;All files (*)"), u"png"_s);
+    ImageSizeDialog dialog(m_workArea->renderer().paperSize(*m_kernel.document().activePage()), this);
+    if (dialog.exec() == QDialog::Accepted)
+        exportTo(tr("Export Image"), tr("PNG image (*.png);;JPEG image (*.jpg *.jpeg);;All files (*)"), u"png"_s,
+                 dialog.imageSize());
 }
 
 void MainWindow::exportPdf()
@@ -135,7 +194,7 @@ void MainWindow::exportPdf()
     exportTo(tr("Export PDF"), tr("PDF document (*.pdf);;All files (*)"), u"pdf"_s);
 }
 
-void MainWindow::exportTo(const QString& title, const QString& filter, const QString& suffix)
+void MainWindow::exportTo(const QString& title, const QString& filter, const QString& suffix, QSize size)
 {
     QFileDialog dialog(this, title, QSettings().value(exportFolderKey).toString(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -146,7 +205,7 @@ void MainWindow::exportTo(const QString& title, const QString& filter, const QSt
     QString problem;
     {
         const sdk::WaitState wait;
-        problem = PictureExport(m_workArea->renderer(), *m_kernel.document().activePage()).write(path);
+        problem = PictureExport(m_workArea->renderer(), *m_kernel.document().activePage()).write(path, size);
     }
     if (!problem.isEmpty()) {
         m_frontEnd->showMessage(problem.toStdString(), MessageBox_Error);
@@ -174,7 +233,11 @@ void MainWindow::showAbout()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    saveLayout();
+    if (!m_layoutFiles->mayDrop()) {
+        event->ignore();
+        return;
+    }
+    saveWindow();
     QMainWindow::closeEvent(event);
 }
 
@@ -198,10 +261,12 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::updateTitle()
 {
     const std::shared_ptr<const kernel::DataSet> dataSet = m_kernel.document().activeDataSet();
-    setWindowTitle(dataSet != nullptr ? QString::fromStdString(dataSet->title) : QString());
+    const QString untitled = dataSet != nullptr ? QString::fromStdString(dataSet->title) : tr("Untitled");
+    setWindowTitle(m_layoutFiles->title(untitled));
+    setWindowModified(m_kernel.layout().isModified());
 }
 
-void MainWindow::restoreLayout()
+void MainWindow::restoreWindow()
 {
     const QSettings settings;
     if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
@@ -209,7 +274,7 @@ void MainWindow::restoreLayout()
     restoreState(settings.value(stateKey).toByteArray());
 }
 
-void MainWindow::saveLayout() const
+void MainWindow::saveWindow() const
 {
     QSettings settings;
     settings.setValue(geometryKey, saveGeometry());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "api/VtxEnumerations.h"
 #include "sdk/OnIdleAfterStateChangeActionPerformer.h"
 
 #include <QMainWindow>
@@ -15,7 +16,9 @@ class WorkArea;
 
 namespace vantrix::app {
 
+class AutoSave;
 class HelpWindow;
+class LayoutFiles;
 class RecentFiles;
 class StatusLine;
 class WindowFrontEnd;
@@ -33,17 +36,24 @@ public:
     ~MainWindow() override;
 
     view::WorkArea& workArea() const { return *m_workArea; }
+    LayoutFiles& layoutFiles() const { return *m_layoutFiles; }
 
-    /* Opens files as one data set. What is wrong with one is shown; what was open then stays. */
+    /* Opens a layout file, or files as one data set. What is wrong with one is shown; what was open then stays. */
     bool openFiles(const QStringList& files);
     bool openSample(const QString& name);
 
     /* The same after asking for the files. */
     void chooseFiles();
 
-    /* Asks for a file and writes the page to it as an image, or as PDF. */
+    /* Asks for a file, and of an image for its size, and writes the page to it as an image, or as PDF. */
     void exportImage();
     void exportPdf();
+
+    /* Does what a macro file says; what goes wrong is shown. */
+    bool playMacro(const QString& file);
+
+    /* Offers to open what a session left behind that ended without being asked to. */
+    void offerRecovery();
 
     void showHelp(const QString& page);
     void showAbout();
@@ -54,9 +64,10 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void exportTo(const QString& title, const QString& filter, const QString& suffix);
-    void restoreLayout();
-    void saveLayout() const;
+    void exportTo(const QString& title, const QString& filter, const QString& suffix, QSize size = {});
+    void activateObject(PickObject_e type);
+    void restoreWindow();
+    void saveWindow() const;
     void updateTitle();
 
     kernel::Kernel& m_kernel;
@@ -64,6 +75,8 @@ private:
     StatusLine* m_statusLine;
     HelpWindow* m_helpWindow;
     RecentFiles* m_recentFiles;
+    LayoutFiles* m_layoutFiles;
+    AutoSave* m_autoSave;
     std::unique_ptr<WindowFrontEnd> m_frontEnd;
     sdk::OnIdleAfterStateChangeActionPerformer m_titleUpdater;
     sdk::OnIdleAfterStateChangeActionPerformer m_memoryTidier;

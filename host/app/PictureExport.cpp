@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const int defaultWidth = 1600;
+const double metersPerInch = 0.0254;
 
 QString suffixOf(const QString& path)
 {
@@ -72,6 +73,11 @@ QString PictureExport::problemWith(const QString& path)
     return {};
 }
 
+QSize PictureExport::sizeAt(int dotsPerInch) const
+{
+    return (m_renderer.paperSize(m_page) * dotsPerInch).toSize();
+}
+
 QString PictureExport::write(const QString& path, QSize size) const
 {
     const QString problem = problemWith(path);
@@ -103,6 +109,9 @@ QImage PictureExport::image(QSize size) const
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     painter.translate((size.width() - paper.width() * inch) / 2, (size.height() - paper.height() * inch) / 2);
     m_renderer.paintPage(painter, m_page, inch);
+    painter.end();
+    image.setDotsPerMeterX(qRound(inch / metersPerInch));
+    image.setDotsPerMeterY(qRound(inch / metersPerInch));
     return image;
 }
 

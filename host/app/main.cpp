@@ -54,6 +54,9 @@ int runWindow(const CommandLine& commandLine, int argc, char** argv)
         window.openSample(commandLine.sample);
     if (!commandLine.files.isEmpty())
         window.openFiles(commandLine.files);
+    if (!commandLine.macro.isEmpty())
+        window.playMacro(commandLine.macro);
+    window.offerRecovery();
     return QApplication::exec();
 }
 

@@ -22,6 +22,7 @@ protected:
         QCoreApplication::setApplicationName(QStringLiteral("vxplot"));
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
         QSettings().clear();
+        qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
         kernel::Kernel::instance().reset();
     }
 

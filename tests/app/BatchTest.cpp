@@ -45,6 +45,28 @@ protected:
     }
 };
 
+TEST_F(BatchTest, AMacroIsPlayedAndALayoutIsOpened)
+{
+    const QString macro = write("make.vxmac", "DataReadSample Name=fe2d\nFrameCreate Left=1 Top=1 Width=2 Height=2\n");
+    const QString picture = path("out.png");
+    Outcome outcome = run({u"--batch"_s, u"--macro"_s, macro, u"--export"_s, picture, u"--density"_s, u"40"_s});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(QImage(picture).size(), QSize(440, 340)) << "letter paper";
+    EXPECT_GT(colorCount(QImage(picture)), 50);
+    QFile::remove(picture);
+
+    const QString layout = write("a.vxlay", "Layout Version=1\nDataSet Id=1\nDataReadSample Name=fe2d\nPage\n"
+                                            "Frame DataSet=1\nStyleSet Path=PlotType Value=Cartesian2D\n");
+    outcome = run({u"--batch"_s, layout, u"--export"_s, picture});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_TRUE(QFile::exists(picture));
+
+    const QString wrong = write("wrong.vxmac", "PageCreate\nPageDelete Page=7\n");
+    outcome = run({u"--batch"_s, u"--macro"_s, wrong});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.errors.find("line 2"), std::string::npos) << outcome.errors;
+}
+
 TEST_F(BatchTest, FilesAndSamplesAreExportedInTheSizeAskedFor)
 {
     const QString file = write("small.vtk", smallVtkFile());

@@ -60,6 +60,11 @@ TEST(CommandLineTest, WhatIsWrongIsNamed)
         {{u"--batch"_s, u"a.vts"_s, u"--export"_s, u"o.zzz"_s}, "o.zzz"},
         {{u"--batch"_s, u"a.vts"_s, u"--export"_s, u"/no/such/folder/o.png"_s}, "/no/such/folder"},
         {{u"--batch"_s, u"a.vts"_s, u"--export"_s, u"/tmp"_s}, "/tmp"},
+        {{u"--macro"_s, u"none.vxmac"_s}, "none.vxmac"},
+        {{u"--batch"_s, u"a.vts"_s, u"--export"_s, u"o.png"_s, u"--density"_s, u"5"_s}, "\"5\""},
+        {{u"--batch"_s, u"a.vts"_s, u"--export"_s, u"o.png"_s, u"--density"_s, u"90"_s, u"--size"_s, u"9x9"_s},
+         "not both"},
+        {{u"a.vts"_s, u"b.vxlay"_s}, "alone"},
     };
     for (const auto& wrong : cases) {
         const CommandLine line = parse(wrong.arguments);

@@ -248,6 +248,73 @@ TEST_F(MainWindowTest, MouseModesFollowThePlot)
     EXPECT_FALSE(action("mouseMode_zoom").isChecked());
 }
 
+TEST_F(MainWindowTest, PagesAndFramesComeAndGoByMenu)
+{
+    EXPECT_FALSE(action("deletePageAction").isEnabled());
+    clickMenu({u"Page"_s, u"New Page"_s});
+    settle();
+    EXPECT_EQ(VtxUtilPageGetActive(), 2);
+    EXPECT_TRUE(action("page_2").isChecked());
+    clickMenu({u"Page"_s, u"Previous Page"_s});
+    settle();
+    EXPECT_EQ(VtxUtilPageGetActive(), 1);
+    clickMenu({u"Page"_s, u"Page 2"_s});
+    settle();
+    clickMenu({u"Page"_s, u"Delete Page"_s});
+    settle();
+    EXPECT_EQ(VtxUtilPageGetCount(), 1);
+    clickMenu({u"Edit"_s, u"Undo Delete Page"_s});
+    EXPECT_EQ(VtxUtilPageGetCount(), 2);
+
+    clickMenu({u"Frame"_s, u"Create Frame"_s});
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_CreateFrame);
+    const long frame = VtxUtilFrameGetUniqueID();
+    clickMenu({u"Frame"_s, u"Delete Frame"_s});
+    EXPECT_NE(VtxUtilFrameGetUniqueID(), frame);
+}
+
+TEST_F(MainWindowTest, TheTitleTellsTheLayoutAndWhetherItIsSaved)
+{
+    ASSERT_TRUE(window.openSample(u"fe2d"_s));
+    settle();
+    EXPECT_FALSE(window.isWindowModified()) << "data that were only opened are no work";
+    clickMenu({u"Page"_s, u"New Page"_s});
+    settle();
+    EXPECT_TRUE(window.isWindowModified());
+    const QString file = path("wing.vxlay");
+    ASSERT_TRUE(VtxUtilLayoutSave(file.toUtf8().constData()));
+    clickMenu({u"Edit"_s, u"Undo Create Page"_s});
+    settle();
+    EXPECT_TRUE(window.windowTitle().startsWith(u"wing.vxlay"_s)) << window.windowTitle().toStdString();
+    EXPECT_TRUE(window.isWindowModified());
+    clickMenu({u"Edit"_s, u"Redo Create Page"_s});
+    settle();
+    EXPECT_FALSE(window.isWindowModified());
+    ASSERT_TRUE(window.openFiles({file}));
+    EXPECT_EQ(VtxUtilPageGetCount(), 2);
+}
+
+TEST_F(MainWindowTest, UnsavedWorkIsNotDroppedWithoutAsking)
+{
+    const auto closeAnswering = [this](QMessageBox::StandardButton answer) {
+        QTimer::singleShot(100, [answer] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            QTest::mouseClick(box->button(answer), Qt::LeftButton);
+        });
+        return window.close();
+    };
+    clickMenu({u"Page"_s, u"New Page"_s});
+    EXPECT_FALSE(closeAnswering(QMessageBox::Cancel));
+    EXPECT_TRUE(window.isVisible());
+    ASSERT_TRUE(VtxUtilLayoutSave(path("a.vxlay").toUtf8().constData()));
+    clickMenu({u"Page"_s, u"New Page"_s});
+    EXPECT_TRUE(closeAnswering(QMessageBox::Save));
+    ASSERT_TRUE(VtxUtilLayoutNew());
+    ASSERT_TRUE(VtxUtilLayoutOpen(path("a.vxlay").toUtf8().constData()));
+    EXPECT_EQ(VtxUtilPageGetCount(), 3);
+}
+
 TEST_F(MainWindowTest, HelpOpensItsPages)
 {
     clickMenu({u"Help"_s, u"Contents"_s});
