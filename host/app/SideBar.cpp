@@ -1,6 +1,7 @@
 #include "app/SideBar.h"
 
 #include "api/VtxUtil.h"
+#include "app/LineMapPanel.h"
 #include "app/VariableBox.h"
 #include "app/VectorVariablesDialog.h"
 #include "app/ZoneListView.h"
@@ -32,6 +33,11 @@ bool isFieldPlot(PlotType_e type)
     return type == PlotType_Cartesian3D || type == PlotType_Cartesian2D;
 }
 
+bool isLinePlot(PlotType_e type)
+{
+    return type == PlotType_XYLine || type == PlotType_PolarLine;
+}
+
 struct Layer
 {
     const char* styleName;
@@ -59,6 +65,7 @@ SideBar::SideBar(QWidget* parent)
     , m_plotType(new QComboBox(this))
     , m_layers(new QGroupBox(tr("Layers"), this))
     , m_zones(new QGroupBox(tr("Zones"), this))
+    , m_lineMaps(new LineMapPanel(this))
     , m_updater(mayConcernPlot, [this] { update(); })
 {
     setObjectName(u"sideBar"_s);
@@ -72,6 +79,7 @@ SideBar::SideBar(QWidget* parent)
     layout->addWidget(m_plotType);
     layout->addWidget(m_layers);
     layout->addWidget(m_zones, 1);
+    layout->addWidget(m_lineMaps, 1);
     setWidget(content);
     update();
 }
@@ -149,6 +157,11 @@ void SideBar::update()
     const bool isField = isFieldPlot(type) && VtxUtilDataSetIsAvailable();
     m_layers->setEnabled(isField);
     m_zones->setEnabled(isField);
+    m_layers->setVisible(!isLinePlot(type));
+    m_zones->setVisible(!isLinePlot(type));
+    m_lineMaps->setVisible(isLinePlot(type));
+    m_lineMaps->setEnabled(VtxUtilDataSetIsAvailable());
+    m_lineMaps->refresh();
     m_contourVariable->refresh();
     for (QCheckBox* box : std::as_const(m_layerBoxes)) {
         bool isOn = false;

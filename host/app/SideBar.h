@@ -10,9 +10,10 @@ class QGroupBox;
 
 namespace vantrix::app {
 
+class LineMapPanel;
 class VariableBox;
 
-/* Beside the plot: its type, its layers, its zones. */
+/* Beside the plot: its type, its layers, its zones or line maps. */
 class SideBar : public QDockWidget
 {
     Q_OBJECT
@@ -30,6 +31,7 @@ private:
     QComboBox* m_plotType;
     QGroupBox* m_layers;
     QGroupBox* m_zones;
+    LineMapPanel* m_lineMaps;
     VariableBox* m_contourVariable = nullptr;
     QList<QCheckBox*> m_layerBoxes;
     sdk::OnIdleAfterStateChangeActionPerformer m_updater;

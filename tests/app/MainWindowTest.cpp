@@ -2,6 +2,7 @@
 
 #include "api/VtxUtil.h"
 #include "kernel/FrontEnd.h"
+#include "toolbox/Set.h"
 #include "view/PageRenderer.h"
 #include "view/WorkArea.h"
 
@@ -13,6 +14,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
@@ -192,6 +194,34 @@ TEST_F(MainWindowTest, TheSideBarShowsAndSetsPlotTypeAndLayers)
     QTest::keyClick(plotType, Qt::Key_Down);
     settle();
     EXPECT_EQ(VtxUtilFrameGetPlotType(), PlotType_Cartesian2D);
+    EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
+TEST_F(MainWindowTest, TheSideBarOfALinePlotShowsAndNamesLineMaps)
+{
+    window.show();
+    ASSERT_TRUE(window.openSample(u"lines"_s));
+    settle();
+    auto* list = window.findChild<QListView*>(u"lineMapList"_s);
+    ASSERT_TRUE(list->isVisible());
+    EXPECT_FALSE(window.findChild<QListView*>(u"zoneList"_s)->isVisible());
+    ASSERT_EQ(list->model()->rowCount(), 4);
+    const QModelIndex third = list->model()->index(2, 0);
+    EXPECT_EQ(third.data().toString(), u"Damping 0.2"_s);
+    const QImage before = window.workArea().grab().toImage();
+    ASSERT_TRUE(list->model()->setData(third, Qt::Unchecked, Qt::CheckStateRole));
+    settle();
+    const toolbox::Set shown(VtxUtilLineMapGetActive());
+    EXPECT_EQ(shown.memberCount(), 3);
+    EXPECT_NE(window.workArea().grab().toImage(), before);
+    ASSERT_TRUE(list->model()->setData(third, u"Mine"_s, Qt::EditRole));
+    settle();
+    EXPECT_EQ(third.data().toString(), u"Mine"_s);
+    VtxUtilUndo();
+    VtxUtilUndo();
+    settle();
+    EXPECT_EQ(third.data().toString(), u"Damping 0.2"_s);
+    EXPECT_EQ(window.workArea().grab().toImage(), before);
     EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
 }
 
