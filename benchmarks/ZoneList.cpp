@@ -26,7 +26,7 @@ void showManyZones()
     vantrix::sdk::AppLock const lock;
     Document& document = Kernel::instance().document();
     DataSet dataSet = document.newDataSet();
-    dataSet.variables = {{"X"}, {"Y"}, {"Z"}};
+    dataSet.variables = {{"X", true}, {"Y", true}, {"Z", true}};
     auto const zone = std::make_shared<Zone const>(Zone::ordered("Zone", 1, 1, 1));
     dataSet.zones.assign(zones + 1, zone);
     dataSet.zoneEnabled.assign(zones + 1, true);
