@@ -243,33 +243,26 @@ void QtDialogAbstract::setActionButtonsEnabled(bool enabled)
     }
 }
 
-QtDialogAbstract::Settings QtDialogAbstract::openSettings() const
+void QtDialogAbstract::savePersistentState()
 {
-    auto settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("vantrix"),
-                                                QStringLiteral("dialogs"));
-    settings->beginGroup(objectName());
-    return settings;
-}
-
-void QtDialogAbstract::savePersistentState() const
-{
-    Settings const settings = openSettings();
     // What is set is written to the file, also where it is there already.
     QByteArray const geometry = saveGeometry();
-    if (settings->value(geometryKey).toByteArray() != geometry) {
-        settings->setValue(geometryKey, geometry);
+    if (m_settings->value(geometryKey).toByteArray() != geometry) {
+        m_settings->setValue(geometryKey, geometry);
     }
     for (auto const& state : m_persistentStates) {
-        state->save(*settings);
+        state->save(*m_settings);
     }
 }
 
 void QtDialogAbstract::restorePersistentState()
 {
-    Settings const settings = openSettings();
-    restoreGeometry(settings->value(geometryKey).toByteArray());
+    m_settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("vantrix"),
+                                             QStringLiteral("dialogs"));
+    m_settings->beginGroup(objectName());
+    restoreGeometry(m_settings->value(geometryKey).toByteArray());
     for (auto const& state : m_persistentStates) {
-        state->restore(*settings);
+        state->restore(*m_settings);
     }
 }
 

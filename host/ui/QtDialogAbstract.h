@@ -63,8 +63,6 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    using Settings = std::unique_ptr<QSettings>;
-
     void prepare();
     void wrapContent();
     void setUpButtons();
@@ -73,14 +71,14 @@ private:
     void limitHeight();
     void applyRelevance();
     void setActionButtonsEnabled(bool enabled);
-    Settings openSettings() const;
-    void savePersistentState() const;
+    void savePersistentState();
     void restorePersistentState();
 
     Relevance m_relevance;
     vantrix::sdk::OnIdleActionPerformerSingleShot m_applyRelevanceOnIdle;
     boost::signals2::scoped_connection m_relevanceConnection;
     std::vector<std::unique_ptr<PersistentStateInterface>> m_persistentStates;
+    std::unique_ptr<QSettings> m_settings; ///< with the group of the dialog open, from the first launch on
     bool m_prepared = false;
     bool m_relevant = true;
     QDialogButtonBox* m_buttonBox = nullptr;
