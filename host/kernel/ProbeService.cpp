@@ -56,7 +56,7 @@ ProbeService::Result ProbeService::resultOf(const ProbeRequest& request, const F
                                              FieldProbeResult, LineProbeResult>;
             std::optional<OneOf> found;
             if constexpr (std::is_same_v<OneOf, FieldProbeResult>) {
-                found = FieldProbe(m_kernel.style(), frame, m_meshes).probe(asked);
+                found = fieldProbe().probe(asked);
             } else {
                 found = LineProbe(m_kernel.style(), frame).probe(asked);
             }
@@ -71,6 +71,9 @@ bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
     const ProbeRequest asked = request; // may be the one that is kept
     m_result = resultOf(asked, frame);
     m_request = asked;
+    if (std::holds_alternative<LineNearestRequest>(asked) && lineResult()) {
+        m_request = lineResult()->picked; // what is nearest may be another point in another view
+    }
     m_frameId = frame.id();
     m_plotType = static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType")));
     const bool isFound = !std::holds_alternative<std::monostate>(m_result);
@@ -103,13 +106,22 @@ const LineProbeResult* ProbeService::lineResult() const
     return std::get_if<LineProbeResult>(&m_result);
 }
 
-FieldProbe ProbeService::fieldProbe()
+FieldProbe& ProbeService::fieldProbe()
 {
-    return {m_kernel.style(), activeFrame(m_kernel), m_meshes};
+    const Frame& frame = activeFrame(m_kernel);
+    const FieldContext present{frame.id(), m_kernel.style().scopeStamp(frame.id()), frame.dataSet()};
+    if (!m_fieldProbe || present != m_fieldContext) {
+        m_fieldProbe.reset();
+        m_fieldProbe.emplace(m_kernel.style(), frame, m_meshes);
+        m_fieldContext = present;
+    }
+    return *m_fieldProbe;
 }
 
 void ProbeService::reset()
 {
+    m_fieldProbe.reset();
+    m_fieldContext = {};
     m_meshes.clear();
     m_request.reset();
     m_frameId = 0;

@@ -52,8 +52,9 @@ public:
     const FieldProbeResult* fieldResult() const;
     const LineProbeResult* lineResult() const;
 
-    /* A probe of the active frame that is no result; for searches by the thousand. Throws as FieldProbe does. */
-    FieldProbe fieldProbe();
+    /* Probes the active frame without a result that is kept, for searches by the thousand; stays until data or style
+     * change. Throws as FieldProbe does. */
+    FieldProbe& fieldProbe();
 
     /* Calls back after every probe, whoever made it; for a view that marks what was found. One for an owner. */
     void addListener(const void* owner, std::function<void()> listener);
@@ -66,8 +67,19 @@ private:
     using Result = std::variant<std::monostate, FieldProbeResult, LineProbeResult>;
     Result resultOf(const ProbeRequest& request, const Frame& frame);
 
+    /* What a FieldProbe was made for. */
+    struct FieldContext
+    {
+        long frame = 0;
+        unsigned long style = 0;
+        std::shared_ptr<const DataSet> dataSet;
+        bool operator==(const FieldContext&) const = default;
+    };
+
     Kernel& m_kernel;
     ProbeMeshes m_meshes;
+    FieldContext m_fieldContext;
+    std::optional<FieldProbe> m_fieldProbe;
     VtxProbeFunction m_function = nullptr;
     long m_clientData = 0;
     std::string m_statusLineText;

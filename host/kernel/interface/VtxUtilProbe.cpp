@@ -363,7 +363,7 @@ bool VtxUtilProbeLineGetPickedValues(double* x, double* y)
 long VtxUtilZoneGetFaceCount(long zone)
 {
     return boundary::guarded(0L, [&] {
-        FieldProbe probe = probes().fieldProbe();
+        FieldProbe& probe = probes().fieldProbe();
         const Zone* found = probe.dataSet().zone(zone);
         return found && !found->isOrdered() ? probe.faceCount(zone) : 0L;
     });
@@ -374,7 +374,7 @@ bool VtxUtilProbeAtPosition(double x, double y, double z, long* iCell, long* jCe
                             bool zoneOnly, bool nearestPoint)
 {
     return boundary::guarded(false, [&] {
-        FieldProbe probe = probes().fieldProbe();
+        FieldProbe& probe = probes().fieldProbe();
         FieldPlace start;
         if (startWithCell && zone && iCell && jCell && kCell && plane && probe.dataSet().zone(*zone)) {
             const Zone& startZone = *probe.dataSet().zone(*zone);

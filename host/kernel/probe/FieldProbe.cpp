@@ -52,7 +52,7 @@ void checkIndex(const char* name, long index, long last)
 
 FieldProbe::FieldProbe(const StyleStore& style, const Frame& frame, ProbeMeshes& meshes)
     : m_style(style)
-    , m_frame(frame)
+    , m_frameId(frame.id())
     , m_meshes(meshes)
     , m_dataSet(frame.dataSet())
 {
@@ -69,17 +69,21 @@ FieldProbe::FieldProbe(const StyleStore& style, const Frame& frame, ProbeMeshes&
     m_coordinates = {axes.x, axes.y, axes.z};
 }
 
-std::vector<long> FieldProbe::shownZones() const
+/* Where zones overlap, the last one covers the others. */
+std::vector<FieldProbe::Candidate> FieldProbe::candidates(bool isInVolume) const
 {
-    std::vector<long> zones;
-    static const long activeEntry = m_style.entry("ActiveFieldMaps");
-    for (long zone = 1; zone <= m_dataSet->zoneCount(); ++zone) {
-        if (m_dataSet->zoneEnabled[static_cast<std::size_t>(zone - 1)] &&
-            m_style.flag(m_frame.id(), activeEntry, zone)) {
-            zones.push_back(zone);
+    std::vector<Candidate> result;
+    const long activeEntry = m_style.entry("ActiveFieldMaps");
+    for (long zone = m_dataSet->zoneCount(); zone >= 1; --zone) {
+        if (!m_dataSet->zoneEnabled[static_cast<std::size_t>(zone - 1)] ||
+            !m_style.flag(m_frameId, activeEntry, zone)) {
+            continue;
+        }
+        if (const auto part = partToSearch(zone, isInVolume)) {
+            result.push_back({zone, *part, isInVolume || !m_isThreeD});
         }
     }
-    return zones;
+    return result;
 }
 
 std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVolume) const
@@ -89,11 +93,11 @@ std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVo
     if (m_isThreeD && isInVolume) {
         return isVolume ? std::optional(ProbeMesh::Part::Cells) : std::nullopt;
     }
-    static const long surfacesEntry = m_style.entry("FieldMap/Surfaces/SurfacesToPlot");
+    const long surfacesEntry = m_style.entry("FieldMap/Surfaces/SurfacesToPlot");
     if (!isVolume) {
         return ProbeMesh::Part::Cells;
     }
-    switch (m_style.integer(m_frame.id(), surfacesEntry, number)) {
+    switch (m_style.integer(m_frameId, surfacesEntry, number)) {
     case SurfacesToPlot_None:
         return std::nullopt;
     case SurfacesToPlot_BoundaryFaces:
@@ -108,30 +112,31 @@ std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVo
     return zone.isOrdered() && !m_isThreeD ? ProbeMesh::Part::FirstLayer : ProbeMesh::Part::Surface;
 }
 
-ProbeMesh& FieldProbe::mesh(long zone, ProbeMesh::Part part)
+std::shared_ptr<ProbeMesh> FieldProbe::mesh(long zone, ProbeMesh::Part part)
 {
     return m_meshes.mesh(*m_dataSet, zone, m_coordinates, part);
 }
 
-bool FieldProbe::findIn(long zone, ProbeMesh::Part part, const FieldPositionRequest& request, FieldPlace& best,
-                        long startCell)
+bool FieldProbe::findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell)
 {
-    ProbeMesh& searched = mesh(zone, part);
-    FieldPlace found{zone, &searched, {}};
-    const int cellDimension =
-        std::min(m_dataSet->zone(zone)->topologicalDimension(), part == ProbeMesh::Part::Cells ? 3 : 2);
-    const bool fillsPlot = cellDimension == (m_isThreeD ? 3 : 2);
+    if (!candidate.mesh) {
+        candidate.mesh = mesh(candidate.zone, candidate.part);
+    }
+    ProbeMesh& searched = *candidate.mesh;
+    FieldPlace found{candidate.zone, candidate.mesh, {}};
     bool isFound = false;
     if (request.isNearestPoint) {
         isFound = searched.findNearestPoint(request.position, found.place);
-    } else if (fillsPlot) {
-        const double margin = 1e-6 * searched.size();
-        isFound =
-            searched.isNear(request.position, margin) && searched.findInside(request.position, found.place, startCell);
     } else {
-        const double radius = surfaceTolerance * searched.size();
-        isFound =
-            searched.isNear(request.position, radius) && searched.findClosest(request.position, radius, found.place);
+        // What is drawn need not be met exactly, but the inside of a volume or of a flat plot has a border.
+        const int dimension = m_dataSet->zone(candidate.zone)->topologicalDimension();
+        const int cellDimension = candidate.part == ProbeMesh::Part::Cells ? dimension : 2;
+        const bool fillsPlot = cellDimension == (m_isThreeD ? 3 : 2);
+        const bool isExact = fillsPlot && candidate.isExact;
+        const double tolerance = (isExact ? borderTolerance : surfaceTolerance) * searched.size();
+        isFound = searched.isNear(request.position, tolerance) &&
+                  ((fillsPlot && searched.findInside(request.position, found.place, startCell)) ||
+                   searched.findClosest(request.position, tolerance, found.place));
     }
     if (!isFound || (best.mesh && best.place.distance2 <= found.place.distance2)) {
         return false;
@@ -144,29 +149,47 @@ bool FieldProbe::find(const FieldPositionRequest& request, FieldPlace& place, co
                       const FieldPlace* start)
 {
     place.mesh = nullptr;
-    std::vector<long> candidates = zones ? std::vector<long>(zones->begin(), zones->end()) : shownZones();
-    // Where zones overlap, the last one covers the others; the one to start with comes before all.
-    std::reverse(candidates.begin(), candidates.end());
-    if (start) {
-        std::stable_partition(candidates.begin(), candidates.end(), [&](long zone) { return zone == start->zone; });
-    }
     FieldPositionRequest sought = request;
     if (!m_isThreeD) {
         sought.position[2] = 0.0;
     }
-    for (const long zone : candidates) {
-        if (!m_dataSet->zone(zone)) {
-            throw DataError("There is no zone " + std::to_string(zone) + "; zones are numbered from 1 to " +
-                            std::to_string(m_dataSet->zoneCount()) + ".");
-        }
-        const auto part = partToSearch(zone, request.isInVolume);
-        const bool isStart = start && start->zone == zone;
-        if (part && findIn(zone, *part, sought, place, isStart ? start->place.cell : -1) &&
+    auto& shown = m_candidates[request.isInVolume ? 1 : 0];
+    std::vector<Candidate> named;
+    if (zones) {
+        named = candidatesAmong(*zones, request.isInVolume);
+    } else if (!shown) {
+        shown = candidates(request.isInVolume);
+    }
+    std::vector<Candidate>& searched = zones ? named : *shown;
+    if (start) { // before all others
+        const auto first = std::find_if(searched.begin(), searched.end(),
+                                        [&](const Candidate& candidate) { return candidate.zone == start->zone; });
+        if (first != searched.end() && findIn(*first, sought, place, start->place.cell) &&
             place.place.distance2 == 0.0) {
             return true;
         }
     }
+    for (Candidate& candidate : searched) {
+        if (findIn(candidate, sought, place, -1) && place.place.distance2 == 0.0) {
+            return true;
+        }
+    }
     return place.mesh != nullptr;
+}
+
+std::vector<FieldProbe::Candidate> FieldProbe::candidatesAmong(const std::set<long>& zones, bool isInVolume) const
+{
+    std::vector<Candidate> result;
+    for (auto zone = zones.rbegin(); zone != zones.rend(); ++zone) {
+        if (!m_dataSet->zone(*zone)) {
+            throw DataError("There is no zone " + std::to_string(*zone) + "; zones are numbered from 1 to " +
+                            std::to_string(m_dataSet->zoneCount()) + ".");
+        }
+        if (const auto part = partToSearch(*zone, isInVolume)) {
+            result.push_back({*zone, *part, isInVolume || !m_isThreeD});
+        }
+    }
+    return result;
 }
 
 FieldPlace FieldProbe::placeOf(long number, const CellIndex& cell, bool isInVolume)
@@ -176,7 +199,7 @@ FieldPlace FieldProbe::placeOf(long number, const CellIndex& cell, bool isInVolu
     const auto part = zone ? partToSearch(number, isInVolume) : std::nullopt;
     if (part) {
         place.zone = number;
-        place.mesh = &mesh(number, *part);
+        place.mesh = mesh(number, *part);
         place.place.cell = place.mesh->findCell(*zone, cell);
     }
     return place;
@@ -265,7 +288,7 @@ FieldProbeResult FieldProbe::probe(const FieldIndexRequest& request)
             value = field->values->GetComponent(point, 0);
         } else if (field) {
             if (cells.empty()) {
-                cells = mesh(request.zone, ProbeMesh::Part::Cells).cellsAround(point);
+                cells = mesh(request.zone, ProbeMesh::Part::Cells)->cellsAround(point);
             }
             if (!cells.empty()) {
                 value = mean(*field->values, cells);

@@ -39,7 +39,7 @@ struct FieldIndexRequest
 struct FieldPlace
 {
     long zone = 0;
-    ProbeMesh* mesh = nullptr;
+    std::shared_ptr<ProbeMesh> mesh;
     MeshPlace place;
 };
 
@@ -57,8 +57,9 @@ struct FieldProbeResult
 };
 
 /*
- * Probes the field plot of one frame. A position on a surface need not be exact: the closest place of what the plot
- * shows is taken, no further away than a hundredth of the size of its zone.
+ * Probes the field plot of one frame, with the data and style that it has when this is made. A position on a surface
+ * need not be exact: the closest place of what the plot shows is taken, no further away than a hundredth of the size of
+ * its zone.
  */
 class FieldProbe
 {
@@ -83,23 +84,33 @@ public:
     std::optional<double> value(const FieldPlace& place, long variable) const;
 
     /* See VtxUtilZoneGetFaceCount(); the zone is a finite-element one. */
-    long faceCount(long zone) { return mesh(zone, ProbeMesh::Part::Cells).faceCount(); }
+    long faceCount(long zone) { return mesh(zone, ProbeMesh::Part::Cells)->faceCount(); }
 
     const DataSet& dataSet() const { return *m_dataSet; }
 
 private:
-    std::vector<long> shownZones() const;
+    /* A zone to search, and its mesh once that was needed. */
+    struct Candidate
+    {
+        long zone;
+        ProbeMesh::Part part;
+        bool isExact; /* whether a position has to be inside of a cell */
+        std::shared_ptr<ProbeMesh> mesh = {};
+    };
+    std::vector<Candidate> candidates(bool isInVolume) const;
+    std::vector<Candidate> candidatesAmong(const std::set<long>& zones, bool isInVolume) const;
     std::optional<ProbeMesh::Part> partToSearch(long zone, bool isInVolume) const;
-    ProbeMesh& mesh(long zone, ProbeMesh::Part part);
-    bool findIn(long zone, ProbeMesh::Part part, const FieldPositionRequest& request, FieldPlace& best, long startCell);
+    std::shared_ptr<ProbeMesh> mesh(long zone, ProbeMesh::Part part);
+    bool findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell);
     FieldProbeResult newResult(long zone) const;
 
     const StyleStore& m_style;
-    const Frame& m_frame;
+    long m_frameId;
     ProbeMeshes& m_meshes;
     std::shared_ptr<const DataSet> m_dataSet;
     CoordinateVariables m_coordinates{0, 0, 0};
     bool m_isThreeD = false;
+    std::array<std::optional<std::vector<Candidate>>, 2> m_candidates; /* on surfaces, inside of volumes */
 };
 
 } // namespace vantrix::kernel

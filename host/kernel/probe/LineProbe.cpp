@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numbers>
 
 namespace vantrix::kernel {
 
@@ -36,9 +35,7 @@ std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, do
 } // namespace
 
 LineProbe::LineProbe(StyleStore& style, const Frame& frame)
-    : m_style(style)
-    , m_frameId(frame.id())
-    , m_lineMaps(style, frame)
+    : m_lineMaps(style, frame)
     , m_dataSet(frame.dataSet())
 {
     const long plotType = style.integer(frame.id(), style.entry("PlotType"));
@@ -117,6 +114,9 @@ LineProbeResult LineProbe::resultOf(const Map& from, long point) const
     result.axisNumber = static_cast<int>(from.xAxis);
     result.pickedMap = from.number;
     result.point = point + 1;
+    const Zone& zone = *m_dataSet->zone(from.zone);
+    const auto [iMax, jMax, kMax] = zone.isOrdered() ? zone.dimensions() : std::array<long, 3>{zone.pointCount(), 1, 1};
+    result.picked = {point % iMax + 1, point / iMax % jMax + 1, point / iMax / jMax + 1, from.number};
     result.pickedX = from.x->values->GetComponent(point, 0);
     result.pickedY = from.y->values->GetComponent(point, 0);
     result.position = result.pickedX;
@@ -151,33 +151,8 @@ LineProbeResult LineProbe::probe(const LineIndexRequest& request) const
     return resultOf(probed, point);
 }
 
-LineProbe::InPicture LineProbe::inPicture(const LineNearestRequest& request) const
-{
-    if (!m_isPolar) {
-        return [request](double x, double y) { return std::array{x * request.xLength, y * request.yLength}; };
-    }
-    const auto real = [this](const char* path) { return m_style.real(m_frameId, m_style.entry(path)); };
-    const double centre = real("PolarAxis/RDetail/RangeMin");
-    double period = real("PolarAxis/ThetaPeriod");
-    switch (m_style.integer(m_frameId, m_style.entry("PolarAxis/ThetaMode"))) {
-    case ThetaMode_Degrees:
-        period = 360.0;
-        break;
-    case ThetaMode_Radians:
-        period = 2.0 * std::numbers::pi;
-        break;
-    default:
-        break;
-    }
-    return [centre, turn = 2.0 * std::numbers::pi / period](double theta, double r) {
-        return std::array{(r - centre) * std::cos(theta * turn), (r - centre) * std::sin(theta * turn)};
-    };
-}
-
 std::optional<LineProbeResult> LineProbe::probe(const LineNearestRequest& request) const
 {
-    const InPicture place = inPicture(request);
-    const std::array<double, 2> sought = place(request.x, request.y);
     double smallest = std::numeric_limits<double>::infinity();
     std::optional<Map> nearest;
     long nearestPoint = 0;
@@ -186,9 +161,10 @@ std::optional<LineProbeResult> LineProbe::probe(const LineNearestRequest& reques
             continue;
         }
         for (long point = 0; point < shown.x->values->GetNumberOfTuples(); ++point) {
-            const auto [across, up] =
-                place(shown.x->values->GetComponent(point, 0), shown.y->values->GetComponent(point, 0));
-            const double distance = std::hypot(across - sought[0], up - sought[1]);
+            const auto drawn =
+                request.placeOf(shown.x->values->GetComponent(point, 0), shown.y->values->GetComponent(point, 0));
+            const double distance = drawn ? std::hypot((*drawn)[0] - request.place[0], (*drawn)[1] - request.place[1])
+                                          : std::numeric_limits<double>::quiet_NaN();
             if (distance < smallest) {
                 smallest = distance;
                 nearest = shown;

@@ -27,14 +27,13 @@ struct LineIndexRequest
     long lineMap = 1;
 };
 
-/* A probe of the point of all line maps that is drawn closest to a place. The lengths are what the picture of an XY
- * plot has for one unit of X and of Y, so that closeness is that of the picture; a polar plot needs none. */
+/* A probe of the point of all line maps that is drawn closest to a place of the picture. */
 struct LineNearestRequest
 {
-    double x = 0.0;
-    double y = 0.0;
-    double xLength = 1.0;
-    double yLength = 1.0;
+    using Place = std::array<double, 2>;
+
+    Place place{0.0, 0.0};
+    std::function<std::optional<Place>(double x, double y)> placeOf; /* where values are drawn; nothing for nowhere */
 };
 
 /* What a probe of a line plot found. */
@@ -53,6 +52,7 @@ struct LineProbeResult
 
     long pickedMap = 0; /* of a probe of one point */
     long point = 0;
+    LineIndexRequest picked; /* the same point by its index */
     double pickedX = 0.0;
     double pickedY = 0.0;
 };
@@ -84,12 +84,8 @@ private:
     };
     Map map(long number) const;
     std::vector<Map> shownMaps() const;
-    using InPicture = std::function<std::array<double, 2>(double, double)>;
-    InPicture inPicture(const LineNearestRequest& request) const;
     LineProbeResult resultOf(const Map& map, long point) const;
 
-    const StyleStore& m_style;
-    long m_frameId;
     LineMaps m_lineMaps;
     std::shared_ptr<const DataSet> m_dataSet;
     bool m_isPolar = false;

@@ -6,18 +6,17 @@
 
 namespace vantrix::kernel {
 
-ProbeMesh& ProbeMeshes::mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
-                             ProbeMesh::Part part)
+std::shared_ptr<ProbeMesh> ProbeMeshes::mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
+                                             ProbeMesh::Part part)
 {
     const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, zone, coordinates);
     const Key key{dataSet.id(), zone, coordinates, part};
     const auto found = m_meshes.find(key);
     if (found != m_meshes.end() && found->second->isOf(*grid)) {
-        return *found->second;
+        return found->second;
     }
     dropUnused();
-    auto made = std::make_unique<ProbeMesh>(*dataSet.zone(zone), *grid, part);
-    return *(m_meshes[key] = std::move(made));
+    return m_meshes[key] = std::make_shared<ProbeMesh>(*dataSet.zone(zone), *grid, part);
 }
 
 void ProbeMeshes::dropUnused()

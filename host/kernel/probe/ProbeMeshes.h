@@ -22,8 +22,9 @@ public:
         : m_document(document)
     {}
 
-    /* The zone must be there. The mesh stays until the next call that has to make one. */
-    ProbeMesh& mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates, ProbeMesh::Part part);
+    /* The zone must be there. */
+    std::shared_ptr<ProbeMesh> mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
+                                    ProbeMesh::Part part);
 
     void clear() { m_meshes.clear(); }
 
@@ -32,7 +33,7 @@ private:
     void dropUnused();
 
     const Document& m_document;
-    std::map<Key, std::unique_ptr<ProbeMesh>> m_meshes;
+    std::map<Key, std::shared_ptr<ProbeMesh>> m_meshes;
 };
 
 } // namespace vantrix::kernel

@@ -659,7 +659,15 @@ TEST_F(ProbeTest, APointOfALineIsTakenByIndexOrNearness)
     expectPicked();
     {
         const LockScope lock;
-        EXPECT_TRUE(kernel().probes().perform(LineNearestRequest{x + 1e-6, y + 1e-6, 1.0, 1.0}));
+        const auto placeOf = [](double px, double py) { return std::optional(std::array{px, py}); };
+        EXPECT_TRUE(kernel().probes().perform(LineNearestRequest{{x + 1e-6, y + 1e-6}, placeOf}));
     }
     expectPicked();
+    VtxProbeInfoHandle info = VtxUtilProbeInfoGet();
+    {
+        const LockScope lock;
+        EXPECT_TRUE(VtxUtilProbePerform(info, nullptr)) << "again, the same point";
+    }
+    expectPicked();
+    VtxUtilProbeInfoDealloc(&info);
 }
