@@ -18,6 +18,24 @@ std::optional<QPointF> FramePlot::dataAt(QPointF place) const
                    y->value((area.bottom() - place.y()) / area.height()));
 }
 
+std::optional<QPointF> FramePlot::placeOf(const Point3& data) const
+{
+    if (camera) {
+        const QPointF seen =
+            camera->project({data[0] * style.axisScale[0], data[1] * style.axisScale[1], data[2] * style.axisScale[2]});
+        return area.center() + QPointF(seen.x(), -seen.y()) * area.width();
+    }
+    if (polar) {
+        const QPointF unit = polar->place(data[0], data[1]);
+        return polarCenter + QPointF(unit.x(), -unit.y()) * polarRadius;
+    }
+    if (!x || !y) {
+        return std::nullopt;
+    }
+    return QPointF(area.left() + x->fraction(data[0]) * area.width(),
+                   area.bottom() - y->fraction(data[1]) * area.height());
+}
+
 QPointF FramePlot::onPicture(QPointF place) const
 {
     const QPointF from = place - area.center();

@@ -44,6 +44,10 @@ public:
      * outside of its area. */
     std::optional<QPointF> dataAt(QPointF place) const;
 
+    /* Where a point of the data is in the frame; in 2D and line plots its Z does not count. None where the plot has
+     * nothing to measure by. */
+    std::optional<QPointF> placeOf(const Point3& data) const;
+
     /* Where on the picture of a 3D plot a place is: in picture widths from its middle, Y up. */
     QPointF onPicture(QPointF place) const;
 };

@@ -15,6 +15,7 @@
 #include "view/mouse/ClickTool.h"
 #include "view/mouse/CreateFrameTool.h"
 #include "view/mouse/MouseContext.h"
+#include "view/mouse/ProbeTool.h"
 #include "view/mouse/RotateTool.h"
 #include "view/mouse/SelectorTool.h"
 #include "view/mouse/TranslateTool.h"
@@ -49,7 +50,8 @@ struct WorkArea::Impl : kernel::PickSurface
         tools[MouseMode_Translate] = std::make_unique<TranslateTool>(context);
         tools[MouseMode_Rotate] = std::make_unique<RotateTool>(context);
         tools[MouseMode_CreateFrame] = std::make_unique<CreateFrameTool>(context);
-        for (const MouseMode_e mode : {MouseMode_Probe, MouseMode_Text, MouseMode_Streamtrace}) {
+        tools[MouseMode_Probe] = std::make_unique<ProbeTool>(context);
+        for (const MouseMode_e mode : {MouseMode_Text, MouseMode_Streamtrace}) {
             tools[mode] = std::make_unique<ClickTool>(context, mode);
         }
         kernel.stateChanges().addListener(&Impl::stateChanged, this);

@@ -18,8 +18,8 @@ class PageRenderer;
  * The work area: the desk with the active page's paper and its frames, and the mouse over them.
  *
  * It listens to the kernel's state changes and repaints on the next turn of the event loop, once for any number of
- * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate and rotate are
- * handled here, of the other modes a click is passed on by clickedInMode(). Everywhere the wheel zooms the plot under
+ * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate, rotate and probe
+ * are handled here, of the other modes a click is passed on by clickedInMode(). Everywhere the wheel zooms the plot under
  * the pointer, with Ctrl the paper; the middle button moves the plot, a double click fits it. A change of view writes
  * style values; a whole drag is one step of undo.
  */

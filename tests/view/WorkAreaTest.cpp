@@ -3,6 +3,7 @@
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
+#include "kernel/ProbeService.h"
 #include "kernel/UndoStack.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
@@ -114,7 +115,7 @@ TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndPassesOtherModesOn)
     const long first = sample.frame().id();
     ShownWorkArea shown(sample);
     QSignalSpy spy(&shown.area, &view::WorkArea::clickedInMode);
-    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Text));
     QTest::mouseClick(&shown.area, Qt::LeftButton, {}, shown.place(0.45, 0.5));
     ASSERT_EQ(spy.size(), 1);
     EXPECT_EQ(spy.at(0).at(1).value<long>(), first);
@@ -131,4 +132,60 @@ TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndPassesOtherModesOn)
     QTest::mouseClick(&shown.area, Qt::LeftButton, {},
                       shown.area.toWidget(rect.bottomRight() - QPointF(0.5, 0.5)).toPoint());
     EXPECT_EQ(sample.kernel.document().activeFrame()->id(), first);
+}
+
+TEST(WorkArea, ProbesWhereItIsClickedAndMarksThePlace)
+{
+    ShownSample sample("fe2d", PlotType_Cartesian2D);
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    const view::FramePlot& plot = *shown.area.renderer().plot(sample.frame().id());
+    const QPoint click = shown.place(0.45, 0.3);
+    const QPointF frameCorner = shown.area.renderer().frameRect(sample.frame()).topLeft();
+    const auto data = plot.dataAt(shown.area.toPaper(click) - frameCorner);
+    ASSERT_TRUE(data);
+    const QImage before = shown.area.grab().toImage();
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, click);
+    const kernel::FieldProbeResult* result = sample.kernel.probes().fieldResult();
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->position[0], data->x());
+    EXPECT_EQ(result->position[1], data->y());
+    EXPECT_EQ(result->point, 0);
+    const QPointF marked = frameCorner + *plot.placeOf(result->position);
+    EXPECT_LT((shown.area.toWidget(marked) - click).manhattanLength(), 0.01);
+    EXPECT_NE(shown.area.grab(QRect(click - QPoint(5, 5), QSize(11, 11))).toImage(),
+              before.copy(QRect(click - QPoint(5, 5), QSize(11, 11))));
+
+    QTest::mouseClick(&shown.area, Qt::LeftButton, Qt::ControlModifier, click);
+    ASSERT_TRUE(sample.kernel.probes().fieldResult());
+    EXPECT_NE(sample.kernel.probes().fieldResult()->point, 0);
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, shown.place(0.02, 0.5));
+    EXPECT_NE(sample.kernel.probes().fieldResult()->point, 0) << "beside the plot nothing is probed";
+}
+
+TEST(WorkArea, ProbesTheSurfaceThatIsSeenInThreeD)
+{
+    ShownSample sample("mixed", PlotType_Cartesian3D);
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    const QPoint click = shown.place(0.5, 0.5);
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, click);
+    const kernel::FieldProbeResult* result = sample.kernel.probes().fieldResult();
+    ASSERT_TRUE(result);
+    const view::FramePlot& plot = *shown.area.renderer().plot(sample.frame().id());
+    const QPointF marked = shown.area.renderer().frameRect(sample.frame()).topLeft() + *plot.placeOf(result->position);
+    EXPECT_LT((shown.area.toWidget(marked) - click).manhattanLength(), 3.0);
+}
+
+TEST(WorkArea, ProbesLinesAlongXOrTakesTheNearestPoint)
+{
+    ShownSample sample("lines", PlotType_XYLine);
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, shown.place(0.4, 0.5));
+    ASSERT_TRUE(sample.kernel.probes().lineResult());
+    EXPECT_GT(sample.kernel.probes().lineResult()->values.size(), 1U);
+    QTest::mouseClick(&shown.area, Qt::LeftButton, Qt::ControlModifier, shown.place(0.4, 0.5));
+    ASSERT_TRUE(sample.kernel.probes().lineResult());
+    EXPECT_GT(sample.kernel.probes().lineResult()->point, 0);
 }
