@@ -154,6 +154,7 @@ void ProbeHistoryDialog::Impl::compare()
 {
     m_differences->setRowCount(0);
     std::vector<int> const rows = selectedRows();
+    m_differences->setVisible(rows.size() == 2);
     if (rows.size() != 2) {
         m_comparison->setText(m_history.rowCount() < 2 ? tr("Probes of the plot are listed here as they are made.")
                                                        : tr("Select two probes to compare them."));
