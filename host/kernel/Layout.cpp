@@ -11,6 +11,8 @@
 #include "kernel/StateChanges.h"
 #include "kernel/StyleActions.h"
 #include "kernel/StyleStore.h"
+#include "kernel/Text.h"
+#include "kernel/TextValues.h"
 #include "kernel/UndoStack.h"
 #include "kernel/macro/MacroCommand.h"
 
@@ -71,6 +73,20 @@ public:
         if (!state.arguments.empty()) {
             write(1, state);
         }
+    }
+
+    /* What differs from a text as it is made. */
+    void writeText(int depth, const Text& text)
+    {
+        MacroCommand command{"Text", {}};
+        const Text fresh;
+        for (const TextValue& value : textValues()) {
+            const TextValue::Value is = value.get(text);
+            if (is != value.get(fresh)) {
+                std::visit([&](const auto& each) { command.add(std::string(value.name), each); }, is);
+            }
+        }
+        write(depth, command);
     }
 
     const std::string& text() const { return m_text; }
@@ -154,6 +170,9 @@ std::string Layout::text(const std::string& folder) const
             }
             writer.write(1, frameHead);
             writer.writeStyle(2, frame.id());
+            for (const auto& text : frame.texts()) {
+                writer.writeText(2, *text);
+            }
             writeUnknown(2, frame.id());
         }
     }

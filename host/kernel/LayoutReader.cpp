@@ -5,6 +5,7 @@
 #include "kernel/StyleActions.h"
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
+#include "kernel/TextValues.h"
 #include "kernel/macro/MacroCommand.h"
 
 #include <utility>
@@ -93,6 +94,8 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
         addData(command);
     } else if (command.name == "StyleSet") {
         addStyle(command, text);
+    } else if (command.name == "Text" && m_frame) {
+        addText(command);
     } else {
         unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
     }
@@ -204,6 +207,30 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
         throw DataError(refusal.text);
     }
     styles.back().values.push_back(std::move(stored));
+}
+
+void LayoutReader::addText(const MacroCommand& command)
+{
+    Text text;
+    text.handle = m_document.newId();
+    for (const auto& [name, given] : command.arguments) {
+        const TextValue* value = findTextValue(name);
+        if (!value) {
+            throw DataError("a text has no \"" + name + "\".");
+        }
+        if (const long* number = std::get_if<long>(&given)) {
+            value->assign(text, *number);
+        } else if (const double* real = std::get_if<double>(&given)) {
+            value->assign(text, *real);
+        } else if (const auto* string = std::get_if<std::string>(&given)) {
+            value->assign(text, *string);
+        } else {
+            throw DataError('"' + name + "\" of a text is a number or a string.");
+        }
+    }
+    auto texts = m_frame->texts();
+    texts.push_back(std::make_shared<const Text>(std::move(text)));
+    m_frame->setTexts(std::move(texts));
 }
 
 void LayoutReader::checkPlotTypes() const

@@ -49,6 +49,7 @@ private:
     void addStyle(const MacroCommand& command, const std::string& text);
     void addData(MacroCommand command);
     void finishDataSet();
+    void addText(const MacroCommand& command);
     void checkPlotTypes() const;
 
     Document& m_document;

@@ -8,6 +8,7 @@
 #include "kernel/PlotAxes.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
+#include "kernel/Texts.h"
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
@@ -141,7 +142,7 @@ std::string PickList::problemWith(const PickedObject& object) const
     case PickObject_LineLegend:
         return isLine ? std::string() : "The plot has no legend of line maps.";
     case PickObject_Text:
-        return noSuch("text", object.number);
+        return m_kernel.texts().find(object.number) ? std::string() : noSuch("text", object.number);
     case PickObject_Geometry:
         return noSuch("geometry", object.number);
     default:
@@ -178,16 +179,22 @@ void PickList::deleteObjects()
 {
     std::map<long, std::set<long>> lineMaps; /* of each frame */
     std::set<long> frames;
+    std::set<long> texts;
     for (const PickedObject& object : m_objects) {
-        if (object.type == PickObject_LineMap) {
+        if (object.type == PickObject_Text) {
+            texts.insert(object.number);
+        } else if (object.type == PickObject_LineMap) {
             lineMaps[object.frameId].insert(object.number);
         } else if (object.type == PickObject_Frame) {
             frames.insert(object.frameId);
         }
     }
-    if (frames.empty() && lineMaps.empty()) {
+    if (frames.empty() && lineMaps.empty() && texts.empty()) {
         throw DataError(m_objects.empty() ? "Nothing is picked that could be deleted."
                                           : "Nothing that is picked can be deleted.");
+    }
+    for (const long text : texts) {
+        m_kernel.texts().remove(text);
     }
     for (const auto& [frame, numbers] : lineMaps) {
         LineMaps(m_kernel.style(), *m_kernel.document().frameById(frame)).remove(numbers);

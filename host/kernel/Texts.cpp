@@ -61,11 +61,12 @@ void Texts::replace(Frame& frame, List texts, long handle)
 
 long Texts::add(Frame& frame, Text text)
 {
-    text.handle = ++m_lastHandle;
+    const long handle = m_document.newId();
+    text.handle = handle;
     List texts = frame.texts();
     texts.push_back(std::make_shared<const Text>(std::move(text)));
-    replace(frame, std::move(texts), m_lastHandle);
-    return m_lastHandle;
+    replace(frame, std::move(texts), handle);
+    return handle;
 }
 
 bool Texts::change(Text text)

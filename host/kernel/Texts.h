@@ -40,7 +40,6 @@ private:
     Document& m_document;
     UndoStack& m_undo;
     StateChanges& m_changes;
-    long m_lastHandle = 0;
 };
 
 } // namespace vantrix::kernel

@@ -149,6 +149,7 @@ void TextPainter::paint() const
         baseline += lineDistance();
     }
     painter.restore();
+    m_canvas.markArea({.type = PickObject_Text, .number = m_text.handle}, outline());
 }
 
 } // namespace vantrix::view

@@ -3,6 +3,8 @@
 #include "kernel/Texts.h"
 #include "toolbox/ArgList.h"
 
+#include <cstdio>
+
 namespace vantrix::kernel {
 namespace {
 
@@ -118,6 +120,38 @@ TEST_F(TextsTest, ABadValueIsNamedAndChangesNothing)
     const LockScope lock;
     EXPECT_FALSE(VtxUtilTextDelete(handle + 1));
     EXPECT_EQ(takeError(), "There is no text " + std::to_string(handle + 1) + ".");
+}
+
+TEST_F(TextsTest, ArePickedAndDeletedAsPicked)
+{
+    const long handle = create("one");
+    const LockScope lock;
+    ASSERT_TRUE(VtxUtilPickText(handle)) << takeError();
+    EXPECT_EQ(VtxUtilPickListGetText(1), handle);
+    EXPECT_TRUE(VtxUtilPickDelete()) << takeError();
+    EXPECT_FALSE(VtxUtilTextIsValid(handle));
+    EXPECT_EQ(VtxUtilPickListGetCount(), 0);
+    EXPECT_FALSE(VtxUtilPickText(handle));
+}
+
+TEST_F(TextsTest, LayoutsKeepThem)
+{
+    ASSERT_TRUE(set([](ArgList& arguments) {
+        arguments.appendString("Text", "two\nlines, \"quoted\"");
+        arguments.appendDouble("XPos", 12.5);
+        arguments.appendArbParam("TextColor", 3);
+    })) << takeError();
+    const Text before = *document().activeFrame()->texts().front();
+    const std::string file = testing::TempDir() + "texts.vxlay";
+    ASSERT_TRUE(VtxUtilLayoutSave(file.c_str())) << takeError();
+    ASSERT_TRUE(VtxUtilLayoutNew());
+    EXPECT_TRUE(document().activeFrame()->texts().empty());
+    ASSERT_TRUE(VtxUtilLayoutOpen(file.c_str())) << takeError();
+    std::remove(file.c_str());
+    ASSERT_EQ(document().activeFrame()->texts().size(), 1U);
+    Text after = *document().activeFrame()->texts().front();
+    after.handle = before.handle;
+    EXPECT_EQ(after, before);
 }
 
 TEST_F(TextsTest, GoAndComeBackWithTheirFrame)
