@@ -71,8 +71,13 @@ bool PlotProbe::perform(const FramePlot& plot, long frameId, QPointF place, bool
         return probes().perform(kernel::FieldPositionRequest{{data->x(), data->y(), 0.0}, false, isNearestPoint});
     }
     if (isNearestPoint) {
-        return probes().perform(kernel::LineNearestRequest{
-            data->x(), data->y(), lengthOfUnit(plot.area.width(), plot.x), lengthOfUnit(plot.area.height(), plot.y)});
+        // Nearest is what looks nearest.
+        using Place = kernel::LineNearestRequest::Place;
+        const auto placeOf = [&plot](double x, double y) -> std::optional<Place> {
+            const auto drawn = plot.placeOf({x, y, 0.0});
+            return drawn ? std::optional(Place{drawn->x(), drawn->y()}) : std::nullopt;
+        };
+        return probes().perform(kernel::LineNearestRequest{{place.x(), place.y()}, placeOf});
     }
     const char axis = plot.style.type == PlotType_PolarLine ? 'T' : 'X';
     return probes().perform(kernel::LinePositionRequest{axis, 1, data->x()});

@@ -34,29 +34,15 @@ TextPainter::TextPainter(const Canvas& canvas, const QRectF& frame, const FrameP
 
 std::optional<QPointF> TextPainter::anchor(const QRectF& frame, const FramePlot& plot) const
 {
-    switch (m_text.coordSys) {
-    case CoordSys_Frame:
+    if (m_text.coordSys == CoordSys_Frame) {
         return QPointF(frame.left() + m_text.x / 100.0 * frame.width(),
                        frame.bottom() - m_text.y / 100.0 * frame.height());
-    case CoordSys_Grid:
-        if (plot.x && plot.y) {
-            const QRectF area(frame.topLeft() + plot.area.topLeft() * m_canvas.inch, plot.area.size() * m_canvas.inch);
-            return QPointF(area.left() + plot.x->fraction(m_text.x) * area.width(),
-                           area.bottom() - plot.y->fraction(m_text.y) * area.height());
-        }
-        break;
-    case CoordSys_Grid3D:
-        if (plot.camera) {
-            const auto& scale = plot.style.axisScale;
-            const QPointF place = plot.camera->project({m_text.x * scale[0], m_text.y * scale[1], m_text.z * scale[2]});
-            const double width = plot.area.width();
-            const QPointF middle = plot.area.center();
-            return frame.topLeft() +
-                   QPointF(middle.x() + place.x() * width, middle.y() - place.y() * width) * m_canvas.inch;
-        }
-        break;
     }
-    return std::nullopt;
+    const bool isThreeD = m_text.coordSys == CoordSys_Grid3D;
+    const auto place = isThreeD == plot.camera.has_value()
+                           ? plot.placeOf({m_text.x, m_text.y, isThreeD ? m_text.z : 0.0})
+                           : std::nullopt;
+    return place ? std::optional(frame.topLeft() + *place * m_canvas.inch) : std::nullopt;
 }
 
 double TextPainter::height(const QRectF& frame, const FramePlot& plot) const
