@@ -305,6 +305,11 @@ private:
 
 } // namespace
 
+void MacroCommand::add(std::string argument, MacroValue value)
+{
+    arguments.emplace_back(std::move(argument), std::move(value));
+}
+
 const MacroValue* MacroCommand::find(std::string_view argument) const
 {
     const auto found = std::ranges::find(arguments, argument, &Argument::first);

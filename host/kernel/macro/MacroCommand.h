@@ -40,7 +40,7 @@ struct MacroCommand
     double real(std::string_view argument) const;
     const std::string& text(std::string_view argument) const;
 
-    void add(std::string argument, MacroValue value) { arguments.emplace_back(std::move(argument), std::move(value)); }
+    void add(std::string argument, MacroValue value);
 
     bool operator==(const MacroCommand&) const = default;
 };
