@@ -10,6 +10,8 @@
 #include "kernel/ProbeService.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleActions.h"
+#include "kernel/StyleCheck.h"
+#include "kernel/StylePath.h"
 #include "kernel/StyleStore.h"
 #include "kernel/Text.h"
 #include "kernel/TextValues.h"
@@ -45,9 +47,14 @@ public:
         m_text += std::string(static_cast<std::size_t>(2 * depth), ' ') + line + '\n';
     }
 
-    void writeStyle(int depth, long scopeId)
+    /* Values of zones that the scope's data do not have any more mean nothing there, and are left out. */
+    void writeStyle(int depth, long scopeId, long zones)
     {
         for (const StyleStore::Stored& stored : m_style.storedValues(scopeId)) {
+            const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(stored.entry)];
+            if (styleIndex(about, stored.offset1, stored.offset2, zones) < 0) {
+                continue;
+            }
             write(depth, StyleActions::command(stored.entry, {stored.offset1}, stored.offset2, stored.value));
         }
     }
@@ -157,7 +164,7 @@ std::string Layout::text(const std::string& folder) const
             head.add("Active", 1L);
         }
         writer.write(0, head);
-        writer.writeStyle(1, page->id);
+        writer.writeStyle(1, page->id, 0);
         writeUnknown(1, page->id);
         for (std::size_t i = 0; i < page->frames.size(); ++i) {
             const Frame& frame = *page->frames[i];
@@ -169,7 +176,7 @@ std::string Layout::text(const std::string& folder) const
                 frameHead.add("Active", 1L);
             }
             writer.write(1, frameHead);
-            writer.writeStyle(2, frame.id());
+            writer.writeStyle(2, frame.id(), frame.dataSet() ? frame.dataSet()->zoneCount() : 0);
             for (const auto& text : frame.texts()) {
                 writer.writeText(2, *text);
             }

@@ -155,7 +155,7 @@ TEST_F(SelectorTest, MovesAFrameByTheGridAsOneStep)
 {
     show("fe2d", PlotType_Cartesian2D);
     const QRectF before = activeRect();
-    const QPointF grip = before.topLeft() + QPointF(0.05, 0.05);
+    const QPointF grip = before.topLeft() + QPointF(0.2, 0.2); // beside the handle of the corner
     drag(grip, grip + QPointF(0.63, 0.41));
     const QRectF after = activeRect();
     EXPECT_EQ(after.size(), before.size());
