@@ -1,11 +1,14 @@
 #include "kernel/ProbeService.h"
 
+#include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
 #include "kernel/StyleStore.h"
+#include "kernel/macro/MacroRecorder.h"
+#include "kernel/macro/ProbeCommand.h"
 
 namespace vantrix::kernel {
 
@@ -69,6 +72,7 @@ bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
 {
     const Frame& frame = activeFrame(m_kernel);
     const ProbeRequest asked = request; // may be the one that is kept
+    MacroRecorder::Call call(m_kernel.macroRecorder(), m_kernel.lock().isRecorded());
     m_result = resultOf(asked, frame);
     m_request = asked;
     if (std::holds_alternative<LineNearestRequest>(asked) && lineResult()) {
@@ -77,6 +81,9 @@ bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
     m_frameId = frame.id();
     m_plotType = static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType")));
     const bool isFound = !std::holds_alternative<std::monostate>(m_result);
+    if (isFound && call.isDescribed()) {
+        call.succeeded(probeCommand(*m_request));
+    }
     if (told) {
         told(isFound ? 1 : 0, isNearestPoint(asked) ? 1 : 0, m_clientData);
     }

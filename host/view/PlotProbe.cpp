@@ -1,5 +1,6 @@
 #include "view/PlotProbe.h"
 
+#include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/FrontEnd.h"
@@ -48,6 +49,7 @@ void PlotProbe::probe(const kernel::Frame& frame, QPointF place, bool isNearestP
     if (!plot) {
         return;
     }
+    const kernel::ActionLock lock(m_kernel.lock());
     try {
         const bool isFound = perform(*plot, frame.id(), place, isNearestPoint);
         m_kernel.frontEnd().showStatus(isFound ? probes().statusLineText()

@@ -2,10 +2,15 @@
 
 #include "KernelFixture.h"
 #include "kernel/DataError.h"
+#include "kernel/Layout.h"
+#include "kernel/macro/Commands.h"
+#include "kernel/macro/Identifiers.h"
+#include "toolbox/ArgList.h"
 
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <regex>
 #include <sstream>
 #include <unistd.h>
 
@@ -25,9 +30,26 @@ std::string errorOf(const char* line)
     return {};
 }
 
+/* Every function that the headers of the interface name. */
+std::set<std::string> interfaceFunctions()
+{
+    std::set<std::string> names;
+    const std::regex name(R"(\bVtxUtil\w+(?=\())");
+    for (const auto& header : std::filesystem::directory_iterator(VX_API_HEADERS)) {
+        std::ifstream stream(header.path());
+        const std::string text(std::istreambuf_iterator<char>(stream), {});
+        for (std::sregex_iterator found(text.begin(), text.end(), name), end; found != end; ++found) {
+            names.insert(found->str());
+        }
+    }
+    return names;
+}
+
 class MacroTest : public KernelTest
 {
 protected:
+    using ArgList = vantrix::toolbox::ArgList;
+
     void SetUp() override
     {
         KernelTest::SetUp();
@@ -72,6 +94,40 @@ protected:
         const SetValueReturnCode_e code = VtxUtilStyleSetLowLevelX(list);
         VtxUtilArgListDealloc(&list);
         return code;
+    }
+
+    /* Creates a text, or changes the one of that handle, at a place. */
+    static long setText(const char* text, double x, long handle = 0)
+    {
+        ArgList list;
+        if (handle != 0) {
+            list.appendArbParam(textArgument, handle);
+        }
+        list.appendString("Text", text);
+        list.appendDouble("XPos", x);
+        list.appendArbParamPtr("Result", &handle);
+        EXPECT_TRUE(VtxUtilTextSetX(list.handle())) << kernel().lastError();
+        return handle;
+    }
+
+    static bool call(bool (*function)(VtxArgListHandle), const std::function<void(ArgList&)>& fill)
+    {
+        ArgList list;
+        fill(list);
+        return function(list.handle());
+    }
+
+    /* What was recorded ends in the present state when it is played from the beginning. */
+    void expectReplayed(const std::vector<std::string>& lines)
+    {
+        const std::string before = kernel().layout().text();
+        std::string macro;
+        for (const std::string& line : lines) {
+            macro += line + '\n';
+        }
+        kernel().reset();
+        ASSERT_TRUE(play(macro)) << kernel().lastError();
+        EXPECT_EQ(kernel().layout().text(), before);
     }
 
     std::filesystem::path m_folder;
@@ -164,6 +220,102 @@ TEST_F(MacroTest, RecordsNothingThatTheHostDoesItself)
     EXPECT_THAT(recorded(), ElementsAre("DataReadSample Name=fe2d; FrameSetBackgroundColor Color=0"));
 }
 
+TEST(MacroCommandTest, EveryFunctionThatChangesStateIsACommand)
+{
+    const std::regex changesNothing("Get|Is[A-Z]|Query|OkTo|Alloc|Dealloc|FindEntry|StringFormat"
+                                    "|^VtxUtil(ArgList|Set)[A-Z]"                              // of the caller
+                                    "|^VtxUtil(Dialog|StatusMessage|HelpLaunch|Wait|WorkView)" // only shown
+                                    "|^VtxUtil(Lock|StateChange|Macro|UndoSet)"                // about steps
+                                    "|^VtxUtilProbe(InstallCallbackX|Perform)$" // recorded as what they do
+                                    "|^VtxUtilProbeAtPosition$");               // keeps no result
+    long count = 0;
+    for (const std::string& function : interfaceFunctions()) {
+        if (std::regex_search(function, changesNothing)) {
+            continue;
+        }
+        std::string name = function.substr(std::string_view("VtxUtil").size());
+        if (name.ends_with('X')) {
+            name.pop_back();
+        }
+        EXPECT_NE(commandNamed(name == "StyleSetLowLevel" ? "StyleSet" : name), nullptr)
+            << function << " changes state and cannot be recorded; list it in Commands.cpp";
+        ++count;
+    }
+    EXPECT_GT(count, 40) << "the headers were found";
+}
+
+TEST_F(MacroTest, NamesTextsByTheirPlaces)
+{
+    ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
+    const auto step = [](const std::function<void()>& work) {
+        const LockScope lock;
+        work();
+    };
+    long first = 0;
+    long second = 0;
+    step([&] { first = setText("one", 1.0); });
+    step([&] { second = setText("two", 2.0); });
+    step([&] {
+        setText("two", 3.0, second); // dragged
+        setText("two", 4.0, second);
+        VtxUtilTextSetHeight(first, 5.0);
+        setText("two", 5.0, second);
+    });
+    step([&] { VtxUtilFrameCreate(1, 1, 2, 2); });
+    step([&] { VtxUtilTextSetHeight(second, 7.5); });
+    step([&] {
+        VtxUtilPageCreate();
+        setText("three", 0.5);
+    });
+    step([&] { VtxUtilTextDelete(first); });
+    step([&] { EXPECT_FALSE(VtxUtilTextDelete(first)); });
+    const std::vector<std::string> lines = recorded();
+    EXPECT_THAT(lines,
+                ElementsAre("TextSet Text=one XPos=1.0", "TextSet Text=two XPos=2.0",
+                            "TextSetHeight TextID=1 Height=5.0; TextSet TextID=2 Text=two XPos=5.0",
+                            "FrameCreate Left=1.0 Top=1.0 Width=2.0 Height=2.0",
+                            "TextSetHeight TextID=\"2 of frame 1\" Height=7.5",
+                            "PageCreate; TextSet Text=three XPos=0.5", "TextDelete TextID=\"1 of frame 1 of page 1\""));
+    expectReplayed(lines);
+}
+
+TEST_F(MacroTest, RecordsAxesAndProbesHoweverTheyAreAskedFor)
+{
+    show("lines");
+    ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
+    {
+        const LockScope lock;
+        EXPECT_TRUE(VtxUtilViewAxisNiceFit('Y', 1));
+        EXPECT_TRUE(call(&VtxUtilViewX, [](ArgList& list) {
+            list.appendArbParam("ViewOP", ViewOp_AxisFit);
+            list.appendArbParam("Axis", 'X');
+        }));
+        EXPECT_TRUE(call(&VtxUtilProbeAtLineIndexX, [](ArgList& list) {
+            list.appendArbParam("I", 2);
+            list.appendArbParam("LineMap", 1);
+        })) << kernel().lastError();
+        VtxProbeInfoHandle info = VtxUtilProbeInfoGet();
+        EXPECT_TRUE(VtxUtilProbePerform(info, nullptr));
+        VtxUtilProbeInfoDealloc(&info);
+        EXPECT_TRUE(call(&VtxUtilProbeInstallCallbackX, [](ArgList& list) {
+            const VtxProbeFunction function = [](char, char, long) {};
+            list.appendArbParam("CallbackFunction", reinterpret_cast<long>(function));
+        }));
+    }
+    const std::vector<std::string> lines = recorded();
+    EXPECT_THAT(lines, ElementsAre("ViewAxisNiceFit Axis=Y AxisNum=1; View ViewOP=2 Axis=X; "
+                                   "ProbeAtLineIndex I=2 J=1 K=1 LineMap=1; ProbeAtLineIndex I=2 J=1 K=1 LineMap=1; "
+                                   "MouseSetMode Mode=5"));
+    {
+        const LockScope lock;
+        call(&VtxUtilProbeInstallCallbackX, [](ArgList& list) { list.appendArbParam("CallbackFunction", 0); });
+    }
+    kernel().reset();
+    show("lines");
+    ASSERT_TRUE(play(lines.front())) << kernel().lastError();
+    EXPECT_EQ(VtxUtilProbeLineGetPoint(), 2);
+}
+
 TEST_F(MacroTest, RefusesToRecordWhereItCannot)
 {
     EXPECT_FALSE(VtxUtilMacroRecordStop()) << "nothing is recorded";
@@ -218,6 +370,11 @@ TEST_F(MacroTest, StopsAtTheLineThatFailsWithNothingHalfDone)
         {"StyleSet Path=\"FrameLayout/Width\" Value=-1", "FrameLayout"},
         {"StyleSet Path=\"FrameLayout/ShowBorder\" Value=\"yes\"", "ShowBorder"},
         {"DataSetDeleteZone Zones={1}", "no data set"},
+        {"TextSetHeight TextID=1 Height=2", "no text 1 in the frame, which has 0"},
+        {"TextDelete TextID=\"1 of page 2\"", "\"TextID\" has to be a position"},
+        {"TextDelete TextID=\"1 of frame 1 of page 7\"", "no page 7"},
+        {"TextSet Text=a Anchor=9", "\"Anchor\" of a text"},
+        {"View ViewOP=0 Axis=88", "\"Axis\" has to be a text"},
         {"PickAxis Axis=\"XY\" AxisNumber=1 Part=0", "one character"},
     };
     for (const auto& [command, cause] : bad) {

@@ -35,16 +35,16 @@ AxisPlace placeOf(AxisName axis)
     return AxisPlace::find(style(), activeFrame(), axis);
 }
 
-/* Does something to the axes of the active frame; false, with the text kept, when it cannot be done. */
-template<class Change>
-bool change(Change&& how)
+/* Does something to the axes of the active frame for the function that was called with `arguments`. */
+template<auto Function, class Change, class... Arguments>
+bool change(Change&& how, const Arguments&... arguments)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto run = [&] {
         AxisRanges axes = ranges();
         how(axes);
         return true;
-    });
+    };
+    return boundary::change<Function>(false, run, arguments...);
 }
 
 /* The named value; throws DataError when it is missing. */
@@ -77,27 +77,39 @@ void setIfNotNull(long* place, long value)
 
 bool VtxUtilViewAxisFit(char axis, int axisNumber)
 {
-    return change([&](AxisRanges& axes) { axes.fit({axis, axisNumber}); });
+    return change<&VtxUtilViewAxisFit>([&](AxisRanges& axes) { axes.fit({axis, axisNumber}); }, axis, axisNumber);
 }
 
 bool VtxUtilViewAxisNiceFit(char axis, int axisNumber)
 {
-    return change([&](AxisRanges& axes) { axes.niceFit({axis, axisNumber}); });
+    return change<&VtxUtilViewAxisNiceFit>(
+        [&](AxisRanges& axes) {
+            axes.niceFit({axis, axisNumber});
+        },
+        axis, axisNumber);
 }
 
 bool VtxUtilViewAxisFitToEntireCircle(char axis, int axisNumber)
 {
-    return change([&](AxisRanges& axes) { axes.fitToEntireCircle({axis, axisNumber}); });
+    return change<&VtxUtilViewAxisFitToEntireCircle>(
+        [&](AxisRanges& axes) {
+            axes.fitToEntireCircle({axis, axisNumber});
+        },
+        axis, axisNumber);
 }
 
 bool VtxUtilViewAxisMakeCurValsNice(char axis, int axisNumber)
 {
-    return change([&](AxisRanges& axes) { axes.makeNice({axis, axisNumber}); });
+    return change<&VtxUtilViewAxisMakeCurValsNice>(
+        [&](AxisRanges& axes) {
+            axes.makeNice({axis, axisNumber});
+        },
+        axis, axisNumber);
 }
 
 bool VtxUtilViewX(VtxArgListHandle arguments)
 {
-    return change([&](AxisRanges& axes) {
+    const auto view = [&](AxisRanges& axes) {
         expectKnownNames(arguments);
         const long operation = argument(arguments, "ViewOP");
         switch (operation) {
@@ -114,7 +126,8 @@ bool VtxUtilViewX(VtxArgListHandle arguments)
         default:
             throw DataError("\"ViewOP\" is " + std::to_string(operation) + "; it has to be a ViewOp_e, 0 to 2.");
         }
-    });
+    };
+    return change<&VtxUtilViewX>(view, arguments);
 }
 
 double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice)
@@ -124,7 +137,7 @@ double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, boo
 
 bool VtxUtilReset3DScaleFactors(void)
 {
-    return change([](AxisRanges& axes) { axes.reset3DScaleFactors(); });
+    return change<&VtxUtilReset3DScaleFactors>([](AxisRanges& axes) { axes.reset3DScaleFactors(); });
 }
 
 bool VtxUtilQueryIsXYDependentAllowedForFrame(long frameId)

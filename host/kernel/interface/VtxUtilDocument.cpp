@@ -143,7 +143,9 @@ bool VtxUtilLayoutNew(void)
 bool VtxUtilLayoutSave(const char* file)
 {
     return boundary::guarded(false, [&] {
-        Kernel::instance().layout().save(file ? file : "");
+        Layout& layout = Kernel::instance().layout();
+        layout.save(file ? file : "");
+        Kernel::instance().macroRecorder().recordStep({"LayoutSave", {{"File", layout.fileName()}}});
         return true;
     });
 }

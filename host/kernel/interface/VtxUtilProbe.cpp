@@ -1,5 +1,6 @@
 #include "api/VtxUtilProbe.h"
 #include "api/VtxUtilData.h"
+#include "api/VtxUtilFrame.h"
 
 #include "kernel/DataError.h"
 #include "kernel/ProbeService.h"
@@ -114,6 +115,9 @@ bool VtxUtilProbeInstallCallbackX(VtxArgListHandle arguments)
 {
     return probing([&] {
         const long function = argument<long>(arguments, "CallbackFunction");
+        if (function != 0 && VtxUtilMouseIsValidMode(MouseMode_Probe)) {
+            VtxUtilMouseSetMode(MouseMode_Probe); // which a macro can play, as it cannot a function of this process
+        }
         probes().install(reinterpret_cast<VtxProbeFunction>(function), argumentOr(arguments, "ClientData", 0L),
                          argumentOr(arguments, "StatusLineText", std::string()));
         return true;

@@ -80,35 +80,42 @@ bool assign(const VtxArgList& arguments, Text& text)
     return !text.text.empty() || boundary::fail("\"Text\" of a text has to say something.");
 }
 
+bool change(const VtxArgList& arguments, long handle)
+{
+    const Text* existing = texts().find(handle);
+    if (!existing) {
+        return noSuchText(handle);
+    }
+    Text text = *existing;
+    return assign(arguments, text) && texts().change(std::move(text));
+}
+
+bool create(const VtxArgList& arguments)
+{
+    Frame* frame = Kernel::instance().document().activeFrame();
+    if (!frame) {
+        return boundary::fail("There is no frame to put a text into.");
+    }
+    Text text;
+    if (!assign(arguments, text)) {
+        return false;
+    }
+    const long created = texts().add(*frame, std::move(text));
+    if (long* const* result = arguments.findAs<long*>("Result")) {
+        **result = created;
+    }
+    return true;
+}
+
 } // namespace
 
 bool VtxUtilTextSetX(VtxArgListHandle arguments)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto set = [&] {
         const long* handle = arguments->findAs<long>("TextID");
-        if (handle) {
-            const Text* existing = texts().find(*handle);
-            if (!existing) {
-                return noSuchText(*handle);
-            }
-            Text text = *existing;
-            return assign(*arguments, text) && texts().change(std::move(text));
-        }
-        Frame* frame = Kernel::instance().document().activeFrame();
-        if (!frame) {
-            return boundary::fail("There is no frame to put a text into.");
-        }
-        Text text;
-        if (!assign(*arguments, text)) {
-            return false;
-        }
-        const long created = texts().add(*frame, std::move(text));
-        if (long* const* result = arguments->findAs<long*>("Result")) {
-            **result = created;
-        }
-        return true;
-    });
+        return handle ? change(*arguments, *handle) : create(*arguments);
+    };
+    return boundary::change<&VtxUtilTextSetX>(false, set, arguments);
 }
 
 bool VtxUtilTextGetX(VtxArgListHandle arguments)
@@ -137,8 +144,7 @@ bool VtxUtilTextGetX(VtxArgListHandle arguments)
 
 bool VtxUtilTextSetHeight(long text, double height)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
+    const auto set = [&] {
         const Text* existing = texts().find(text);
         if (!existing) {
             return noSuchText(text);
@@ -146,15 +152,14 @@ bool VtxUtilTextSetHeight(long text, double height)
         Text changed = *existing;
         findTextValue("Height")->assign(changed, height);
         return texts().change(std::move(changed));
-    });
+    };
+    return boundary::change<&VtxUtilTextSetHeight>(false, set, text, height);
 }
 
 bool VtxUtilTextDelete(long text)
 {
-    return boundary::guarded(false, [&] {
-        boundary::expectLocked();
-        return texts().remove(text) || noSuchText(text);
-    });
+    const auto remove = [&] { return texts().remove(text) || noSuchText(text); };
+    return boundary::change<&VtxUtilTextDelete>(false, remove, text);
 }
 
 bool VtxUtilTextIsValid(long text)

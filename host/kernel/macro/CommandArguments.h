@@ -2,17 +2,14 @@
 
 #include "kernel/DataError.h"
 #include "kernel/interface/ArgumentList.h"
+#include "kernel/macro/Identifiers.h"
 #include "kernel/macro/MacroCommand.h"
 
+#include <string_view>
 #include <type_traits>
 
 /* How arguments of the interface's functions are written in a macro and read from it, by their types. */
 namespace vantrix::kernel {
-
-/* An identifier of a frame, which is written as the frame's position on the active page. */
-inline constexpr std::string_view frameArgument = "Frame";
-long framePosition(long frameId);
-long frameAtPosition(long position);
 
 template<class Type>
 MacroValue toMacro(std::string_view name, Type value)
@@ -27,7 +24,7 @@ MacroValue toMacro(std::string_view name, Type value)
         return value ? value->members : std::set<long>();
     } else {
         const long number = static_cast<long>(value);
-        return name == frameArgument ? framePosition(number) : number;
+        return isIdentifier(name) ? placeOfIdentifier(name, number) : MacroValue(number);
     }
 }
 
@@ -37,8 +34,7 @@ class FromMacro
 {
 public:
     FromMacro(const MacroCommand& command, std::string_view name)
-        : m_value(
-              static_cast<Type>(name == frameArgument ? frameAtPosition(command.integer(name)) : command.integer(name)))
+        : m_value(static_cast<Type>(isIdentifier(name) ? identifierAtPlace(command, name) : command.integer(name)))
     {}
     Type get() { return m_value; }
 
@@ -108,21 +104,14 @@ private:
     VtxSet m_set;
 };
 
+/* In argument lists an axis is the number of its character, which a macro writes as that character. */
+inline constexpr std::string_view axisArgument = "Axis";
+
 /* The named values of an argument list, each an argument of the command. Pointers, which receive something, are left
  * out. */
-inline void describeList(MacroCommand& command, const VtxArgList& list)
-{
-    for (const VtxArgList::Argument& argument : list.arguments) {
-        if (const long* number = std::get_if<long>(&argument.value)) {
-            command.add(argument.name, *number);
-        } else if (const double* real = std::get_if<double>(&argument.value)) {
-            command.add(argument.name, *real);
-        } else if (const auto* text = std::get_if<std::string>(&argument.value)) {
-            command.add(argument.name, *text);
-        } else if (const auto* set = std::get_if<VtxSet>(&argument.value)) {
-            command.add(argument.name, set->members);
-        }
-    }
-}
+void describeList(MacroCommand& command, const VtxArgList& list);
+
+/* An argument list for the function that is the command. */
+VtxArgList listFromMacro(const MacroCommand& command);
 
 } // namespace vantrix::kernel

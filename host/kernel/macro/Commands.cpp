@@ -52,6 +52,21 @@ Command stepOfItsOwn(const char* name, Parameters parameters = {})
     return about;
 }
 
+template<auto Function>
+bool runWithList(const MacroCommand& command, const Command& /*about*/)
+{
+    VtxArgList list = listFromMacro(command);
+    return boundary::isSuccess(Function(&list));
+}
+
+template<auto Function>
+Command listCommand(const char* name)
+{
+    Command about{name, reinterpret_cast<const void*>(Function), {}, &runWithList<Function>};
+    about.takesList = true;
+    return about;
+}
+
 bool setStyle(const MacroCommand& command, const Command& about)
 {
     checkArguments(command, about);
@@ -89,11 +104,11 @@ const std::vector<Command>& commands()
         command<&VtxUtilCreateRectangularZone>("CreateRectangularZone", {"IMax", "JMax", "KMax", "XMin", "YMin", "ZMin",
                                                                          "XMax", "YMax", "ZMax", "DataType"}),
         command<&VtxUtilFrameCreate>("FrameCreate", {"Left", "Top", "Width", "Height"}),
-        command<&VtxUtilFrameSetRect>("FrameSetRect", {"Frame", "Left", "Top", "Width", "Height"}),
-        command<&VtxUtilFrameDelete>("FrameDelete", {"Frame"}),
-        command<&VtxUtilFrameActivate>("FrameActivate", {"Frame"}),
-        command<&VtxUtilFramePop>("FramePop", {"Frame"}),
-        command<&VtxUtilFramePush>("FramePush", {"Frame"}),
+        command<&VtxUtilFrameSetRect>("FrameSetRect", {frameArgument, "Left", "Top", "Width", "Height"}),
+        command<&VtxUtilFrameDelete>("FrameDelete", {frameArgument}),
+        command<&VtxUtilFrameActivate>("FrameActivate", {frameArgument}),
+        command<&VtxUtilFramePop>("FramePop", {frameArgument}),
+        command<&VtxUtilFramePush>("FramePush", {frameArgument}),
         command<&VtxUtilFrameSetPlotType>("FrameSetPlotType", {"PlotType"}),
         command<&VtxUtilFrameSetBackgroundColor>("FrameSetBackgroundColor", {"Color"}),
         command<&VtxUtilPageCreate>("PageCreate"),
@@ -101,12 +116,25 @@ const std::vector<Command>& commands()
         command<&VtxUtilPageActivate>("PageActivate", {"Page"}),
         command<&VtxUtilLineMapCreate>("LineMapCreate", {"Zone", "XVariable", "YVariable"}),
         command<&VtxUtilLineMapDelete>("LineMapDelete", {"LineMaps"}),
+        listCommand<&VtxUtilTextSetX>("TextSet"),
+        command<&VtxUtilTextSetHeight>("TextSetHeight", {textArgument, "Height"}),
+        command<&VtxUtilTextDelete>("TextDelete", {textArgument}),
+        command<&VtxUtilViewAxisFit>("ViewAxisFit", {"Axis", "AxisNum"}),
+        command<&VtxUtilViewAxisNiceFit>("ViewAxisNiceFit", {"Axis", "AxisNum"}),
+        command<&VtxUtilViewAxisFitToEntireCircle>("ViewAxisFitToEntireCircle", {"Axis", "AxisNum"}),
+        command<&VtxUtilViewAxisMakeCurValsNice>("ViewAxisMakeCurValsNice", {"Axis", "AxisNum"}),
+        listCommand<&VtxUtilViewX>("View"),
+        command<&VtxUtilReset3DScaleFactors>("Reset3DScaleFactors"),
+        listCommand<&VtxUtilProbeAtFieldPositionX>("ProbeAtFieldPosition"),
+        listCommand<&VtxUtilProbeAtFieldIndexX>("ProbeAtFieldIndex"),
+        listCommand<&VtxUtilProbeAtLinePositionX>("ProbeAtLinePosition"),
+        listCommand<&VtxUtilProbeAtLineIndexX>("ProbeAtLineIndex"),
         command<&VtxUtilMouseSetMode>("MouseSetMode", {"Mode"}),
         command<&VtxUtilPickClear>("PickClear"),
-        command<&VtxUtilPickFrame>("PickFrame", {"Frame"}),
+        command<&VtxUtilPickFrame>("PickFrame", {frameArgument}),
         command<&VtxUtilPickZone>("PickZone", {"Zone"}),
-        command<&VtxUtilPickText>("PickText", {"Text"}),
-        command<&VtxUtilPickGeometry>("PickGeometry", {"Geometry"}),
+        command<&VtxUtilPickText>("PickText", {textArgument}),
+        command<&VtxUtilPickGeometry>("PickGeometry", {geometryArgument}),
         command<&VtxUtilPickLineMap>("PickLineMap", {"LineMap"}),
         command<&VtxUtilPickAxis>("PickAxis", {"Axis", "AxisNumber", "Part"}),
         command<&VtxUtilPickLegend>("PickLegend", {"Legend"}),
@@ -115,44 +143,19 @@ const std::vector<Command>& commands()
         stepOfItsOwn<&VtxUtilUndo>("Undo"),
         stepOfItsOwn<&VtxUtilRedo>("Redo"),
         stepOfItsOwn<&VtxUtilLayoutNew>("LayoutNew"),
+        stepOfItsOwn<&VtxUtilLayoutSave>("LayoutSave", {"File"}),
         stepOfItsOwn<&VtxUtilLayoutOpen>("LayoutOpen", {"File"}),
     };
     return table;
 }
 
-/* The thing that a command gives a value: all its arguments but the value itself. */
-std::size_t identitySize(const MacroCommand& command)
+/* Whether an argument says what is given a value, not which. */
+bool saysWhat(const MacroCommand& command, const std::string& argument)
 {
-    if (command.name == "StyleSet") {
-        return command.arguments.size() - 1;
-    }
-    return command.name == "FrameSetRect" ? 1 : 0;
+    return command.name == "StyleSet" ? argument != "Value" : isIdentifier(argument);
 }
 
 } // namespace
-
-long framePosition(long frameId)
-{
-    const Page* page = Kernel::instance().document().activePage();
-    if (page) {
-        for (std::size_t i = 0; i < page->frames.size(); ++i) {
-            if (page->frames[i]->id() == frameId) {
-                return static_cast<long>(i) + 1;
-            }
-        }
-    }
-    return 0;
-}
-
-long frameAtPosition(long position)
-{
-    const long id = VtxUtilFrameGetIdAt(position);
-    if (id == 0) {
-        throw DataError("There is no frame " + std::to_string(position) + " on the active page, which has " +
-                        std::to_string(VtxUtilFrameGetCount()) + '.');
-    }
-    return id;
-}
 
 const Command* commandNamed(std::string_view name)
 {
@@ -171,15 +174,18 @@ const Command& commandOf(const void* function)
 
 bool isValue(const MacroCommand& command)
 {
-    return identitySize(command) > 0;
+    static const std::set<std::string_view> setting{"StyleSet", "FrameSetRect", "TextSet", "TextSetHeight"};
+    return setting.contains(command.name) &&
+           std::ranges::any_of(command.arguments, [&](const auto& each) { return saysWhat(command, each.first); });
 }
 
 bool replaces(const MacroCommand& later, const MacroCommand& earlier)
 {
-    const std::size_t size = identitySize(later);
-    return size > 0 && later.name == earlier.name && identitySize(earlier) == size &&
-           std::equal(later.arguments.begin(), later.arguments.begin() + static_cast<std::ptrdiff_t>(size),
-                      earlier.arguments.begin());
+    const auto isSame = [&](const MacroCommand::Argument& one, const MacroCommand::Argument& other) {
+        return one.first == other.first && (one.second == other.second || !saysWhat(later, one.first));
+    };
+    return isValue(later) && later.name == earlier.name &&
+           std::ranges::equal(later.arguments, earlier.arguments, isSame);
 }
 
 void checkArguments(const MacroCommand& command, const Command& about)

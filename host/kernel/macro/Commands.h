@@ -11,7 +11,7 @@ inline constexpr long macroVersion = 1;
  * table, in Commands.cpp, is the one place that tells how a call becomes a command and a command a call; a function
  * that changes state and is not in it cannot be called through boundary::change().
  *
- * Frames are numbered by their position on the active page, from the lowest, as no identifier lasts beyond a session.
+ * What has an identifier is named by its place; see Identifiers.h.
  */
 struct Command
 {

@@ -68,10 +68,9 @@ void MacroRecorder::add(MacroCommand command)
     const bool isReplaceable = known != m_step.end() &&
                                std::all_of(known, m_step.end(), [](const MacroCommand& each) { return isValue(each); });
     if (isReplaceable) {
-        *known = std::move(command);
-    } else {
-        m_step.push_back(std::move(command));
+        m_step.erase(known);
     }
+    m_step.push_back(std::move(command));
 }
 
 void MacroRecorder::Call::succeeded(MacroCommand command)
