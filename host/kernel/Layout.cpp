@@ -51,7 +51,7 @@ public:
     void writeStyle(int depth, long scopeId, long zones)
     {
         for (const StyleStore::Stored& stored : m_style.storedValues(scopeId)) {
-            const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(stored.entry)];
+            const StyleEntry& about = styleDescription(stored.entry);
             if (styleIndex(about, stored.offset1, stored.offset2, zones) < 0) {
                 continue;
             }

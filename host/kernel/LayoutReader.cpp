@@ -183,12 +183,12 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
 {
     const long entry = m_style.entry(command.text("Path").c_str());
     const StyleScope scope = m_frame ? StyleScope::Frame : StyleScope::Page;
-    const bool isOfScope = entry >= 0 && styleVocabulary()[static_cast<std::size_t>(entry)].scope == scope;
+    const bool isOfScope = entry >= 0 && styleDescription(entry).scope == scope;
     if (styles.empty() || !isOfScope) {
         unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
         return;
     }
-    const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];
+    const StyleEntry& about = styleDescription(entry);
     StyleStore::Stored stored{entry,
                               command.find("Object") ? command.integer("Object") : -1,
                               command.find("Object2") ? command.integer("Object2") : -1,

@@ -14,14 +14,9 @@ namespace vantrix::kernel {
 
 namespace {
 
-const StyleEntry& description(long entry)
-{
-    return styleVocabulary()[static_cast<std::size_t>(entry)];
-}
-
 std::span<const StyleEnumerator> enumeratorsOf(long entry)
 {
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     return about.type == StyleType::Enumeration ? styleEnumeration(about.enumeration).enumerators
                                                 : std::span<const StyleEnumerator>();
 }
@@ -75,7 +70,7 @@ std::optional<StyleData> StyleActions::value(long entry, const MacroCommand& com
     const MacroValue* given = command.find("Value");
     const long* number = given ? std::get_if<long>(given) : nullptr;
     const auto* text = given ? std::get_if<std::string>(given) : nullptr;
-    switch (description(entry).type) {
+    switch (styleDescription(entry).type) {
     case StyleType::Flag:
     case StyleType::Integer:
         return number ? std::optional<StyleData>(*number) : std::nullopt;
@@ -107,7 +102,7 @@ bool StyleActions::run(const MacroCommand& command)
     }
     const std::optional<StyleData> given = value(entry, command);
     if (!given) {
-        throw DataError(stylePathText(entry) + " is " + styleTypeText(description(entry).type) + ", not " +
+        throw DataError(stylePathText(entry) + " is " + styleTypeText(styleDescription(entry).type) + ", not " +
                         (command.find("Value") ? macroText(*command.find("Value")) : "empty") + '.');
     }
     const SetValueReturnCode_e code =

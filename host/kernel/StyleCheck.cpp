@@ -96,7 +96,7 @@ const char* styleTypeText(StyleType type)
 
 StyleRefusal checkStyleValue(long entry, const StyleData& value)
 {
-    const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];
+    const StyleEntry& about = styleDescription(entry);
     const bool fits = about.type == StyleType::String   ? std::holds_alternative<std::string>(value)
                       : about.type == StyleType::Double ? std::holds_alternative<double>(value)
                                                         : std::holds_alternative<long>(value);
@@ -156,7 +156,7 @@ std::pair<long, long> styleOffsets(const StyleEntry& entry, std::size_t index)
 
 std::string badOffsetText(long entry, long offset1, long offset2, long zoneCount)
 {
-    const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];
+    const StyleEntry& about = styleDescription(entry);
     const std::array<long, 2> given{offset1, offset2};
     for (std::size_t i = 0; i < given.size(); ++i) {
         const StyleOffset& offset = styleOffset(about.offsets[i]);

@@ -80,7 +80,7 @@ std::string knownPartOfStylePath(const long* nameIds, std::size_t count)
 
 std::string stylePath(long entry)
 {
-    const StyleEntry& found = styleVocabulary()[static_cast<std::size_t>(entry)];
+    const StyleEntry& found = styleDescription(entry);
     std::string text;
     for (std::size_t i = 0; i < found.pathLength; ++i) {
         text += (i == 0 ? "" : "/") + std::string(styleNames()[static_cast<std::size_t>(found.path[i])]);

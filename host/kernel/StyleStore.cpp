@@ -1,21 +1,19 @@
 #include "kernel/StyleStore.h"
 
 #include "kernel/Document.h"
-#include "kernel/StateChanges.h"
 #include "kernel/StyleCheck.h"
+#include "kernel/StyleEdits.h"
+#include "kernel/StyleObjectsRemoved.h"
 #include "kernel/StylePath.h"
-#include "kernel/StyleValues.h"
+#include "kernel/StyleScopes.h"
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
 #include <limits>
 #include <map>
 #include <numeric>
-#include <set>
 #include <stdexcept>
 #include <string_view>
-#include <tuple>
-#include <unordered_map>
 
 namespace vantrix::kernel {
 
@@ -24,25 +22,14 @@ namespace {
 /* The highest zone number that style is kept for in a frame that has no data set yet. */
 constexpr long zoneLimitWithoutData = 100000;
 
-const StyleEntry& description(long entry)
-{
-    return styleVocabulary()[static_cast<std::size_t>(entry)];
-}
-
 bool isKnown(long entry)
 {
     return entry >= 0 && entry < static_cast<long>(styleVocabulary().size());
 }
 
-bool hasOffset(const StyleEntry& about, std::string_view offset)
-{
-    const StyleOffset& first = styleOffset(about.offsets[0]);
-    return first.kind != StyleOffset::Kind::None && first.name == offset;
-}
-
 std::string noContextText(long entry)
 {
-    const bool isOfPage = description(entry).scope == StyleScope::Page;
+    const bool isOfPage = styleDescription(entry).scope == StyleScope::Page;
     return stylePathText(entry) + " belongs to a " + (isOfPage ? "page" : "frame") + ", and there is none.";
 }
 
@@ -53,158 +40,24 @@ class StyleStore::Impl
 public:
     Impl(UndoStack& undo, StateChanges& changes)
         : m_undo(undo)
-        , m_changes(changes)
-        , m_stamps(styleVocabulary().size(), 1)
+        , m_scopes(changes)
     {}
 
     long activeScope(StyleScope scope) const;
     const DataSet* dataSet(long scopeId) const;
     long zoneLimit(long scopeId) const;
-    void readUnchecked(long scopeId, long entry, std::size_t index, StyleData& value) const;
     GetValueReturnCode_e get(long scopeId, long entry, long offset1, long offset2, StyleData& value) const;
     SetValueReturnCode_e set(long scopeId, long entry, const std::vector<long>& offsets1, long offset2,
                              const StyleData& value);
     void readOrDefault(long scopeId, long entry, long offset1, long offset2, StyleData& value) const;
     std::vector<long> objectsOf(long scopeId, const StyleEntry& about) const;
-    StyleValues& values(long scopeId, StyleScope scope);
-    void writeUnchecked(long scopeId, long entry, std::size_t index, const StyleData& value);
-    void announce(long entry, long object);
-    void touch(long scopeId, long entry);
     void record(long scopeId, long entry, std::size_t index, const StyleData& before, const StyleData& after);
-    void removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers);
-
-    class Edits;
-    class ObjectsRemoved;
 
     UndoStack& m_undo;
-    StateChanges& m_changes;
+    StyleScopes m_scopes;
     const Document* m_document = nullptr;
-    const std::array<StyleValues, 3> m_defaults{StyleValues(StyleScope::Process), StyleValues(StyleScope::Page),
-                                                StyleValues(StyleScope::Frame)};
-    std::unordered_map<long, std::unique_ptr<StyleValues>> m_scopes;
-    std::vector<unsigned long> m_stamps; /* one an entry */
-    unsigned long m_commonStamp = 0;     /* moves when any entry may have changed */
     std::map<long, Rule> m_rules;
     mutable std::string m_lastError;
-};
-
-/* All style values set in a row within one step: each with what it was before the first set and after the last. */
-class StyleStore::Impl::Edits : public UndoableChange
-{
-public:
-    explicit Edits(Impl& store)
-        : m_store(store)
-    {}
-
-    void add(long scopeId, long entry, std::size_t index, const StyleData& before, const StyleData& after)
-    {
-        const auto [found, isNew] = m_places.try_emplace({scopeId, entry, index}, m_edits.size());
-        if (isNew) {
-            m_edits.push_back({scopeId, entry, index, before, after});
-        } else {
-            m_edits[found->second].after = after;
-        }
-    }
-
-    void undo() override
-    {
-        for (auto edit = m_edits.rbegin(); edit != m_edits.rend(); ++edit) {
-            m_store.writeUnchecked(edit->scopeId, edit->entry, edit->index, edit->before);
-        }
-        announce();
-    }
-
-    void redo() override
-    {
-        for (const Edit& edit : m_edits) {
-            m_store.writeUnchecked(edit.scopeId, edit.entry, edit.index, edit.after);
-        }
-        announce();
-    }
-
-    std::size_t memory() const override { return m_edits.size() * (sizeof(Edit) + sizeof(Place) + 48); }
-
-private:
-    using Place = std::tuple<long, long, std::size_t>;
-    struct Edit
-    {
-        long scopeId;
-        long entry;
-        std::size_t index;
-        StyleData before;
-        StyleData after;
-    };
-
-    /* Once for each entry of a scope, however many objects it was set for. */
-    void announce()
-    {
-        std::map<std::pair<long, long>, long> objects;
-        for (const Edit& edit : m_edits) {
-            const bool isIndexed = description(edit.entry).offsets[0] != 0;
-            const long object = isIndexed ? static_cast<long>(edit.index) + 1 : 0;
-            const auto [found, isNew] = objects.try_emplace({edit.scopeId, edit.entry}, object);
-            if (!isNew) {
-                found->second = 0;
-            }
-        }
-        for (const auto& [key, object] : objects) {
-            m_store.announce(key.second, object);
-        }
-    }
-
-    Impl& m_store;
-    std::vector<Edit> m_edits;
-    std::map<Place, std::size_t> m_places;
-};
-
-/* The values of a frame as they were before objects went away. */
-class StyleStore::Impl::ObjectsRemoved : public UndoableChange
-{
-public:
-    ObjectsRemoved(Impl& store, long scopeId, std::string_view offset, std::vector<long> numbers, StyleValues before)
-        : m_store(store)
-        , m_scopeId(scopeId)
-        , m_offset(offset)
-        , m_numbers(std::move(numbers))
-        , m_before(std::move(before))
-    {}
-
-    void undo() override
-    {
-        StyleValues& values = m_store.values(m_scopeId, StyleScope::Frame);
-        values = m_before;
-        values.stamp = ++m_store.m_commonStamp;
-        announce();
-    }
-
-    void redo() override
-    {
-        m_store.removeObjects(m_scopeId, m_offset, m_numbers);
-        announce();
-    }
-
-    std::size_t memory() const override { return sizeof(StyleValues) + m_before.memory(); }
-
-private:
-    /* What the descriptions of the values announce besides `StateChange_Style`, once for each kind. */
-    void announce()
-    {
-        std::set<int> kinds;
-        for (const StyleEntry& about : styleVocabulary()) {
-            if (about.announces >= 0 && hasOffset(about, m_offset)) {
-                kinds.insert(about.announces);
-            }
-        }
-        for (const int kind : kinds) {
-            m_store.m_changes.send(VtxStateChange{static_cast<StateChange_e>(kind), -1, 0});
-        }
-    }
-
-    Impl& m_store;
-    long m_scopeId;
-    std::string_view m_offset;
-    std::vector<long> m_numbers;
-    StyleValues m_before;
 };
 
 long StyleStore::Impl::activeScope(StyleScope scope) const
@@ -235,23 +88,13 @@ long StyleStore::Impl::zoneLimit(long scopeId) const
     return data ? data->zoneCount() : zoneLimitWithoutData;
 }
 
-void StyleStore::Impl::readUnchecked(long scopeId, long entry, std::size_t index, StyleData& value) const
-{
-    const auto found = m_scopes.find(scopeId);
-    if (found != m_scopes.end()) {
-        found->second->read(entry, index, value);
-    } else {
-        m_defaults[static_cast<std::size_t>(description(entry).scope)].read(entry, index, value);
-    }
-}
-
 GetValueReturnCode_e StyleStore::Impl::get(long scopeId, long entry, long offset1, long offset2, StyleData& value) const
 {
     if (!isKnown(entry)) {
         m_lastError = "There is no style value number " + std::to_string(entry) + '.';
         return GetValueReturnCode_UnknownPath;
     }
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     if (scopeId < 0) {
         m_lastError = noContextText(entry);
         return GetValueReturnCode_NoContext;
@@ -263,14 +106,14 @@ GetValueReturnCode_e StyleStore::Impl::get(long scopeId, long entry, long offset
         m_lastError = badOffsetText(entry, offset1, offset2, zones);
         return GetValueReturnCode_BadOffset;
     }
-    readUnchecked(scopeId, entry, static_cast<std::size_t>(index), value);
+    m_scopes.read(scopeId, entry, static_cast<std::size_t>(index), value);
     return GetValueReturnCode_Ok;
 }
 
 void StyleStore::Impl::readOrDefault(long scopeId, long entry, long offset1, long offset2, StyleData& value) const
 {
     if (isKnown(entry) && get(scopeId, entry, offset1, offset2, value) != GetValueReturnCode_Ok) {
-        readUnchecked(-1, entry, 0, value);
+        m_scopes.readDefault(entry, 0, value);
     }
 }
 
@@ -295,7 +138,7 @@ SetValueReturnCode_e StyleStore::Impl::set(long scopeId, long entry, const std::
         m_lastError = "There is no style value number " + std::to_string(entry) + '.';
         return SetValueReturnCode_UnknownPath;
     }
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     if (scopeId < 0) {
         m_lastError = noContextText(entry);
         return SetValueReturnCode_NoContext;
@@ -325,76 +168,29 @@ SetValueReturnCode_e StyleStore::Impl::set(long scopeId, long entry, const std::
     bool changed = false;
     StyleData before;
     for (const std::size_t index : indices) {
-        readUnchecked(scopeId, entry, index, before);
+        m_scopes.read(scopeId, entry, index, before);
         if (before != value) {
-            writeUnchecked(scopeId, entry, index, value);
+            m_scopes.write(scopeId, entry, index, value);
             record(scopeId, entry, index, before, value);
             changed = true;
         }
     }
     if (changed) {
-        announce(entry, offsets1.size() == 1 && offsets1[0] > 0 ? offsets1[0] : 0);
+        m_scopes.announce(entry, offsets1.size() == 1 && offsets1[0] > 0 ? offsets1[0] : 0);
     }
     return SetValueReturnCode_Ok;
-}
-
-StyleValues& StyleStore::Impl::values(long scopeId, StyleScope scope)
-{
-    std::unique_ptr<StyleValues>& values = m_scopes[scopeId];
-    if (!values) {
-        values = std::make_unique<StyleValues>(scope);
-    }
-    return *values;
-}
-
-void StyleStore::Impl::writeUnchecked(long scopeId, long entry, std::size_t index, const StyleData& value)
-{
-    values(scopeId, description(entry).scope).write(entry, index, value);
-    touch(scopeId, entry);
-}
-
-void StyleStore::Impl::touch(long scopeId, long entry)
-{
-    ++m_stamps[static_cast<std::size_t>(entry)];
-    ++values(scopeId, description(entry).scope).stamp;
-}
-
-void StyleStore::Impl::announce(long entry, long object)
-{
-    m_changes.send(VtxStateChange{StateChange_Style, entry, object});
-    if (const int kind = description(entry).announces; kind >= 0) {
-        m_changes.send(VtxStateChange{static_cast<StateChange_e>(kind), -1, object});
-    }
 }
 
 void StyleStore::Impl::record(long scopeId, long entry, std::size_t index, const StyleData& before,
                               const StyleData& after)
 {
-    if (auto* edits = dynamic_cast<Edits*>(m_undo.lastOfStep())) {
+    if (auto* edits = dynamic_cast<StyleEdits*>(m_undo.lastOfStep())) {
         edits->add(scopeId, entry, index, before, after);
         return;
     }
-    auto edits = std::make_unique<Edits>(*this);
+    auto edits = std::make_unique<StyleEdits>(m_scopes);
     edits->add(scopeId, entry, index, before, after);
     m_undo.record(std::move(edits));
-}
-
-void StyleStore::Impl::removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers)
-{
-    StyleValues& frame = values(scopeId, StyleScope::Frame);
-    const auto entries = styleVocabulary();
-    for (long entry = 0; entry < static_cast<long>(entries.size()); ++entry) {
-        const StyleEntry& about = description(entry);
-        if (!hasOffset(about, offset)) {
-            continue;
-        }
-        const StyleOffset& second = styleOffset(about.offsets[1]);
-        const auto stride = static_cast<std::size_t>(second.kind == StyleOffset::Kind::None ? 1 : second.limit);
-        for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) {
-            frame.erase(entry, static_cast<std::size_t>(*number - 1) * stride, stride);
-        }
-    }
-    frame.stamp = ++m_commonStamp + frame.stamp;
 }
 
 StyleStore::StyleStore(UndoStack& undo, StateChanges& changes)
@@ -431,7 +227,7 @@ long StyleStore::entry(const char* path) const
 
 GetValueReturnCode_e StyleStore::get(long entry, long offset1, long offset2, StyleData& value) const
 {
-    const long scopeId = isKnown(entry) ? m_impl->activeScope(description(entry).scope) : -1;
+    const long scopeId = isKnown(entry) ? m_impl->activeScope(styleDescription(entry).scope) : -1;
     return m_impl->get(scopeId, entry, offset1, offset2, value);
 }
 
@@ -443,7 +239,7 @@ SetValueReturnCode_e StyleStore::set(long entry, long offset1, long offset2, con
 SetValueReturnCode_e StyleStore::setMany(long entry, const std::vector<long>& offsets1, long offset2,
                                          const StyleData& value)
 {
-    const long scopeId = isKnown(entry) ? m_impl->activeScope(description(entry).scope) : -1;
+    const long scopeId = isKnown(entry) ? m_impl->activeScope(styleDescription(entry).scope) : -1;
     return m_impl->set(scopeId, entry, offsets1, offset2, value);
 }
 
@@ -501,15 +297,14 @@ unsigned long StyleStore::changeStamp(long entry) const
     if (!isKnown(entry)) {
         return 0;
     }
-    const unsigned long own = m_impl->m_stamps[static_cast<std::size_t>(entry)] + m_impl->m_commonStamp;
-    const bool hasContext = description(entry).scope != StyleScope::Process && m_impl->m_document;
+    const unsigned long own = m_impl->m_scopes.stampOfEntry(entry);
+    const bool hasContext = styleDescription(entry).scope != StyleScope::Process && m_impl->m_document;
     return hasContext ? own + m_impl->m_document->contextStamp() : own;
 }
 
 unsigned long StyleStore::scopeStamp(long scopeId) const
 {
-    const auto found = m_impl->m_scopes.find(scopeId);
-    return found != m_impl->m_scopes.end() ? found->second->stamp : 0;
+    return m_impl->m_scopes.stampOfScope(scopeId);
 }
 
 void StyleStore::setRule(long entry, Rule rule)
@@ -521,7 +316,7 @@ void StyleStore::replaceForegroundColors(long scopeId, long from, long to)
 {
     const auto entries = styleVocabulary();
     for (long entry = 0; entry < static_cast<long>(entries.size()); ++entry) {
-        const StyleEntry& about = description(entry);
+        const StyleEntry& about = styleDescription(entry);
         if (about.color != StyleColor::Foreground || about.scope != StyleScope::Frame || about.offsets[1] != 0) {
             continue;
         }
@@ -541,51 +336,42 @@ void StyleStore::replaceForegroundColors(long scopeId, long from, long to)
 
 void StyleStore::removeObjects(long scopeId, std::string_view offset, const std::vector<long>& numbers)
 {
-    const auto found = m_impl->m_scopes.find(scopeId);
-    if (found == m_impl->m_scopes.end() || numbers.empty()) {
+    const StyleValues* values = m_impl->m_scopes.find(scopeId);
+    if (!values || numbers.empty()) {
         return;
     }
     std::vector<long> sorted = numbers;
     std::sort(sorted.begin(), sorted.end());
-    auto change = std::make_unique<Impl::ObjectsRemoved>(*m_impl, scopeId, offset, sorted, *found->second);
-    m_impl->removeObjects(scopeId, offset, sorted);
+    auto change = std::make_unique<StyleObjectsRemoved>(m_impl->m_scopes, scopeId, offset, sorted, *values);
+    m_impl->m_scopes.removeObjects(scopeId, offset, sorted);
     m_impl->m_undo.record(std::move(change));
 }
 
 void StyleStore::removeScope(long scopeId)
 {
-    m_impl->m_scopes.erase(scopeId);
-    ++m_impl->m_commonStamp;
+    m_impl->m_scopes.remove(scopeId);
 }
 
 void StyleStore::copyScope(long from, long to)
 {
-    const auto found = m_impl->m_scopes.find(from);
-    if (found != m_impl->m_scopes.end()) {
-        m_impl->m_scopes[to] = std::make_unique<StyleValues>(*found->second);
-    } else {
-        m_impl->m_scopes.erase(to);
-    }
-    ++m_impl->m_commonStamp;
+    m_impl->m_scopes.copy(from, to);
 }
 
 std::vector<StyleStore::Stored> StyleStore::storedValues(long scopeId) const
 {
     std::vector<Stored> stored;
-    const auto scope = m_impl->m_scopes.find(scopeId);
-    if (scope == m_impl->m_scopes.end()) {
+    const StyleValues* values = m_impl->m_scopes.find(scopeId);
+    if (!values) {
         return stored;
     }
     const auto entries = styleVocabulary();
-    const StyleScope kind = scope->second->scope();
-    const StyleValues& defaults = m_impl->m_defaults[static_cast<std::size_t>(kind)];
     StyleData value;
     StyleData missing;
     for (long entry = 0; entry < static_cast<long>(entries.size()); ++entry) {
-        const StyleEntry& about = description(entry);
-        for (std::size_t i = 0; about.scope == kind && i < scope->second->count(entry); ++i) {
-            scope->second->read(entry, i, value);
-            defaults.read(entry, i, missing);
+        const StyleEntry& about = styleDescription(entry);
+        for (std::size_t i = 0; about.scope == values->scope() && i < values->count(entry); ++i) {
+            values->read(entry, i, value);
+            m_impl->m_scopes.readDefault(entry, i, missing);
             const auto [offset1, offset2] = styleOffsets(about, i);
             const bool isThere =
                 styleOffset(about.offsets[0]).kind != StyleOffset::Kind::Zone || offset1 <= m_impl->zoneLimit(scopeId);
@@ -600,17 +386,16 @@ std::vector<StyleStore::Stored> StyleStore::storedValues(long scopeId) const
 void StyleStore::fillScope(long scopeId, const std::vector<Stored>& values)
 {
     for (const Stored& stored : values) {
-        const StyleEntry& about = description(stored.entry);
+        const StyleEntry& about = styleDescription(stored.entry);
         constexpr long anyZone = std::numeric_limits<int>::max();
         const long index = styleIndex(about, stored.offset1, stored.offset2, anyZone);
-        m_impl->writeUnchecked(scopeId, stored.entry, static_cast<std::size_t>(index), stored.value);
+        m_impl->m_scopes.write(scopeId, stored.entry, static_cast<std::size_t>(index), stored.value);
     }
 }
 
 void StyleStore::clear()
 {
     m_impl->m_scopes.clear();
-    ++m_impl->m_commonStamp;
 }
 
 const std::string& StyleStore::lastError() const

@@ -46,11 +46,6 @@ const Layout& layout()
     return instance;
 }
 
-const StyleEntry& description(long entry)
-{
-    return styleVocabulary()[static_cast<std::size_t>(entry)];
-}
-
 std::size_t slot(long entry)
 {
     return layout().slots[static_cast<std::size_t>(entry)];
@@ -108,7 +103,7 @@ StyleValues::Number StyleValues::defaultNumber(const StyleEntry& entry)
 
 void StyleValues::read(long entry, std::size_t index, StyleData& value) const
 {
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     const std::size_t at = slot(entry);
     if (isText(about)) {
         const auto* indexed = isIndexed(about) ? &m_texts.indexed[at] : nullptr;
@@ -128,7 +123,7 @@ void StyleValues::read(long entry, std::size_t index, StyleData& value) const
 
 void StyleValues::write(long entry, std::size_t index, const StyleData& value)
 {
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     const std::size_t at = slot(entry);
     if (isText(about)) {
         const std::string& text = std::get<std::string>(value);
@@ -154,7 +149,7 @@ void StyleValues::write(long entry, std::size_t index, const StyleData& value)
 
 std::size_t StyleValues::count(long entry) const
 {
-    const StyleEntry& about = description(entry);
+    const StyleEntry& about = styleDescription(entry);
     if (!isIndexed(about)) {
         return 1;
     }
@@ -163,7 +158,7 @@ std::size_t StyleValues::count(long entry) const
 
 void StyleValues::erase(long entry, std::size_t first, std::size_t count)
 {
-    if (isText(description(entry))) {
+    if (isText(styleDescription(entry))) {
         eraseIndexed(m_texts.indexed[slot(entry)], first, count);
     } else {
         eraseIndexed(m_numbers.indexed[slot(entry)], first, count);

@@ -83,6 +83,13 @@ struct StyleEntry
  */
 std::span<const char* const> styleNames();
 std::span<const StyleEntry> styleVocabulary();
+
+/* The description of an entry that there is. */
+inline const StyleEntry& styleDescription(long entry)
+{
+    return styleVocabulary()[static_cast<std::size_t>(entry)];
+}
+
 const StyleOffset& styleOffset(int index);
 const StyleEnumeration& styleEnumeration(int index);
 

@@ -102,7 +102,7 @@ const char* VtxUtilStateChangeGetStyleParam(VtxStateChangeHandle change, int ind
     if (change->styleEntry < 0) {
         return nullptr;
     }
-    const StyleEntry& entry = styleVocabulary()[static_cast<std::size_t>(change->styleEntry)];
+    const StyleEntry& entry = styleDescription(change->styleEntry);
     return index >= 1 && index <= entry.pathLength
                ? styleNames()[static_cast<std::size_t>(entry.path[static_cast<std::size_t>(index - 1)])]
                : nullptr;

@@ -74,7 +74,7 @@ constexpr const char* writeArguments = "\"Entry\", \"Offset1\", \"Offset2\", \"I
 
 std::string wrongTypeText(long entry)
 {
-    const StyleEntry& about = styleVocabulary()[static_cast<std::size_t>(entry)];
+    const StyleEntry& about = styleDescription(entry);
     return stylePathText(entry) + " is " + styleTypeText(about.type) + "; the arguments ask for another type.";
 }
 
