@@ -1,9 +1,7 @@
 #pragma once
 
 #include "property/ConnectOnce.h"
-#include "toolbox/StateChangeEventInterface.h"
-
-#include <boost/function.hpp>
+#include "sdk/StateChangeNotifierInterface.h"
 
 #include <memory>
 
@@ -14,16 +12,11 @@ namespace vantrix::sdk::integration {
 /// Slots are called in the order they were connected, on the thread of the user interface, once for each change. A slot
 /// may connect and disconnect; one that throws does not keep the change from the slots behind it, and the exception is
 /// shown in the host's status line.
-class StateChangeEventObservable
+class StateChangeEventObservable : public StateChangeNotifierInterface
 {
 public:
-    using Slot = boost::function<void(toolbox::StateChangeEventInterface const&)>;
-
     /// Lives as long as the process.
     static StateChangeEventObservable& getInstance();
-
-    StateChangeEventObservable(StateChangeEventObservable const&) = delete;
-    StateChangeEventObservable& operator=(StateChangeEventObservable const&) = delete;
 
     /// Connects a slot `void(toolbox::StateChangeEventInterface const&)`; a slot that equals it is disconnected first.
     template<typename AnySlot>
@@ -35,6 +28,8 @@ public:
         return connectAtBack(slot);
     }
 
+    boost::signals2::connection connectAtBack(Slot const& slot) override;
+
     /// Tells all slots; what the host's notification does.
     void notify(toolbox::StateChangeEventInterface const& event);
 
@@ -42,9 +37,8 @@ private:
     struct Signal;
 
     StateChangeEventObservable();
-    ~StateChangeEventObservable();
+    ~StateChangeEventObservable() override;
 
-    boost::signals2::connection connectAtBack(Slot const& slot);
     void disconnect(SlotEqualTo const& slot);
 
     std::unique_ptr<Signal> m_signal;

@@ -275,3 +275,18 @@ TEST_F(AxisEditRangePageTest, ControlsThatThePlotOrAxisHasNoUseForAreHidden)
     EXPECT_FALSE(isHidden(dialog, "axisEdit_RangeLogScale_ToggleButton"));
     EXPECT_TRUE(isHidden(dialog, "axisEdit_RangeAxisSpecTheta_Form"));
 }
+
+TEST_F(AxisEditRangePageTest, WhatDoesNothingToAPlotCannotBeChanged)
+{
+    auto const& dialog = openOn(PlotType_Cartesian3D);
+    EXPECT_FALSE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton"));
+    EXPECT_FALSE(isEnabled(dialog, "axisEdit_RangePreserveLength_ToggleButton"));
+    setPlotType(PlotType_PolarLine);
+    EXPECT_TRUE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton"));
+    EXPECT_FALSE(isEnabled(dialog, "axisEdit_RangePreserveLength_ToggleButton"));
+    for (PlotType_e const plotType : {PlotType_Cartesian2D, PlotType_XYLine, PlotType_Sketch}) {
+        setPlotType(plotType);
+        EXPECT_TRUE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton")) << plotType;
+        EXPECT_TRUE(isEnabled(dialog, "axisEdit_RangePreserveLength_ToggleButton")) << plotType;
+    }
+}

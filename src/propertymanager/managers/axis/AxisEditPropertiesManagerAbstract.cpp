@@ -31,11 +31,14 @@ public:
     explicit StateChangeListener(AxisEditPropertiesManagerAbstract& manager)
         : m_manager(manager)
         , m_connection(integration::StateChangeEventObservable::getInstance().connect(
-              [this](toolbox::StateChangeEventInterface const& event) { stateChanged(event); }))
+              [this](toolbox::StateChangeEventInterface const& event) {
+                  stateChanged(event, integration::StateChangeEventObservable::getInstance());
+              }))
     {}
 
 private:
-    void stateChanged(toolbox::StateChangeEventInterface const& event)
+    void stateChanged(toolbox::StateChangeEventInterface const& event,
+                      integration::StateChangeNotifierInterface& notifier)
     {
         if (event.kind() == StateChange_Quit || !contextIsValid()) {
             return;
@@ -44,7 +47,7 @@ private:
         if (isPlotType || event.kind() == StateChange_NewActiveFrame || event.kind() == StateChange_NewLayout) {
             m_manager.update();
         } else {
-            m_manager.onStateChange(event);
+            m_manager.onStateChange(event, notifier);
         }
     }
 
@@ -95,7 +98,9 @@ void AxisEditPropertiesManagerAbstract::update()
     }
 }
 
-void AxisEditPropertiesManagerAbstract::onStateChange(toolbox::StateChangeEventInterface const&) {}
+void AxisEditPropertiesManagerAbstract::onStateChange(toolbox::StateChangeEventInterface const&,
+                                                      integration::StateChangeNotifierInterface&)
+{}
 
 AxisEditPropertiesManagerAbstract::Relevance
 AxisEditPropertiesManagerAbstract::whileAxis(std::function<bool()> predicate)

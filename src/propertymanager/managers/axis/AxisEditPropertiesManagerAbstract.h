@@ -4,7 +4,7 @@
 #include "propertymanager/managers/axis/AxisEditPropertiesListenerInterface.h"
 #include "propertymanager/managers/axis/CurrentAxisProperty.h"
 #include "propertymanager/managers/axis/CurrentAxisRelevance.h"
-#include "toolbox/StateChangeEventInterface.h"
+#include "sdk/StateChangeNotifierInterface.h"
 
 #include <boost/make_shared.hpp>
 
@@ -35,7 +35,8 @@ public:
     virtual void update();
 
     /// Any state change that is no reason for update() by itself. Does nothing here.
-    virtual void onStateChange(toolbox::StateChangeEventInterface const& event);
+    virtual void onStateChange(toolbox::StateChangeEventInterface const& event,
+                               integration::StateChangeNotifierInterface& notifier);
 
 protected:
     /// @param properties  outlives the manager

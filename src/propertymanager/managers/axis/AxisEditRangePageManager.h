@@ -62,6 +62,9 @@ public:
     Relevance xyzDependentRelevance() const { return m_xyzDependent; }
     Relevance logScaleRelevance() const { return m_logScaleRelevance; }
     Relevance autoAdjustRelevance() const { return m_autoAdjustRelevance; }
+    /// Whether the length of an axis and its range can change without each other, and whether values can fall along it.
+    Relevance flatRelevance() const { return m_autoAdjustRelevance; }
+    Relevance reversibleRelevance() const { return m_reversibleRelevance; }
     Relevance flatDependencyRelevance() const { return m_flatDependencyRelevance; }
     Relevance threeDRelevance() const { return m_threeDRelevance; }
     Relevance polarRelevance() const { return m_polarRelevance; }
@@ -78,7 +81,8 @@ public:
     void reset3DScaleFactors();
 
     void update() override;
-    void onStateChange(toolbox::StateChangeEventInterface const& event) override;
+    void onStateChange(toolbox::StateChangeEventInterface const& event,
+                       integration::StateChangeNotifierInterface& notifier) override;
 
 private:
     static bool isXYLineAxisStateChange(toolbox::StateChangeEventInterface const& event);
@@ -116,6 +120,7 @@ private:
     Relevance m_xyzDependent;
     Relevance m_logScaleRelevance;
     Relevance m_autoAdjustRelevance;
+    Relevance m_reversibleRelevance;
     Relevance m_flatDependencyRelevance;
     Relevance m_threeDRelevance;
     Relevance m_polarRelevance;
