@@ -35,15 +35,17 @@ bool VtxUtilProbeIsCallbackInstalled(void);
 VtxProbeInfoHandle VtxUtilProbeInfoGet(void);
 void VtxUtilProbeInfoDealloc(VtxProbeInfoHandle* info);
 
-/* Probes again what `info` says, and calls `function` (may be null) with the client data of the installed one. False when it finds nothing. */
+/* Probes again what `info` says, and calls `function` (may be null) with the client data of the installed one. False
+ * when it finds nothing. */
 bool VtxUtilProbePerform(VtxProbeInfoHandle info, VtxProbeFunction function);
 
 /* The plot type that the last probe was made in; `PlotType_Sketch` when there was none. */
 PlotType_e VtxUtilProbeGetPlotType(void);
 
 /*
- * Probes of field plots. A position probe interpolates; it looks in the active zones, on the surfaces that the plot shows
- * or, with "SearchVolume", inside volume zones:
+ * Probes of field plots. A position probe interpolates; it looks in the active zones, on the surfaces that the plot
+ * shows or, with "SearchVolume", inside volume zones:
+ *
  *   "X" "Y" "Z"                    double  ("Z" in 3D plots)
  *   "SearchVolume"                 long    (optional, false)
  *   "NearestPoint"                 long    the nearest point instead of interpolating (optional, false)
@@ -56,9 +58,9 @@ bool VtxUtilProbeAtFieldPositionX(VtxArgListHandle arguments);
 bool VtxUtilProbeAtFieldIndexX(VtxArgListHandle arguments);
 
 /*
- * Probes of line plots. By position along an axis ("Position" double, "Axis" long: 'X', 'Y', 'T' or 'R', "AxisNum" long)
- * every active line map over that axis is interpolated; by index ("I", "J", "K", "LineMap" long) one point of one line
- * map is taken.
+ * Probes of line plots. By position along an axis ("Position" double, "Axis" long: 'X', 'Y', 'T' or 'R', "AxisNum"
+ * long) every active line map over that axis is interpolated, theta being the same a full circle on; by index ("I",
+ * "J", "K", "LineMap" long) one point of one line map is taken.
  */
 bool VtxUtilProbeAtLinePositionX(VtxArgListHandle arguments);
 bool VtxUtilProbeAtLineIndexX(VtxArgListHandle arguments);
@@ -68,7 +70,8 @@ ProbeSource_e VtxUtilProbeFieldGetCZType(void);
 long VtxUtilProbeFieldGetZone(void);
 bool VtxUtilProbeFieldGetName(char** name);
 
-/* The cell (from 1); of an ordered zone the number of its first corner among the zone's points. 0 for a probe by index. */
+/* The cell (from 1); of an ordered zone the number of its first corner among the zone's points. 0 for a probe by index.
+ */
 long VtxUtilProbeFieldGetCell(void);
 
 /* Which family of cells the probed cell of an ordered zone belongs to. */
@@ -102,8 +105,11 @@ long VtxUtilProbeFieldGetFaceNodeCount(long face);
 long VtxUtilProbeFieldGetFaceNode(long face, long corner);
 bool VtxUtilProbeFieldGetFaceNeighbor(long face, long* cell, long* zone);
 
-/* The result of the last line probe: the axis, the position on it, and of each line map (from 1) that was probed whether
- * it has a value there, its number, and the value on the other axis. */
+/* The face, from 1, of a volume's element that was probed on its surface; 0 for any other probe. */
+long VtxUtilProbeFieldGetFace(void);
+
+/* The result of the last line probe: the axis, the position on it, and of each line map (from 1) that was probed
+ * whether it has a value there, its number, and the value on the other axis. */
 char VtxUtilProbeLineGetAxis(void);
 int VtxUtilProbeLineGetAxisNumber(void);
 double VtxUtilProbeLineGetPosition(void);
@@ -118,11 +124,12 @@ bool VtxUtilProbeLineGetPickedValues(double* x, double* y);
 
 /*
  * Looks a position up without making it the probe's result: the values of all variables there go to `values`
- * (VtxUtilDataSetGetNumVars() doubles, or null; NaN where the zone does not have a variable in memory). The cell is told
- * by I, J and K, from 1, of its first corner and by its plane; that of a finite-element zone by its number in `iCell`,
- * the others being 1. `zones` restricts the search (null: the active ones). `startWithCell` takes what *zone, *iCell,
- * *jCell, *kCell and *plane hold as the place to begin from. `searchVolume`, `nearestPoint` as above; `zoneOnly` leaves
- * the values alone. Any pointer may be null. False when the position is outside the data; nothing is written then.
+ * (VtxUtilDataSetGetNumVars() doubles, or null; NaN where the zone does not have a variable in memory). The cell is
+ * told by I, J and K, from 1, of its first corner and by its plane; that of a finite-element zone by its number in
+ * `iCell`, the others being 1. `zones` restricts the search (null: the active ones). `startWithCell` takes what *zone,
+ * *iCell, *jCell, *kCell and *plane hold as the place to begin from. `searchVolume`, `nearestPoint` as above;
+ * `zoneOnly` leaves the values alone. Any pointer may be null. False when the position is outside the data; nothing is
+ * written then.
  */
 bool VtxUtilProbeAtPosition(double x, double y, double z, long* iCell, long* jCell, long* kCell, IJKPlanes_e* plane,
                             long* zone, bool startWithCell, double* values, VtxSetHandle zones, bool searchVolume,

@@ -1,5 +1,6 @@
 #include "view/FramePlot.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace vantrix::view {
@@ -32,8 +33,33 @@ std::optional<QPointF> FramePlot::placeOf(const Point3& data) const
     if (!x || !y) {
         return std::nullopt;
     }
-    return QPointF(area.left() + x->fraction(data[0]) * area.width(),
-                   area.bottom() - y->fraction(data[1]) * area.height());
+    return inArea(x->fraction(data[0]), y->fraction(data[1]));
+}
+
+std::optional<QPointF> FramePlot::placeOf(QPointF data, int xAxis, int yAxis) const
+{
+    const AxisScale* xScale = scale(0, xAxis);
+    const AxisScale* yScale = scale(1, yAxis);
+    if (polar || !xScale || !yScale) {
+        return placeOf({data.x(), data.y(), 0.0});
+    }
+    return inArea(xScale->fraction(data.x()), yScale->fraction(data.y()));
+}
+
+const AxisScale* FramePlot::scale(std::size_t kind, int number) const
+{
+    const auto more = std::find_if(moreScales.begin(), moreScales.end(),
+                                   [&](const MoreScale& each) { return each.kind == kind && each.number == number; });
+    if (more != moreScales.end()) {
+        return &more->scale;
+    }
+    const std::optional<AxisScale>& first = kind == 0 ? x : y;
+    return first ? &*first : nullptr;
+}
+
+QPointF FramePlot::inArea(double xFraction, double yFraction) const
+{
+    return {area.left() + xFraction * area.width(), area.bottom() - yFraction * area.height()};
 }
 
 QPointF FramePlot::onPicture(QPointF place) const

@@ -48,8 +48,19 @@ public:
      * nothing to measure by. */
     std::optional<QPointF> placeOf(const Point3& data) const;
 
+    /* The same of a point of a line map that is shown over the X and Y axes of these numbers. */
+    std::optional<QPointF> placeOf(QPointF data, int xAxis, int yAxis) const;
+
+    /* The X (0) or Y (1) axis of a number: of one that is not shown, the first. Null where there are none to measure
+     * by.
+     */
+    const AxisScale* scale(std::size_t kind, int number) const;
+
     /* Where on the picture of a 3D plot a place is: in picture widths from its middle, Y up. */
     QPointF onPicture(QPointF place) const;
+
+private:
+    QPointF inArea(double xFraction, double yFraction) const;
 };
 
 } // namespace vantrix::view

@@ -12,28 +12,52 @@
 #include <QPainter>
 #include <QPen>
 
+#include <algorithm>
+
 namespace vantrix::view {
 
 namespace {
 
 constexpr double markArm = 8.0; /* pixels */
 
-std::vector<Point3> placesOf(const kernel::LineProbeResult& line)
+const LineMapStyle* lineMap(const FramePlot& plot, long number)
 {
-    std::vector<Point3> places;
+    const auto& maps = plot.style.lineMaps;
+    const auto found =
+        std::find_if(maps.begin(), maps.end(), [number](const LineMapStyle& map) { return map.number == number; });
+    return found != maps.end() ? &*found : nullptr;
+}
+
+/* Where values of a line map are drawn, over its own axes; nothing of one that is not shown. */
+std::optional<QPointF> placeOnLine(const FramePlot& plot, long map, double x, double y)
+{
+    const LineMapStyle* shown = lineMap(plot, map);
+    return shown ? plot.placeOf(QPointF(x, y), shown->xAxis, shown->yAxis) : std::nullopt;
+}
+
+std::vector<std::optional<QPointF>> placesOf(const FramePlot& plot, const kernel::LineProbeResult& line)
+{
     if (line.pickedMap != 0) {
-        places.push_back({line.pickedX, line.pickedY, 0.0});
-        return places;
+        return {placeOnLine(plot, line.pickedMap, line.pickedX, line.pickedY)};
     }
+    std::vector<std::optional<QPointF>> places;
     const bool isAlongFirst = line.axis == 'X' || line.axis == 'T';
     for (const auto& map : line.values) {
-        if (map.value && isAlongFirst) {
-            places.push_back({line.position, *map.value, 0.0});
-        } else if (map.value) {
-            places.push_back({*map.value, line.position, 0.0});
+        if (map.value) {
+            places.push_back(isAlongFirst ? placeOnLine(plot, map.lineMap, line.position, *map.value)
+                                          : placeOnLine(plot, map.lineMap, *map.value, line.position));
         }
     }
     return places;
+}
+
+/* The first X axis that a line is shown over. */
+int firstUsedXAxis(const FramePlot& plot)
+{
+    const auto& maps = plot.style.lineMaps;
+    const auto first = std::min_element(maps.begin(), maps.end(),
+                                        [](const auto& one, const auto& other) { return one.xAxis < other.xAxis; });
+    return first != maps.end() ? first->xAxis : 1;
 }
 
 } // namespace
@@ -75,33 +99,34 @@ bool PlotProbe::perform(const FramePlot& plot, long frameId, QPointF place, bool
     if (isNearestPoint) {
         // Nearest is what looks nearest.
         using Place = kernel::LineNearestRequest::Place;
-        const auto placeOf = [&plot](double x, double y) -> std::optional<Place> {
-            const auto drawn = plot.placeOf({x, y, 0.0});
+        const auto placeOf = [&plot](long map, double x, double y) -> std::optional<Place> {
+            const auto drawn = placeOnLine(plot, map, x, y);
             return drawn ? std::optional(Place{drawn->x(), drawn->y()}) : std::nullopt;
         };
         return probes().perform(kernel::LineNearestRequest{{place.x(), place.y()}, placeOf});
     }
-    const char axis = plot.style.type == PlotType_PolarLine ? 'T' : 'X';
-    return probes().perform(kernel::LinePositionRequest{axis, 1, data->x()});
+    if (plot.polar) {
+        return probes().perform(kernel::LinePositionRequest{'T', 1, data->x()});
+    }
+    const int axis = firstUsedXAxis(plot);
+    const double position = plot.scale(0, axis)->value((place.x() - plot.area.left()) / plot.area.width());
+    return probes().perform(kernel::LinePositionRequest{'X', axis, position});
 }
 
 std::vector<QPointF> PlotProbe::probedPlaces() const
 {
     const kernel::Frame* frame = m_kernel.document().frameById(probes().frameId());
     const FramePlot* plot = frame ? m_renderer.plot(frame->id()) : nullptr;
-    std::vector<Point3> probed;
+    std::vector<std::optional<QPointF>> probed;
     if (plot && plot->style.type == probes().plotType()) {
         if (const kernel::FieldProbeResult* field = probes().fieldResult()) {
-            probed.push_back(field->position);
+            probed.push_back(plot->placeOf(field->position));
         } else if (const kernel::LineProbeResult* line = probes().lineResult()) {
-            if (line->axisNumber == 1) { // the plot is measured by its first axes
-                probed = placesOf(*line);
-            }
+            probed = placesOf(*plot, *line);
         }
     }
     std::vector<QPointF> places;
-    for (const Point3& point : probed) {
-        const auto place = plot->placeOf(point);
+    for (const auto& place : probed) {
         if (place && plot->area.contains(*place)) {
             places.push_back(m_renderer.frameRect(*frame).topLeft() + *place);
         }

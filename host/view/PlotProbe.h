@@ -27,8 +27,8 @@ public:
     {}
 
     /* Probes at a place in a frame (inches from its upper left corner): interpolates, or takes the nearest point. Of a
-     * 3D plot the surface seen there counts, of a line plot the place along X1 or theta. The status line tells when
-     * there is nothing. */
+     * 3D plot the surface seen there counts, of a line plot the place along theta or the first X axis in use. The
+     * status line tells when there is nothing. */
     void probe(const kernel::Frame& frame, QPointF place, bool isNearestPoint) const;
 
     /* Where on the page the last probe was made, in inches; of a line plot a place on each line. Empty where that is

@@ -1,5 +1,6 @@
 #include "view/WorkArea.h"
 #include "kernel/ApplicationLock.h"
+#include "kernel/DataSet.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
@@ -188,4 +189,31 @@ TEST(WorkArea, ProbesLinesAlongXOrTakesTheNearestPoint)
     QTest::mouseClick(&shown.area, Qt::LeftButton, Qt::ControlModifier, shown.place(0.4, 0.5));
     ASSERT_TRUE(sample.kernel.probes().lineResult());
     EXPECT_GT(sample.kernel.probes().lineResult()->point, 0);
+}
+
+TEST(WorkArea, ALineOverASecondAxisIsProbedAndMarkedWhereItIsDrawn)
+{
+    ShownSample sample("lines", PlotType_XYLine);
+    sample.set("LineMap/Assignment/YAxis", 2L, 2);
+    sample.set("XYLineAxis/YDetail/RangeMin", -100.0, 2);
+    sample.set("XYLineAxis/YDetail/RangeMax", 40.0, 2);
+    ShownWorkArea shown(sample);
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Probe));
+    const kernel::DataSet& data = *sample.frame().dataSet();
+    const view::FramePlot& plot = *shown.area.renderer().plot(sample.frame().id());
+    const view::LineMapStyle& map = plot.style.lineMaps[1];
+    ASSERT_EQ(map.yAxis, 2);
+    const QPointF values(data.field(map.zone, map.xVariable)->values->GetComponent(6, 0),
+                         data.field(map.zone, map.yVariable)->values->GetComponent(6, 0));
+    const QPointF frameCorner = shown.area.renderer().frameRect(sample.frame()).topLeft();
+    const QPointF drawn = frameCorner + *plot.placeOf(values, 1, 2);
+    EXPECT_GT((drawn - frameCorner - *plot.placeOf(values, 1, 1)).manhattanLength(), 0.5);
+    const QPoint click = shown.area.toWidget(drawn).toPoint();
+    const QRect around(click - QPoint(5, 5), QSize(11, 11));
+    const QImage before = shown.area.grab(around).toImage();
+    QTest::mouseClick(&shown.area, Qt::LeftButton, Qt::ControlModifier, click);
+    ASSERT_TRUE(sample.kernel.probes().lineResult());
+    EXPECT_EQ(sample.kernel.probes().lineResult()->pickedMap, 2);
+    EXPECT_EQ(sample.kernel.probes().lineResult()->point, 7);
+    EXPECT_NE(shown.area.grab(around).toImage(), before) << "marked there";
 }

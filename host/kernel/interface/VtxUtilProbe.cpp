@@ -305,8 +305,14 @@ bool VtxUtilProbeFieldGetFaceNeighbor(long number, long* neighborCell, long* zon
         return boundary::fail("The probed cell has no face " + std::to_string(number) + ".");
     }
     setIfNotNull(neighborCell, face(number)->neighbor);
-    setIfNotNull(zone, face(number)->neighbor != 0 ? field()->zone : 0);
+    const long otherZone = face(number)->neighborZone;
+    setIfNotNull(zone, face(number)->neighbor == 0 ? 0 : otherZone != 0 ? otherZone : field()->zone);
     return true;
+}
+
+long VtxUtilProbeFieldGetFace(void)
+{
+    return cell() ? cell()->face : 0;
 }
 
 char VtxUtilProbeLineGetAxis(void)

@@ -234,6 +234,35 @@ FieldProbeResult FieldProbe::newResult(long number) const
     return result;
 }
 
+/* Zones that meet share no points: behind a border face is the cell of another zone that has the same face. */
+void FieldProbe::findNeighborsInOtherZones(ProbedCell& cell, long zone)
+{
+    const int dimension = m_dataSet->zone(zone)->topologicalDimension();
+    const std::shared_ptr<ProbeMesh> own = mesh(zone, ProbeMesh::Part::Cells);
+    std::vector<std::pair<ProbedCell::Face*, std::vector<Position>>> borders;
+    for (ProbedCell::Face& face : cell.faces) {
+        if (face.neighbor == 0 && static_cast<int>(face.points.size()) >= dimension) {
+            borders.push_back({&face, own->pointsAt(face.points)});
+        }
+    }
+    for (long other = 1; !borders.empty() && other <= m_dataSet->zoneCount(); ++other) {
+        const Zone& otherZone = *m_dataSet->zone(other);
+        if (other == zone || !m_dataSet->zoneEnabled[static_cast<std::size_t>(other - 1)] ||
+            otherZone.topologicalDimension() != dimension) {
+            continue;
+        }
+        const std::shared_ptr<ProbeMesh> searched = mesh(other, ProbeMesh::Part::Cells);
+        std::erase_if(borders, [&](const auto& border) {
+            const long found = searched->cellWithCorners(border.second);
+            if (found >= 0) {
+                border.first->neighbor = searched->probedCell(otherZone, found).number;
+                border.first->neighborZone = other;
+            }
+            return found >= 0;
+        });
+    }
+}
+
 std::optional<FieldProbeResult> FieldProbe::probe(const FieldPositionRequest& request)
 {
     FieldPlace found;
@@ -246,6 +275,7 @@ std::optional<FieldProbeResult> FieldProbe::probe(const FieldPositionRequest& re
     result.point = request.isNearestPoint ? found.place.points.front() + 1 : 0;
     if (found.place.cell >= 0) {
         result.cell = found.mesh->probedCell(zone, found.place.cell);
+        findNeighborsInOtherZones(*result.cell, found.zone);
     }
     for (long variable = 1; variable <= m_dataSet->variableCount(); ++variable) {
         result.values.push_back(value(found, variable));

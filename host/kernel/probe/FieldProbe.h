@@ -103,6 +103,7 @@ private:
     std::shared_ptr<ProbeMesh> mesh(long zone, ProbeMesh::Part part);
     bool findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell);
     FieldProbeResult newResult(long zone) const;
+    void findNeighborsInOtherZones(ProbedCell& cell, long zone);
 
     const StyleStore& m_style;
     long m_frameId;

@@ -11,23 +11,28 @@ namespace vantrix::kernel {
 
 namespace {
 
-std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, double position)
+/* The position, or in a polar plot the same some circles on, if it is from `low` to `high`. */
+std::optional<double> positionBetween(double low, double high, double position, double period)
+{
+    if (period > 0.0) {
+        position += std::ceil((low - position) / period) * period;
+    }
+    return low <= position && position <= high ? std::optional(position) : std::nullopt;
+}
+
+/* `period` is that of the values along the line, 0 for none. */
+std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, double position, double period)
 {
     const vtkIdType count = std::min(along.GetNumberOfTuples(), values.GetNumberOfTuples());
     for (vtkIdType i = 0; i < count; ++i) {
         const double here = along.GetComponent(i, 0);
-        if (here == position) {
-            return values.GetComponent(i, 0);
+        const double next = i + 1 < count ? along.GetComponent(i + 1, 0) : here;
+        const auto met = positionBetween(std::min(here, next), std::max(here, next), position, period);
+        if (!met || (*met == next && next != here)) {
+            continue; // the next point is met by itself
         }
-        if (i + 1 == count) {
-            break;
-        }
-        const double next = along.GetComponent(i + 1, 0);
-        if ((here < position && position < next) || (next < position && position < here)) {
-            const double part = (position - here) / (next - here);
-            const double value = values.GetComponent(i, 0);
-            return value + part * (values.GetComponent(i + 1, 0) - value);
-        }
+        const double value = values.GetComponent(i, 0);
+        return *met == here ? value : value + (*met - here) / (next - here) * (values.GetComponent(i + 1, 0) - value);
     }
     return std::nullopt;
 }
@@ -40,6 +45,7 @@ LineProbe::LineProbe(StyleStore& style, const Frame& frame)
 {
     const long plotType = style.integer(frame.id(), style.entry("PlotType"));
     m_isPolar = plotType == PlotType_PolarLine;
+    m_thetaPeriod = m_isPolar ? style.real(frame.id(), style.entry("PolarAxis/ThetaPeriod")) : 0.0;
     if (!m_isPolar && plotType != PlotType_XYLine) {
         throw DataError("Line maps can be probed in an XY or polar line plot; the active frame has another.");
     }
@@ -99,7 +105,7 @@ std::optional<LineProbeResult> LineProbe::probe(const LinePositionRequest& reque
         if (shown.x) {
             vtkDataArray& along = isAlongX ? *shown.x->values : *shown.y->values;
             vtkDataArray& across = isAlongX ? *shown.y->values : *shown.x->values;
-            value.value = interpolated(along, across, request.position);
+            value.value = interpolated(along, across, request.position, isAlongX ? m_thetaPeriod : 0.0);
         }
         hasValue = hasValue || value.value;
         result.values.push_back(value);
@@ -161,8 +167,8 @@ std::optional<LineProbeResult> LineProbe::probe(const LineNearestRequest& reques
             continue;
         }
         for (long point = 0; point < shown.x->values->GetNumberOfTuples(); ++point) {
-            const auto drawn =
-                request.placeOf(shown.x->values->GetComponent(point, 0), shown.y->values->GetComponent(point, 0));
+            const auto drawn = request.placeOf(shown.number, shown.x->values->GetComponent(point, 0),
+                                               shown.y->values->GetComponent(point, 0));
             const double distance = drawn ? std::hypot((*drawn)[0] - request.place[0], (*drawn)[1] - request.place[1])
                                           : std::numeric_limits<double>::quiet_NaN();
             if (distance < smallest) {

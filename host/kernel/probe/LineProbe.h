@@ -33,7 +33,8 @@ struct LineNearestRequest
     using Place = std::array<double, 2>;
 
     Place place{0.0, 0.0};
-    std::function<std::optional<Place>(double x, double y)> placeOf; /* where values are drawn; nothing for nowhere */
+    /* Where values of a line map are drawn; nothing for nowhere. */
+    std::function<std::optional<Place>(long lineMap, double x, double y)> placeOf;
 };
 
 /* What a probe of a line plot found. */
@@ -59,7 +60,7 @@ struct LineProbeResult
 
 /*
  * Probes the line plot of one frame. Between its points a line is straight in the variables; where it passes a position
- * more than once, its first passage counts.
+ * more than once, its first passage counts. Theta is the same a full circle on.
  */
 class LineProbe
 {
@@ -89,6 +90,7 @@ private:
     LineMaps m_lineMaps;
     std::shared_ptr<const DataSet> m_dataSet;
     bool m_isPolar = false;
+    double m_thetaPeriod = 0.0;
 };
 
 } // namespace vantrix::kernel

@@ -5,6 +5,7 @@
 #include <vtkCellData.h>
 #include <vtkDataSetSurfaceFilter.h>
 #include <vtkIdList.h>
+#include <vtkMath.h>
 #include <vtkPointData.h>
 #include <vtkPolyData.h>
 #include <vtkStructuredGrid.h>
@@ -16,6 +17,9 @@
 namespace vantrix::kernel {
 
 namespace {
+
+/* Points of two zones that are no further apart, in sizes of a zone, are the same. */
+constexpr double samePlace = 1e-6;
 
 vtkSmartPointer<vtkDataSet> structureOf(vtkDataSet& grid)
 {
@@ -213,6 +217,35 @@ bool ProbeMesh::findNearestPoint(const Position& position, MeshPlace& place)
     return true;
 }
 
+long ProbeMesh::cellWithCorners(const std::vector<Position>& corners)
+{
+    const double tolerance = samePlace * size();
+    vtkNew<vtkIdList> points;
+    for (const Position& corner : corners) {
+        const vtkIdType point = isNear(corner, tolerance) ? pointLocator().FindClosestPoint(corner.data()) : -1;
+        if (point < 0 ||
+            vtkMath::Distance2BetweenPoints(corner.data(), m_shape->GetPoint(point)) > tolerance * tolerance) {
+            return -1;
+        }
+        points->InsertUniqueId(point);
+    }
+    if (points->GetNumberOfIds() != static_cast<vtkIdType>(corners.size())) {
+        return -1;
+    }
+    vtkNew<vtkIdList> cells;
+    m_shape->GetCellNeighbors(-1, points, cells);
+    return cells->GetNumberOfIds() > 0 ? static_cast<long>(cells->GetId(0)) : -1;
+}
+
+std::vector<Position> ProbeMesh::pointsAt(const std::vector<long>& points) const
+{
+    std::vector<Position> positions(points.size());
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        m_grid->GetPoint(points[i], positions[i].data());
+    }
+    return positions;
+}
+
 CellIndex ProbeMesh::cellIndex(const Zone& zone, long meshCell) const
 {
     CellIndex index;
@@ -251,7 +284,17 @@ ProbedCell ProbeMesh::probedCell(const Zone& zone, long meshCell) const
     if (zone.isOrdered()) {
         return ProbedCell::ofOrdered(zone, index);
     }
-    return ProbedCell::ofElement(*vtkUnstructuredGrid::SafeDownCast(m_grid), index.storage);
+    ProbedCell cell = ProbedCell::ofElement(*vtkUnstructuredGrid::SafeDownCast(m_grid), index.storage);
+    if (m_part == Part::Surface) {
+        vtkNew<vtkIdList> corners;
+        m_shape->GetCellPoints(meshCell, corners);
+        std::vector<long> points;
+        for (const vtkIdType corner : *corners) {
+            points.push_back(zonePoint(corner));
+        }
+        cell.face = cell.faceWith(points);
+    }
+    return cell;
 }
 
 long ProbeMesh::findCell(const Zone& zone, const CellIndex& index) const

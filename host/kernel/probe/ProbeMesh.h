@@ -56,6 +56,12 @@ public:
     /* Finds the point that is closest, and a cell that it is a corner of; the point counts for everything. */
     bool findNearestPoint(const Position& position, MeshPlace& place);
 
+    /* Whether it has a cell with corners at all of these positions: that cell, or -1. */
+    long cellWithCorners(const std::vector<Position>& corners);
+
+    /* Where points of the zone are. */
+    std::vector<Position> pointsAt(const std::vector<long>& points) const;
+
     /* The length of the diagonal of the box around the mesh. */
     double size() const;
 

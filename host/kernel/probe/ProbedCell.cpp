@@ -134,7 +134,7 @@ ProbedCell ProbedCell::ofOrdered(const Zone& zone, const CellIndex& index)
         for (const long side : {0L, 1L}) {
             Corner first = index.first;
             first[axis] += side;
-            Face face{boxCorners(zone, first, across), 0};
+            Face face{boxCorners(zone, first, across)};
             Corner behind = index.first;
             behind[axis] += side == 0 ? -1 : 1;
             if (behind[axis] >= 0 && behind[axis] < zone.dimensions()[axis] - 1) {
@@ -157,7 +157,7 @@ ProbedCell ProbedCell::ofElement(vtkUnstructuredGrid& grid, long element)
     vtkNew<vtkIdList> shared;
     vtkNew<vtkIdList> neighbors;
     for (int number = 0; number < faceCount(*generic); ++number) {
-        Face face{facePoints(*generic, number), 0};
+        Face face{facePoints(*generic, number)};
         const auto needed = static_cast<std::size_t>(generic->GetCellDimension());
         if (face.points.size() >= needed) {
             shared->Reset();
@@ -172,6 +172,14 @@ ProbedCell ProbedCell::ofElement(vtkUnstructuredGrid& grid, long element)
         cell.faces.push_back(std::move(face));
     }
     return cell;
+}
+
+long ProbedCell::faceWith(const std::vector<long>& points) const
+{
+    const auto found = std::find_if(faces.begin(), faces.end(), [&](const Face& each) {
+        return std::is_permutation(points.begin(), points.end(), each.points.begin(), each.points.end());
+    });
+    return found != faces.end() ? found - faces.begin() + 1 : 0;
 }
 
 } // namespace vantrix::kernel

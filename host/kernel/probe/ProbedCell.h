@@ -26,7 +26,8 @@ struct ProbedCell
     struct Face
     {
         std::vector<long> points;
-        long neighbor = 0; /* number of the cell behind it; 0 at the border */
+        long neighbor = 0;     /* number of the cell behind it; 0 at the border */
+        long neighborZone = 0; /* 0 where that is the same one */
     };
 
     /* From 1; of an ordered zone that of its first corner among the points of the zone. */
@@ -34,6 +35,10 @@ struct ProbedCell
     CellIndex index;
     std::vector<long> corners;
     std::vector<Face> faces; /* of a flat cell its edges, of a line its ends */
+    long face = 0;           /* of an element of a volume the face that was met, from 1; 0 for its inside */
+
+    /* The face that has these points, in any order; 0 where there is none. */
+    long faceWith(const std::vector<long>& points) const;
 
     /* `grid` is the zone's, and builds its links when it has none yet. */
     static ProbedCell ofElement(vtkUnstructuredGrid& grid, long element);
