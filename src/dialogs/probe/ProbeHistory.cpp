@@ -1,23 +1,12 @@
 #include "dialogs/probe/ProbeHistory.h"
 
 #include "api/VtxUtil.h"
-#include "dialogs/probe/ProbeQueries.h"
 #include "dialogs/probe/ProbeTables.h"
 #include "sdk/AppLock.h"
-#include "toolbox/HostString.h"
 
 #include <algorithm>
 
 namespace vantrix::sdk::ui::dialogs {
-
-namespace {
-
-std::shared_ptr<VtxProbeInfo> ownedInfo()
-{
-    return {VtxUtilProbeInfoGet(), [](VtxProbeInfoHandle info) { VtxUtilProbeInfoDealloc(&info); }};
-}
-
-} // namespace
 
 ProbeHistory& ProbeHistory::getInstance()
 {
@@ -25,36 +14,18 @@ ProbeHistory& ProbeHistory::getInstance()
     return history;
 }
 
-ProbeRecord ProbeHistory::lastProbe()
-{
-    ProbeRecord record;
-    record.dataSet = VtxUtilDataSetGetUniqueID();
-    record.item = QString::fromStdString(GetProbedItemName());
-    VtxUtilProbeFieldGetPosition(&record.position[0], &record.position[1], &record.position[2]);
-    for (VarValue_s const& value : GetFieldVarValuesForLastProbe()) {
-        if (value.isValid) {
-            char* name = nullptr;
-            VtxUtilVarGetName(value.variable, &name);
-            record.values[QString::fromStdString(toolbox::takeHostString(name))] = value.value;
-        }
-    }
-    record.info = ownedInfo();
-    return record;
-}
-
 void ProbeHistory::addLastProbe()
 {
-    AppLock const lock(false);
-    if (VtxUtilProbeFieldGetZone() == 0) {
+    std::optional<ProbeRecord> found = ProbeRecord::ofLastProbe();
+    if (!found) {
         return;
     }
-    ProbeRecord record = lastProbe();
-    record.number = ++m_count;
-    addVariablesOf(record);
+    found->number = ++m_count;
+    addVariablesOf(*found);
     dropOldest();
     int const row = rowCount();
     beginInsertRows({}, row, row);
-    m_records.push_back(std::move(record));
+    m_records.push_back(std::move(*found));
     endInsertRows();
 }
 
@@ -84,7 +55,7 @@ void ProbeHistory::dropOldest()
 std::pair<int, int> ProbeHistory::probeAgain()
 {
     AppLock const lock(false);
-    std::shared_ptr<VtxProbeInfo> const last = ownedInfo();
+    VtxProbeInfoHandle last = VtxUtilProbeInfoGet();
     long const dataSet = VtxUtilDataSetGetUniqueID();
     int probed = 0;
     int lost = 0;
@@ -93,17 +64,21 @@ std::pair<int, int> ProbeHistory::probeAgain()
             continue;
         }
         ++probed;
-        if (!VtxUtilProbePerform(record.info.get(), nullptr) || VtxUtilProbeFieldGetZone() == 0) {
+        std::optional<ProbeRecord> again;
+        if (VtxUtilProbePerform(record.info.get(), nullptr)) {
+            again = ProbeRecord::ofLastProbe();
+        }
+        if (!again) {
             ++lost;
             continue;
         }
-        ProbeRecord again = lastProbe();
-        again.number = record.number;
-        again.isPinned = record.isPinned;
-        record = std::move(again);
+        again->number = record.number;
+        again->isPinned = record.isPinned;
+        record = std::move(*again);
         addVariablesOf(record);
     }
-    VtxUtilProbePerform(last.get(), nullptr);
+    VtxUtilProbePerform(last, nullptr);
+    VtxUtilProbeInfoDealloc(&last);
     if (rowCount() > 0) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
     }
@@ -153,7 +128,8 @@ QVariant ProbeHistory::data(QModelIndex const& index, int role) const
         return record.item;
     }
     if (column < FirstValueColumn) {
-        return probetables::exactText(record.position[static_cast<std::size_t>(column - XColumn)]);
+        auto const& coordinate = record.position[static_cast<std::size_t>(column - XColumn)];
+        return coordinate ? probetables::exactText(*coordinate) : QString();
     }
     auto const value = record.values.find(m_variables[static_cast<std::size_t>(column - FirstValueColumn)]);
     return value != record.values.end() ? probetables::exactText(value->second) : QString();

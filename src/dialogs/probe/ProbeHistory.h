@@ -1,31 +1,15 @@
 #pragma once
 
-#include "api/VtxUtilProbe.h"
+#include "dialogs/probe/ProbeRecord.h"
 
 #include <QAbstractTableModel>
 
-#include <array>
-#include <map>
-#include <memory>
-#include <optional>
 #include <vector>
 
 namespace vantrix::sdk::ui::dialogs {
 
-/// One probe of a field plot, with what it found then.
-struct ProbeRecord
-{
-    long number = 0; ///< from 1 in the session
-    bool isPinned = false;
-    long dataSet = 0; ///< its unique identifier
-    QString item;     ///< "Zone 1: Wing"
-    std::array<double, 3> position{0.0, 0.0, 0.0};
-    std::map<QString, double> values; ///< of the variables that had one
-    std::shared_ptr<VtxProbeInfo> info;
-};
-
-/// The probes of field plots of the session as a table, the last one at the end: its number and whether it is pinned,
-/// the item, the position, the values. Only as many as `largestCount` are kept; those that are pinned always stay.
+/// The probes of the session as a table, the last one at the end: its number and whether it is pinned, the item, the
+/// position, the values. Only as many as `largestCount` are kept; those that are pinned always stay.
 class ProbeHistory : public QAbstractTableModel
 {
     Q_OBJECT
@@ -57,7 +41,7 @@ public:
 
     ProbeRecord const& record(int row) const { return m_records[static_cast<std::size_t>(row)]; }
 
-    /// The variables that any of the probes has a value of, in the order of the columns.
+    /// The variables and line maps that any of the probes has a value of, in the order of the columns.
     std::vector<QString> const& variables() const { return m_variables; }
 
     int rowCount(QModelIndex const& parent = {}) const override;
@@ -69,7 +53,6 @@ public:
 
 private:
     ProbeHistory() = default;
-    static ProbeRecord lastProbe();
     void addVariablesOf(ProbeRecord const& record);
     void dropOldest();
 

@@ -18,7 +18,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include <cmath>
+#include <algorithm>
 
 namespace vantrix::sdk::ui::dialogs {
 
@@ -162,9 +162,9 @@ void ProbeHistoryDialog::Impl::compare()
     }
     ProbeRecord const& first = m_history.record(rows[0]);
     ProbeRecord const& second = m_history.record(rows[1]);
-    double const distance = std::hypot(second.position[0] - first.position[0], second.position[1] - first.position[1],
-                                       second.position[2] - first.position[2]);
-    m_comparison->setText(tr("Distance: %1").arg(probetables::exactText(distance)));
+    std::optional<double> const distance = first.distanceTo(second);
+    m_comparison->setText(distance ? tr("Distance: %1").arg(probetables::exactText(*distance))
+                                   : tr("These probes have no distance: their coordinates are not the same lengths."));
     m_differences->setHorizontalHeaderLabels(
         {tr("Variable"), tr("Probe %1").arg(first.number), tr("Probe %1").arg(second.number), tr("Difference")});
     for (QString const& variable : m_history.variables()) {

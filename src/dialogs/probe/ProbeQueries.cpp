@@ -5,6 +5,9 @@
 #include "toolbox/HostString.h"
 #include "toolbox/Set.h"
 
+#include <QCoreApplication>
+#include <QString>
+
 #include <array>
 #include <cstdio>
 
@@ -14,11 +17,9 @@ namespace {
 
 using toolbox::takeHostString;
 
-std::string lineMapName(long lineMap)
+QString tr(char const* text)
 {
-    char* name = nullptr;
-    VtxUtilLineMapGetName(lineMap, &name);
-    return takeHostString(name);
+    return QCoreApplication::translate("ProbeWidget", text);
 }
 
 ZoneType_e probedZoneType()
@@ -31,20 +32,16 @@ IJK_s indicesOf(long point, long iMax, long jMax)
     return {(point - 1) % iMax + 1, (point - 1) / iMax % jMax + 1, (point - 1) / iMax / jMax + 1};
 }
 
-std::string assigned(char name, long value)
-{
-    return std::string(1, name) + " = " + std::to_string(value);
-}
-
 FaceInfo_s faceIn(IJKPlanes_e plane, IJK_s const& at)
 {
+    auto const text = [](QString const& translated) { return translated.toStdString(); };
     switch (plane) {
     case IJKPlanes_I:
-        return {"I-Plane", assigned('I', at.i), assigned('J', at.j) + '\n' + assigned('K', at.k)};
+        return {"I-Plane", text(tr("I = %1").arg(at.i)), text(tr("J = %1\nK = %2").arg(at.j).arg(at.k))};
     case IJKPlanes_J:
-        return {"J-Plane", assigned('J', at.j), assigned('I', at.i) + '\n' + assigned('K', at.k)};
+        return {"J-Plane", text(tr("J = %1").arg(at.j)), text(tr("I = %1\nK = %2").arg(at.i).arg(at.k))};
     case IJKPlanes_K:
-        return {"K-Plane", assigned('K', at.k), assigned('I', at.i) + '\n' + assigned('J', at.j)};
+        return {"K-Plane", text(tr("K = %1").arg(at.k)), text(tr("I = %1\nJ = %2").arg(at.i).arg(at.j))};
     default:
         return {"Unknown", {}, {}};
     }
@@ -233,7 +230,7 @@ std::vector<LineMapValue_s> GetLineProbeDependentValues()
     std::vector<LineMapValue_s> values;
     for (long index = 1; index <= VtxUtilProbeLineGetMapCount(); ++index) {
         long const map = VtxUtilProbeLineGetMap(index);
-        LineMapValue_s row{static_cast<int>(map), lineMapName(map), false, 0.0};
+        LineMapValue_s row{static_cast<int>(map), false, 0.0};
         row.isValid = VtxUtilProbeLineGetValue(index, &row.value);
         values.push_back(std::move(row));
     }

@@ -52,8 +52,7 @@ struct FaceNeighbor_s
 /// What a line probe found of a line map.
 struct LineMapValue_s
 {
-    int lineMap; ///< from 1
-    std::string name;
+    int lineMap;  ///< from 1
     bool isValid; ///< whether the line reaches the position
     double value; ///< on the axis across the probed one
 };

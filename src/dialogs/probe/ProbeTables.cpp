@@ -83,6 +83,9 @@ void addElementFaces(RowWriter& rows)
 {
     std::vector<PolyFaceInfo_s> const faces = GetProbedPolytopeFaceNodes();
     rows.add(tr("Num Faces"), static_cast<long>(faces.size()));
+    if (long const current = VtxUtilProbeFieldGetFace()) {
+        rows.add(tr("Current Face"), current);
+    }
     for (PolyFaceInfo_s const& face : faces) {
         QStringList nodes;
         for (long const node : face.nodes) {
@@ -117,6 +120,11 @@ void addElement(RowWriter& rows, bool isNearestPoint, ZoneType_e type)
     }
 }
 
+QString numberedAxisCaption(char axis, int number)
+{
+    return tr("%1%2:").arg(QLatin1Char(axis)).arg(number);
+}
+
 QString acrossHeader(char probedAxis)
 {
     switch (probedAxis) {
@@ -138,18 +146,31 @@ QString exactText(double value)
     return QString::asprintf("%.18g", value);
 }
 
-QString axisCaption()
+QString axisName()
 {
     switch (VtxUtilProbeLineGetAxis()) {
     case 'T':
-        return tr("Theta:");
+        return tr("Theta");
     case 'R':
-        return tr("R:");
+        return tr("R");
     case 'Y':
-        return tr("%1:").arg(tr("Y%1").arg(VtxUtilProbeLineGetAxisNumber()));
+        return tr("Y%1").arg(VtxUtilProbeLineGetAxisNumber());
     default:
-        return tr("%1:").arg(tr("X%1").arg(VtxUtilProbeLineGetAxisNumber()));
+        return tr("X%1").arg(VtxUtilProbeLineGetAxisNumber());
     }
+}
+
+QString axisCaption()
+{
+    char const axis = VtxUtilProbeLineGetAxis();
+    return axis == 'T' || axis == 'R' ? axisName() + u':' : numberedAxisCaption(axis, VtxUtilProbeLineGetAxisNumber());
+}
+
+QString lineMapText(long lineMap)
+{
+    char* name = nullptr;
+    VtxUtilLineMapGetName(lineMap, &name);
+    return QStringLiteral("%1: %2").arg(lineMap).arg(QString::fromStdString(toolbox::takeHostString(name)));
 }
 
 void fillZoneInfo(QTableWidget& table)
@@ -204,8 +225,7 @@ void fillInterpolatedValues(QTableWidget& table)
     table.setHorizontalHeaderLabels({tr("Item"), acrossHeader(VtxUtilProbeLineGetAxis())});
     RowWriter rows(table);
     for (LineMapValue_s const& map : GetLineProbeDependentValues()) {
-        QString const name = QStringLiteral("%1: %2").arg(map.lineMap).arg(QString::fromStdString(map.name));
-        rows.add({name, map.isValid ? exactText(map.value) : tr("N/A")});
+        rows.add({lineMapText(map.lineMap), map.isValid ? exactText(map.value) : tr("N/A")});
     }
 }
 
@@ -219,13 +239,11 @@ void fillSpecificValues(QTableWidget& table)
     int yAxis = 1;
     VtxUtilProbeLineGetPickedValues(&x, &y);
     VtxUtilLineMapGetAssignment(map, nullptr, nullptr, nullptr, &xAxis, &yAxis);
-    char* name = nullptr;
-    VtxUtilLineMapGetName(map, &name);
     RowWriter rows(table);
-    rows.add(tr("Line Map"), std::to_string(map) + ": " + toolbox::takeHostString(name));
+    rows.add({tr("Line Map"), lineMapText(map)});
     rows.add(tr("Point"), VtxUtilProbeLineGetPoint());
-    rows.add({isPolar ? tr("Theta-Value") : tr("%1:").arg(tr("X%1").arg(xAxis)), exactText(x)});
-    rows.add({isPolar ? tr("R-Value") : tr("%1:").arg(tr("Y%1").arg(yAxis)), exactText(y)});
+    rows.add({isPolar ? tr("Theta-Value") : numberedAxisCaption('X', xAxis), exactText(x)});
+    rows.add({isPolar ? tr("R-Value") : numberedAxisCaption('Y', yAxis), exactText(y)});
 }
 
 } // namespace vantrix::sdk::ui::dialogs::probetables

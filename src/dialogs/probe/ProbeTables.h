@@ -20,8 +20,12 @@ void fillFaceNeighbors(QTableWidget& table);
 void fillInterpolatedValues(QTableWidget& table);
 void fillSpecificValues(QTableWidget& table);
 
-/// The axis that a line probe was along: "X1:", "Theta:".
+/// The axis that a line probe was along: "X1", "Theta"; as the caption of its value "X1:".
+QString axisName();
 QString axisCaption();
+
+/// "2: Lift".
+QString lineMapText(long lineMap);
 
 /// A number with 18 significant digits.
 QString exactText(double value);

@@ -54,6 +54,29 @@ protected:
         return isFound;
     }
 
+    static bool probeLineAt(char axis, double position)
+    {
+        sdk::AppLock const lock(false);
+        toolbox::ArgList arguments;
+        arguments.appendDouble("Position", position);
+        arguments.appendArbParam("Axis", axis);
+        arguments.appendArbParam("AxisNum", 1);
+        bool const isFound = VtxUtilProbeAtLinePositionX(arguments.handle());
+        idle();
+        return isFound;
+    }
+
+    static bool probeLinePoint(long i, long lineMap)
+    {
+        sdk::AppLock const lock(false);
+        toolbox::ArgList arguments;
+        arguments.appendArbParam("I", i);
+        arguments.appendArbParam("LineMap", lineMap);
+        bool const isFound = VtxUtilProbeAtLineIndexX(arguments.handle());
+        idle();
+        return isFound;
+    }
+
     static void changeVariable(std::size_t zone, std::size_t variable, double factor)
     {
         {

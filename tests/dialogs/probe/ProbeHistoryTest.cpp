@@ -76,6 +76,37 @@ TEST_F(ProbeHistoryTest, ProbesAreListedAndTwoOfThemCompared)
     EXPECT_EQ(text(0, ProbeHistory::XColumn), "4");
 }
 
+TEST_F(ProbeHistoryTest, ProbesOfLinesAreListedByMapAndByPoint)
+{
+    open("lines");
+    ASSERT_TRUE(probeLineAt('X', 1.5));
+    ASSERT_TRUE(probeLineAt('X', 2.25));
+    ASSERT_TRUE(probeLinePoint(4, 2));
+    ASSERT_EQ(history().rowCount(), 3);
+    EXPECT_EQ(text(0, ProbeHistory::ItemColumn), "X1");
+    EXPECT_EQ(text(0, ProbeHistory::XColumn), "1.5");
+    EXPECT_EQ(text(0, ProbeHistory::YColumn), "") << "every line has a value of its own";
+    double y = 0.0;
+    EXPECT_EQ(history().record(1).values.size(), std::size_t(VtxUtilLineMapGetCount()));
+    ASSERT_TRUE(VtxUtilProbeLineGetPickedValues(nullptr, &y));
+    EXPECT_THAT(text(2, ProbeHistory::ItemColumn), testing::MatchesRegex("Line map 2: .*, point 4"));
+    EXPECT_EQ(history().record(2).position[1], y);
+
+    auto& dialog = launch<ProbeHistoryDialog>();
+    auto& list = find<QTableView>(dialog, "probeHistory_tableView");
+    auto const comparison = [&](int first, int second) {
+        list.selectRow(first);
+        list.selectionModel()->select(history().index(second, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        return find<QLabel>(dialog, "probeHistory_comparison_label").text().toStdString();
+    };
+    EXPECT_EQ(comparison(0, 1), "Distance: 0.75");
+    EXPECT_EQ(table(dialog, "probeHistory_differences_tableWidget").rowCount(), VtxUtilLineMapGetCount());
+    EXPECT_THAT(comparison(0, 2), testing::HasSubstr("no distance"));
+    press(dialog, "probeHistory_probeAgain_pushButton");
+    EXPECT_THAT(frontEnd.messages, testing::IsEmpty());
+}
+
 TEST_F(ProbeHistoryTest, ProbingAgainTakesTheDataOfNowAndLeavesTheLastProbe)
 {
     ASSERT_TRUE(probeIndex(2, 2, 1));

@@ -257,15 +257,7 @@ TEST_F(ProbeDialogsTest, LineMapsAreShownInterpolatedOrByPoint)
     open("lines");
     auto& dialog = launch<ProbeDialog>();
     double const middle = (stored(1, 1, 5) + stored(1, 1, 6)) / 2;
-    {
-        sdk::AppLock const lock(false);
-        toolbox::ArgList arguments;
-        arguments.appendDouble("Position", middle);
-        arguments.appendArbParam("Axis", 'X');
-        arguments.appendArbParam("AxisNum", 1);
-        ASSERT_TRUE(VtxUtilProbeAtLinePositionX(arguments.handle()));
-    }
-    idle();
+    ASSERT_TRUE(probeLineAt('X', middle));
     EXPECT_EQ(pageOf(dialog, "stackedWidget"), "lineProbe_page");
     EXPECT_EQ(pageOf(dialog, "lineProbe_stackedWidget"), "interpolatedValues_page");
     EXPECT_EQ(find<QLabel>(dialog, "independentAxis_label").text(), QStringLiteral("X1:"));
@@ -274,19 +266,30 @@ TEST_F(ProbeDialogsTest, LineMapsAreShownInterpolatedOrByPoint)
     EXPECT_EQ(lines.rowCount(), VtxUtilLineMapGetCount());
     EXPECT_EQ(lines.horizontalHeaderItem(1)->text(), QStringLiteral("Y-Value"));
     EXPECT_EQ(cell(lines, 0, 1), exact((stored(1, 2, 5) + stored(1, 2, 6)) / 2));
-    {
-        sdk::AppLock const lock(false);
-        toolbox::ArgList arguments;
-        arguments.appendArbParam("I", 7);
-        arguments.appendArbParam("LineMap", 1);
-        ASSERT_TRUE(VtxUtilProbeAtLineIndexX(arguments.handle()));
-    }
-    idle();
+    ASSERT_TRUE(probeLinePoint(7, 1));
     EXPECT_EQ(pageOf(dialog, "lineProbe_stackedWidget"), "specificValues_page");
     auto& point = table(dialog, "specificValues_tableWidget");
     EXPECT_EQ(valueOf(point, "Point"), "7");
     EXPECT_EQ(valueOf(point, "X1:"), exact(stored(1, 1, 7)));
     EXPECT_EQ(valueOf(point, "Y1:"), exact(stored(1, 2, 7)));
+}
+
+TEST_F(ProbeDialogsTest, APolarPlotTellsThetaAndR)
+{
+    open("lines");
+    setStyle({"PlotType"}, long{PlotType_PolarLine});
+    auto& dialog = launch<ProbeDialog>();
+    ASSERT_TRUE(probeLineAt('T', stored(1, 1, 5)));
+    EXPECT_EQ(find<QLabel>(dialog, "independentAxis_label").text(), QStringLiteral("Theta:"));
+    auto& lines = table(dialog, "interpolatedValues_tableWidget");
+    EXPECT_EQ(lines.horizontalHeaderItem(1)->text(), QStringLiteral("R-Value"));
+    EXPECT_EQ(cell(lines, 0, 1), exact(stored(1, 2, 5)));
+    ASSERT_TRUE(probeLineAt('R', stored(1, 2, 5)));
+    EXPECT_EQ(lines.horizontalHeaderItem(1)->text(), QStringLiteral("Theta-Value"));
+    ASSERT_TRUE(probeLinePoint(7, 1));
+    auto& point = table(dialog, "specificValues_tableWidget");
+    EXPECT_EQ(valueOf(point, "Theta-Value"), exact(stored(1, 1, 7)));
+    EXPECT_EQ(valueOf(point, "R-Value"), exact(stored(1, 2, 7)));
 }
 
 } // namespace
