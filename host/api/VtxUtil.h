@@ -18,6 +18,7 @@
 #include "api/VtxUtilDialog.h"
 #include "api/VtxUtilDocument.h"
 #include "api/VtxUtilFrame.h"
+#include "api/VtxUtilGeometry.h"
 #include "api/VtxUtilLineMap.h"
 #include "api/VtxUtilPick.h"
 #include "api/VtxUtilProbe.h"

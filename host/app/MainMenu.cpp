@@ -3,6 +3,7 @@
 #include "app/FrameMenu.h"
 #include "app/HelpWindow.h"
 #include "app/HistoryActions.h"
+#include "app/InsertMenu.h"
 #include "app/LayoutFiles.h"
 #include "app/MacroMenu.h"
 #include "app/MainWindow.h"
@@ -136,6 +137,7 @@ void MainMenu::addViewMenu(const MouseModeBar& mouseModes)
 
 void MainMenu::addPlotMenus()
 {
+    new InsertMenu(menu(tr("&Insert")), m_window.workArea());
     new FrameMenu(menu(tr("F&rame")));
     new PageMenu(menu(tr("&Page")));
 }

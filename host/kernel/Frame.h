@@ -1,12 +1,17 @@
 #pragma once
 
 #include "kernel/DataSet.h"
+#include "kernel/Geometry.h"
 #include "kernel/Text.h"
 
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace vantrix::kernel {
+
+template<class Object>
+using ObjectList = std::vector<std::shared_ptr<const Object>>;
 
 /*
  * A rectangle of the paper that shows one plot of one data set (or of none). Its style, the plot type and its name
@@ -27,16 +32,26 @@ public:
     /* Only Document calls this; see Document::replaceDataSet() and Document::attachDataSet(). */
     void setDataSet(std::shared_ptr<const DataSet> dataSet) { m_dataSet = std::move(dataSet); }
 
-    /* The texts, the last on top. */
-    const std::vector<std::shared_ptr<const Text>>& texts() const { return m_texts; }
+    /* The texts, or the geometries, the last on top. */
+    template<class Object>
+    const ObjectList<Object>& objects() const
+    {
+        return std::get<ObjectList<Object>>(m_objects);
+    }
+    const ObjectList<Text>& texts() const { return objects<Text>(); }
+    const ObjectList<Geometry>& geometries() const { return objects<Geometry>(); }
 
-    /* Only Texts calls this. */
-    void setTexts(std::vector<std::shared_ptr<const Text>> texts) { m_texts = std::move(texts); }
+    /* Only FrameObjects and who makes new frames call this. */
+    template<class Object>
+    void setObjects(ObjectList<Object> list)
+    {
+        std::get<ObjectList<Object>>(m_objects) = std::move(list);
+    }
 
 private:
     long m_id;
     std::shared_ptr<const DataSet> m_dataSet;
-    std::vector<std::shared_ptr<const Text>> m_texts;
+    std::tuple<ObjectList<Text>, ObjectList<Geometry>> m_objects;
 };
 
 } // namespace vantrix::kernel

@@ -2,6 +2,7 @@
 
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Layout.h"
 #include "kernel/MouseModes.h"
 #include "kernel/PickList.h"
@@ -10,7 +11,6 @@
 #include "kernel/SilentFrontEnd.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
-#include "kernel/Texts.h"
 #include "kernel/UndoStack.h"
 #include "kernel/VariableMemory.h"
 #include "kernel/macro/MacroRecorder.h"
@@ -31,6 +31,7 @@ Kernel::Kernel()
     , m_style(std::make_unique<StyleStore>(*m_undo, *m_stateChanges))
     , m_document(std::make_unique<Document>(*m_undo, *m_stateChanges, *m_style))
     , m_texts(std::make_unique<Texts>(*m_document, *m_undo, *m_stateChanges))
+    , m_geometries(std::make_unique<Geometries>(*m_document, *m_undo, *m_stateChanges))
     , m_mouseModes(std::make_unique<MouseModes>(*m_document, *m_style, *m_stateChanges))
     , m_probes(std::make_unique<ProbeService>(*this))
     , m_variableMemory(std::make_unique<VariableMemory>(*m_document, *m_style, *m_stateChanges, *m_undo))

@@ -15,9 +15,14 @@ class PickList;
 class ProbeService;
 class StateChanges;
 class StyleStore;
-class Texts;
 class UndoStack;
 class VariableMemory;
+struct Geometry;
+struct Text;
+template<class Object>
+class FrameObjects;
+using Geometries = FrameObjects<Geometry>;
+using Texts = FrameObjects<Text>;
 
 /*
  * The running plot: owns everything that the function interface reaches. The interface has no handle for it, so there
@@ -41,6 +46,7 @@ public:
 
     ApplicationLock& lock() const { return *m_lock; }
     Document& document() const { return *m_document; }
+    Geometries& geometries() const { return *m_geometries; }
     Layout& layout() const { return *m_layout; }
     MacroRecorder& macroRecorder() const { return *m_macroRecorder; }
     MouseModes& mouseModes() const { return *m_mouseModes; }
@@ -69,6 +75,7 @@ private:
     std::unique_ptr<StyleStore> m_style;
     std::unique_ptr<Document> m_document;
     std::unique_ptr<Texts> m_texts;
+    std::unique_ptr<Geometries> m_geometries;
     std::unique_ptr<MouseModes> m_mouseModes;
     std::unique_ptr<ProbeService> m_probes;
     std::unique_ptr<VariableMemory> m_variableMemory;

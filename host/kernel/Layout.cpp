@@ -5,6 +5,7 @@
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/FrontEnd.h"
+#include "kernel/GeometryValues.h"
 #include "kernel/Kernel.h"
 #include "kernel/LayoutReader.h"
 #include "kernel/ProbeService.h"
@@ -13,7 +14,6 @@
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
 #include "kernel/StyleStore.h"
-#include "kernel/Text.h"
 #include "kernel/TextValues.h"
 #include "kernel/UndoStack.h"
 #include "kernel/macro/MacroCommand.h"
@@ -82,13 +82,14 @@ public:
         }
     }
 
-    /* What differs from a text as it is made. */
-    void writeText(int depth, const Text& text)
+    /* What differs from a text, or a geometry, as it is made. */
+    template<class Object>
+    void writeObject(int depth, const char* entry, const Object& object)
     {
-        MacroCommand command{"Text", {}};
-        const Text fresh;
-        for (const TextValue& value : textValues()) {
-            const TextValue::Value is = value.get(text);
+        MacroCommand command{entry, {}};
+        const Object fresh;
+        for (const ObjectValue<Object>& value : ObjectTraits<Object>::values()) {
+            const ObjectData is = value.get(object);
             if (is != value.get(fresh)) {
                 std::visit([&](const auto& each) { command.add(std::string(value.name), each); }, is);
             }
@@ -177,8 +178,11 @@ std::string Layout::text(const std::string& folder) const
             }
             writer.write(1, frameHead);
             writer.writeStyle(2, frame.id(), frame.dataSet() ? frame.dataSet()->zoneCount() : 0);
+            for (const auto& geometry : frame.geometries()) {
+                writer.writeObject(2, "Geometry", *geometry);
+            }
             for (const auto& text : frame.texts()) {
-                writer.writeText(2, *text);
+                writer.writeObject(2, "Text", *text);
             }
             writeUnknown(2, frame.id());
         }

@@ -1,6 +1,7 @@
 #include "kernel/LayoutReader.h"
 
 #include "kernel/DataError.h"
+#include "kernel/GeometryValues.h"
 #include "kernel/PlotAxes.h"
 #include "kernel/StyleActions.h"
 #include "kernel/StyleCheck.h"
@@ -95,7 +96,9 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
     } else if (command.name == "StyleSet") {
         addStyle(command, text);
     } else if (command.name == "Text" && m_frame) {
-        addText(command);
+        addObject<Text>(command);
+    } else if (command.name == "Geometry" && m_frame) {
+        addObject<Geometry>(command);
     } else {
         unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
     }
@@ -209,28 +212,31 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
     styles.back().values.push_back(std::move(stored));
 }
 
-void LayoutReader::addText(const MacroCommand& command)
+template<class Object>
+void LayoutReader::addObject(const MacroCommand& command)
 {
-    Text text;
-    text.handle = m_document.newId();
+    const std::string noun = ObjectTraits<Object>::noun;
+    Object object;
+    object.handle = m_document.newId();
     for (const auto& [name, given] : command.arguments) {
-        const TextValue* value = findTextValue(name);
+        const ObjectValue<Object>* value = findObjectValue<Object>(name);
         if (!value) {
-            throw DataError("a text has no \"" + name + "\".");
+            throw DataError("a " + noun + " has no \"" + name + "\".");
         }
         if (const long* number = std::get_if<long>(&given)) {
-            value->assign(text, *number);
+            value->assign(object, *number);
         } else if (const double* real = std::get_if<double>(&given)) {
-            value->assign(text, *real);
+            value->assign(object, *real);
         } else if (const auto* string = std::get_if<std::string>(&given)) {
-            value->assign(text, *string);
+            value->assign(object, *string);
         } else {
-            throw DataError('"' + name + "\" of a text is a number or a string.");
+            throw DataError('"' + name + "\" of a " + noun + " is a number or a string.");
         }
     }
-    auto texts = m_frame->texts();
-    texts.push_back(std::make_shared<const Text>(std::move(text)));
-    m_frame->setTexts(std::move(texts));
+    ObjectTraits<Object>::check(object);
+    ObjectList<Object> objects = m_frame->objects<Object>();
+    objects.push_back(std::make_shared<const Object>(std::move(object)));
+    m_frame->setObjects<Object>(std::move(objects));
 }
 
 void LayoutReader::checkPlotTypes() const

@@ -49,7 +49,8 @@ private:
     void addStyle(const MacroCommand& command, const std::string& text);
     void addData(MacroCommand command);
     void finishDataSet();
-    void addText(const MacroCommand& command);
+    template<class Object>
+    void addObject(const MacroCommand& command);
     void checkPlotTypes() const;
 
     Document& m_document;

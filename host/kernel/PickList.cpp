@@ -3,12 +3,12 @@
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/FrameActions.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Kernel.h"
 #include "kernel/LineMaps.h"
 #include "kernel/PlotAxes.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
-#include "kernel/Texts.h"
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
@@ -144,7 +144,7 @@ std::string PickList::problemWith(const PickedObject& object) const
     case PickObject_Text:
         return m_kernel.texts().find(object.number) ? std::string() : noSuch("text", object.number);
     case PickObject_Geometry:
-        return noSuch("geometry", object.number);
+        return m_kernel.geometries().find(object.number) ? std::string() : noSuch("geometry", object.number);
     default:
         return "Objects of type " + std::to_string(object.type) + " cannot be picked.";
     }
@@ -180,21 +180,27 @@ void PickList::deleteObjects()
     std::map<long, std::set<long>> lineMaps; /* of each frame */
     std::set<long> frames;
     std::set<long> texts;
+    std::set<long> geometries;
     for (const PickedObject& object : m_objects) {
         if (object.type == PickObject_Text) {
             texts.insert(object.number);
+        } else if (object.type == PickObject_Geometry) {
+            geometries.insert(object.number);
         } else if (object.type == PickObject_LineMap) {
             lineMaps[object.frameId].insert(object.number);
         } else if (object.type == PickObject_Frame) {
             frames.insert(object.frameId);
         }
     }
-    if (frames.empty() && lineMaps.empty() && texts.empty()) {
+    if (frames.empty() && lineMaps.empty() && texts.empty() && geometries.empty()) {
         throw DataError(m_objects.empty() ? "Nothing is picked that could be deleted."
                                           : "Nothing that is picked can be deleted.");
     }
     for (const long text : texts) {
         m_kernel.texts().remove(text);
+    }
+    for (const long geometry : geometries) {
+        m_kernel.geometries().remove(geometry);
     }
     for (const auto& [frame, numbers] : lineMaps) {
         LineMaps(m_kernel.style(), *m_kernel.document().frameById(frame)).remove(numbers);

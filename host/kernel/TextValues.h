@@ -1,36 +1,22 @@
 #pragma once
 
-#include <limits>
-#include <span>
-#include <string>
-#include <string_view>
-#include <variant>
+#include "kernel/ObjectValue.h"
+#include "kernel/Text.h"
 
 namespace vantrix::kernel {
 
-struct Text;
-
-/* One named value of a text, as the interface and files know it. Flags and enumerators are whole numbers. */
-struct TextValue
+template<>
+struct ObjectTraits<Text>
 {
-    using Value = std::variant<long, double, std::string>;
+    static constexpr const char* noun = "text";
+    static constexpr const char* handleArgument = "TextID";
+    static constexpr StateChange_e stateChange = StateChange_Text;
 
-    std::string_view name;
-    Value (*get)(const Text& text);
-    void (*set)(Text& text, const Value& value);
-    double minimum = -std::numeric_limits<double>::infinity();
-    double maximum = std::numeric_limits<double>::infinity();
-    bool isMinimumExcluded = false;
+    /* All of them, in the order in which they are written. */
+    static std::span<const ObjectValue<Text>> values();
 
-    /* Sets a value of the right type within range; a whole number serves as a real one. Throws DataError, which names
-     * the value and what would be right, and changes nothing otherwise. */
-    void assign(Text& text, const Value& value) const;
+    /* Throws DataError for a text that says nothing. */
+    static void check(const Text& text);
 };
-
-/* All of them, in the order in which they are written. */
-std::span<const TextValue> textValues();
-
-/* Null for an unknown name. */
-const TextValue* findTextValue(std::string_view name);
 
 } // namespace vantrix::kernel

@@ -5,6 +5,7 @@
 #include "view/AxisBoxPainter.h"
 #include "view/AxisPainter.h"
 #include "view/ContourLegend.h"
+#include "view/GeometryPainter.h"
 #include "view/LineLegend.h"
 #include "view/LinePlot.h"
 #include "view/PlotMeasures.h"
@@ -95,6 +96,9 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
         paintPlot(canvas, inside);
     } catch (const kernel::DataError& error) {
         paintNotice(canvas, inside, QString::fromStdString(error.what()));
+    }
+    for (const auto& geometry : m_geometries) {
+        GeometryPainter(canvas, rect, m_plot, *geometry).paint();
     }
     for (const auto& text : m_texts) {
         TextPainter(canvas, rect, m_plot, *text).paint();

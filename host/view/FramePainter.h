@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kernel/Text.h"
+#include "kernel/Frame.h"
 #include "view/Canvas.h"
 #include "view/FieldScene.h"
 #include "view/FramePlot.h"
@@ -36,8 +36,13 @@ public:
     /* What the frame shows from now on; `dataSet` may be null. Costs a comparison when both are as before. */
     void show(PlotStyle style, std::shared_ptr<const kernel::DataSet> dataSet);
 
-    /* The texts over the plot, the last on top. The plot is not made again for them. */
-    void setTexts(const std::vector<std::shared_ptr<const kernel::Text>>& texts) { m_texts = texts; }
+    /* The geometries and texts over the plot, the last on top. The plot is not made again for them. */
+    void setObjects(const kernel::ObjectList<kernel::Geometry>& geometries,
+                    const kernel::ObjectList<kernel::Text>& texts)
+    {
+        m_geometries = geometries;
+        m_texts = texts;
+    }
 
     /* `rect` is where the frame lies, in the painter's logical units. */
     void paint(QPainter& painter, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request);
@@ -93,7 +98,8 @@ private:
     std::unique_ptr<FieldScene> m_thinScene; /* of an approximate plot; made when one is painted first */
     FramePlot m_plot;
     std::shared_ptr<const kernel::DataSet> m_dataSet;
-    std::vector<std::shared_ptr<const kernel::Text>> m_texts;
+    kernel::ObjectList<kernel::Geometry> m_geometries;
+    kernel::ObjectList<kernel::Text> m_texts;
     unsigned long m_revision = 0;
     PaintRequest m_request;
     bool m_isApproximate = false;

@@ -57,11 +57,11 @@ PageRenderer::Impl::Entry& PageRenderer::Impl::entry(const kernel::Frame& frame)
     const unsigned long stamp = kernel.style().scopeStamp(frame.id());
     if (!slot->isRead || slot->scopeStamp != stamp || slot->dataSet != frame.dataSet()) {
         slot->painter.show(PlotStyle::read(kernel.style(), frame), frame.dataSet());
-        slot->painter.setTexts(frame.texts());
         slot->isRead = true;
         slot->scopeStamp = stamp;
         slot->dataSet = frame.dataSet();
     }
+    slot->painter.setObjects(frame.geometries(), frame.texts());
     return *slot;
 }
 

@@ -1,6 +1,7 @@
 #include "view/TextPainter.h"
 
 #include "view/ColorMap.h"
+#include "view/ObjectPlace.h"
 
 #include <QFontMetricsF>
 #include <QTransform>
@@ -34,14 +35,7 @@ TextPainter::TextPainter(const Canvas& canvas, const QRectF& frame, const FrameP
 
 std::optional<QPointF> TextPainter::anchor(const QRectF& frame, const FramePlot& plot) const
 {
-    if (m_text.coordSys == CoordSys_Frame) {
-        return QPointF(frame.left() + m_text.x / 100.0 * frame.width(),
-                       frame.bottom() - m_text.y / 100.0 * frame.height());
-    }
-    const bool isThreeD = m_text.coordSys == CoordSys_Grid3D;
-    const auto place = isThreeD == plot.camera.has_value()
-                           ? plot.placeOf({m_text.x, m_text.y, isThreeD ? m_text.z : 0.0})
-                           : std::nullopt;
+    const auto place = objectPlace(plot, frame.size() / m_canvas.inch, m_text.coordSys, {m_text.x, m_text.y, m_text.z});
     return place ? std::optional(frame.topLeft() + *place * m_canvas.inch) : std::nullopt;
 }
 

@@ -14,6 +14,7 @@
 #include "view/RenderSettings.h"
 #include "view/mouse/ClickTool.h"
 #include "view/mouse/CreateFrameTool.h"
+#include "view/mouse/InsertTool.h"
 #include "view/mouse/MouseContext.h"
 #include "view/mouse/ProbeTool.h"
 #include "view/mouse/RotateTool.h"
@@ -72,7 +73,7 @@ struct WorkArea::Impl : kernel::PickSurface
         auto* self = static_cast<Impl*>(impl);
         self->widget.update();
         if (change->kind == StateChange_MouseMode) {
-            self->widget.setCursor(self->tool().cursor());
+            self->widget.endInsert();
         }
     }
 
@@ -82,7 +83,7 @@ struct WorkArea::Impl : kernel::PickSurface
         return context.objectAt(context.paper.toWidget(QPointF(x, height - y)));
     }
 
-    MouseTool& tool() { return *tools.at(context.kernel.mouseModes().current()); }
+    MouseTool& tool() { return inserting ? *inserting : *tools.at(context.kernel.mouseModes().current()); }
     PaperStyle paperStyle(const kernel::Page& page) const { return PaperStyle::read(context.kernel.style(), page.id); }
 
     void press(MouseTool& tool, const QMouseEvent& event)
@@ -104,7 +105,8 @@ struct WorkArea::Impl : kernel::PickSurface
     WorkArea& widget;
     MouseContext context;
     std::map<MouseMode_e, std::unique_ptr<MouseTool>> tools;
-    MouseTool* pressed = nullptr; /* the one whose drag is under way */
+    std::unique_ptr<MouseTool> inserting; /* takes the place of the mode's tool */
+    MouseTool* pressed = nullptr;         /* the one whose drag is under way */
     QTimer wheelTimer;
 };
 
@@ -182,6 +184,23 @@ QPointF WorkArea::toPaper(QPointF widget) const
 long WorkArea::frameAt(QPointF widget) const
 {
     return m_impl->context.frameAt(widget);
+}
+
+void WorkArea::beginInsert(GeomType_e type, bool hasArrowhead)
+{
+    endInsert();
+    m_impl->inserting = std::make_unique<InsertTool>(m_impl->context, type, hasArrowhead);
+    setCursor(m_impl->tool().cursor());
+}
+
+void WorkArea::endInsert()
+{
+    if (m_impl->pressed == m_impl->inserting.get()) {
+        m_impl->pressed = nullptr;
+    }
+    m_impl->inserting.reset();
+    setCursor(m_impl->tool().cursor());
+    update();
 }
 
 bool WorkArea::event(QEvent* event)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "api/VtxEnumerations.h"
+#include "api/VtxUtilGeometry.h"
 
 #include <QWidget>
 
@@ -18,10 +18,10 @@ class PageRenderer;
  * The work area: the desk with the active page's paper and its frames, and the mouse over them.
  *
  * It listens to the kernel's state changes and repaints on the next turn of the event loop, once for any number of
- * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate, rotate and probe
- * are handled here, of the other modes a click is passed on by clickedInMode(). Everywhere the wheel zooms the plot under
- * the pointer, with Ctrl the paper; the middle button moves the plot, a double click fits it. A change of view writes
- * style values; a whole drag is one step of undo.
+ * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate, rotate and
+ * probe are handled here, of the other modes a click is passed on by clickedInMode(). Everywhere the wheel zooms the
+ * plot under the pointer, with Ctrl the paper; the middle button moves the plot, a double click fits it. A change of
+ * view writes style values; a whole drag is one step of undo.
  */
 class WorkArea : public QWidget
 {
@@ -51,6 +51,11 @@ public:
 
     /* The identifier of the topmost frame at a place in the widget; 0 where there is none. */
     long frameAt(QPointF widget) const;
+
+    /* The next drag draws a geometry of that type (see InsertTool), whatever the mouse mode is; an ellipse may become a
+     * circle and a rectangle a square. Setting a mouse mode ends it, as endInsert() does. */
+    void beginInsert(GeomType_e type, bool hasArrowhead = false);
+    void endInsert();
 
     PageRenderer& renderer() const;
 

@@ -1,6 +1,6 @@
 #include "KernelFixture.h"
 
-#include "kernel/Texts.h"
+#include "kernel/FrameObjects.h"
 #include "toolbox/ArgList.h"
 
 #include <cstdio>

@@ -1,10 +1,13 @@
 #include "api/VtxUtil.h"
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
 #include "kernel/PickList.h"
 #include "kernel/UndoStack.h"
+#include "kernel/interface/ArgumentList.h"
+#include "support/UserInput.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
 #include "view/ShownSample.h"
@@ -59,12 +62,20 @@ protected:
     {
         QTest::mousePress(m_area.get(), Qt::LeftButton, keys, widgetPlace(from));
         for (int i = 1; i <= 4; ++i) {
-            QMouseEvent move(QEvent::MouseMove, m_area->toWidget(from + (to - from) * i / 4.0),
-                             m_area->mapToGlobal(m_area->toWidget(to)), Qt::LeftButton, Qt::LeftButton, keys);
-            QCoreApplication::sendEvent(m_area.get(), &move);
+            test::moveMouse(*m_area, m_area->toWidget(from + (to - from) * i / 4.0), Qt::LeftButton, keys);
         }
         QTest::mouseRelease(m_area.get(), Qt::LeftButton, keys, widgetPlace(to));
         m_area->repaint();
+    }
+
+    long createText(const char* text)
+    {
+        long handle = 0;
+        VtxArgList list{
+            {{"Text", std::string(text)}, {"XPos", 30.0}, {"YPos", 30.0}, {"Height", 8.0}, {"Result", &handle}}};
+        const kernel::ActionLock lock(kernel().lock());
+        EXPECT_TRUE(VtxUtilTextSetX(&list)) << kernel().lastError();
+        return handle;
     }
 
     QRectF activeRect() const { return m_area->renderer().frameRect(m_sample->frame()); }
@@ -212,4 +223,63 @@ TEST_F(SelectorTest, ADoubleClickAsksForTheDialog)
     QTest::mouseDClick(m_area.get(), Qt::LeftButton, {}, place);
     ASSERT_EQ(spy.size(), 1);
     EXPECT_EQ(spy.at(0).at(0).value<PickObject_e>(), PickObject_Axis);
+}
+
+TEST_F(SelectorTest, MovesTextsAndGeometriesAsOneStep)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const long text = createText("MMMM");
+    m_area->repaint();
+    const QRectF frame = activeRect();
+    const QPointF inText = frame.bottomLeft() + QPointF(0.31 * frame.width(), -0.33 * frame.height());
+    click(inText);
+    ASSERT_EQ(VtxUtilPickListGetText(1), text);
+    drag(inText, inText + QPointF(0.1 * frame.width(), -0.2 * frame.height()), Qt::AltModifier);
+    const kernel::Text* moved = kernel().texts().find(text);
+    EXPECT_NEAR(moved->x, 40.0, 0.5);
+    EXPECT_NEAR(moved->y, 50.0, 0.5);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Move Text");
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(kernel().texts().find(text)->x, 30.0);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Insert Text");
+}
+
+TEST_F(SelectorTest, GeometriesAreDrawnByDragging)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const QRectF frame = activeRect();
+    const auto at = [&](double across, double up) {
+        return frame.bottomLeft() + QPointF(across / 100.0 * frame.width(), -up / 100.0 * frame.height());
+    };
+    m_area->beginInsert(GeomType_Ellipse);
+    drag(at(20, 20), at(40, 60), Qt::AltModifier);
+    const long ellipse = VtxUtilGeometryGetFirst();
+    ASSERT_NE(ellipse, 0);
+    EXPECT_EQ(VtxUtilPickListGetGeometry(1), ellipse) << "it is picked";
+    const kernel::Geometry drawn = *kernel().geometries().find(ellipse);
+    EXPECT_EQ(drawn.type, GeomType_Ellipse);
+    EXPECT_NEAR(drawn.x, 30.0, 0.5);
+    EXPECT_NEAR(drawn.y, 40.0, 0.5);
+    EXPECT_NEAR(drawn.width, 20.0, 0.5);
+    EXPECT_NEAR(drawn.height, 40.0, 0.5);
+
+    drag(at(30, 60), at(50, 60), Qt::AltModifier); // the selector is back, the outline is under the pointer
+    EXPECT_NEAR(kernel().geometries().find(ellipse)->x, 50.0, 0.5);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Move Geometry");
+
+    m_area->beginInsert(GeomType_Line, true);
+    drag(at(10, 10), at(30, 11), Qt::AltModifier | Qt::ShiftModifier);
+    const long arrow = VtxUtilGeometryGetNext(ellipse);
+    ASSERT_NE(arrow, 0);
+    const auto lines = kernel::parseGeometryPoints(kernel().geometries().find(arrow)->points);
+    EXPECT_NEAR(lines[0][1][0], 20.0, 0.5);
+    EXPECT_NEAR(lines[0][1][1], 0.0, 1e-6) << "straight with Shift";
+    EXPECT_EQ(kernel().geometries().find(arrow)->arrowheadAttachment, ArrowheadAttachment_End);
+    QTest::keyClick(m_area.get(), Qt::Key_Delete);
+    EXPECT_FALSE(VtxUtilGeometryIsValid(arrow));
+
+    m_area->beginInsert(GeomType_Rectangle);
+    QTest::keyClick(m_area.get(), Qt::Key_Escape);
+    drag(at(60, 80), at(70, 90));
+    EXPECT_EQ(VtxUtilGeometryGetNext(ellipse), 0) << "Escape ended it";
 }

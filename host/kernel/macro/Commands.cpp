@@ -119,6 +119,8 @@ const std::vector<Command>& commands()
         listCommand<&VtxUtilTextSetX>("TextSet"),
         command<&VtxUtilTextSetHeight>("TextSetHeight", {textArgument, "Height"}),
         command<&VtxUtilTextDelete>("TextDelete", {textArgument}),
+        listCommand<&VtxUtilGeometrySetX>("GeometrySet"),
+        command<&VtxUtilGeometryDelete>("GeometryDelete", {geometryArgument}),
         command<&VtxUtilViewAxisFit>("ViewAxisFit", {"Axis", "AxisNum"}),
         command<&VtxUtilViewAxisNiceFit>("ViewAxisNiceFit", {"Axis", "AxisNum"}),
         command<&VtxUtilViewAxisFitToEntireCircle>("ViewAxisFitToEntireCircle", {"Axis", "AxisNum"}),
@@ -174,7 +176,8 @@ const Command& commandOf(const void* function)
 
 bool isValue(const MacroCommand& command)
 {
-    static const std::set<std::string_view> setting{"StyleSet", "FrameSetRect", "TextSet", "TextSetHeight"};
+    static const std::set<std::string_view> setting{"StyleSet", "FrameSetRect", "TextSet", "TextSetHeight",
+                                                    "GeometrySet"};
     return setting.contains(command.name) &&
            std::ranges::any_of(command.arguments, [&](const auto& each) { return saysWhat(command, each.first); });
 }

@@ -94,8 +94,7 @@ long readPlace(const MacroCommand& command, std::string_view argument, FramePlac
 template<class Visit>
 auto visitObjects(std::string_view argument, const Frame& frame, Visit&& visit)
 {
-    (void)argument;
-    return visit(frame.texts());
+    return argument == textArgument ? visit(frame.texts()) : visit(frame.geometries());
 }
 
 long positionOf(std::string_view argument, const Frame& frame, long identifier)

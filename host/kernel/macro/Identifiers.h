@@ -8,10 +8,11 @@
  * Frames, texts and geometries in macros. Their identifiers do not last beyond a session, so they are written by their
  * places:
  *
- *     Frame=2                              a position on the active page, from 1, the lowest
- *     TextID=2                             a position among the texts of the active frame, from 1, the first that is
- * drawn TextID="2 of frame 3"                of another frame of the active page TextID="2 of frame 3 of page 1" of
- * another page
+ *     Frame=2                            a position on the active page, from 1, the lowest
+ *     TextID=2                           a position among the texts of the active frame, the one drawn first being 1
+ *     TextID="2 of frame 3"              of another frame of the active page
+ *     TextID="2 of frame 3 of page 1"    of another page
+ *     GeometryID=2                       the same of geometries
  */
 namespace vantrix::kernel {
 

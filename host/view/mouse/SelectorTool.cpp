@@ -16,23 +16,43 @@ namespace vantrix::view {
 void SelectorTool::press(const QMouseEvent& event)
 {
     const bool collect = event.modifiers() & Qt::ControlModifier;
-    m_drag = collect ? FrameDrag() : FrameDrag::begin(context(), event.position());
-    if (!m_drag.isBegun()) {
+    cancel();
+    if (!collect) {
+        begin(event.position());
+    }
+    if (!m_drag.isBegun() && !m_objects.isBegun()) {
         pick(event.position(), collect);
-        m_drag = FrameDrag::begin(context(), event.position());
+        begin(event.position());
     }
 }
 
 void SelectorTool::drag(const QMouseEvent& event)
 {
+    const bool isFree = event.modifiers() & Qt::AltModifier;
     if (m_drag.isBegun()) {
-        m_drag.drag(context(), event.position(), event.modifiers() & Qt::AltModifier);
+        m_drag.drag(context(), event.position(), isFree);
+    } else if (m_objects.isBegun()) {
+        m_objects.drag(context(), event.position(), isFree);
     }
 }
 
 void SelectorTool::release(const QMouseEvent& /*event*/)
 {
+    cancel();
+}
+
+void SelectorTool::cancel()
+{
     m_drag = {};
+    m_objects = {};
+}
+
+void SelectorTool::begin(QPointF place)
+{
+    m_drag = FrameDrag::begin(context(), place);
+    if (!m_drag.isBegun()) {
+        m_objects = ObjectDrag::begin(context(), place);
+    }
 }
 
 void SelectorTool::hover(QPointF place)

@@ -2,14 +2,15 @@
 
 #include "view/mouse/FrameDrag.h"
 #include "view/mouse/MouseTool.h"
+#include "view/mouse/ObjectDrag.h"
 
 namespace vantrix::view {
 
 /*
  * Picks what is clicked, with Ctrl in addition to what is picked; a click beside the frames picks nothing. Picked
- * frames are moved by dragging, one is resized by its handles; they snap to the paper's grid while it is shown, but not
- * with Alt. A double click asks for the dialog that edits the object. Delete deletes what is picked, Escape picks
- * nothing.
+ * frames, texts and geometries are moved by dragging, a frame is resized by its handles; they snap to the paper's grid
+ * while it is shown, but not with Alt. A double click asks for the dialog that edits the object. Delete deletes what is
+ * picked, Escape picks nothing.
  */
 class SelectorTool : public MouseTool
 {
@@ -19,15 +20,17 @@ public:
     void press(const QMouseEvent& event) override;
     void drag(const QMouseEvent& event) override;
     void release(const QMouseEvent& event) override;
-    void cancel() override { m_drag = {}; }
+    void cancel() override;
     void doubleClick(const QMouseEvent& event) override;
     void hover(QPointF place) override;
     bool keyPress(const QKeyEvent& event) override;
 
 private:
+    void begin(QPointF place);
     void pick(QPointF place, bool collect);
 
     FrameDrag m_drag;
+    ObjectDrag m_objects;
 };
 
 } // namespace vantrix::view

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "kernel/Geometry.h"
+#include "kernel/Text.h"
+
+#include <memory>
+#include <vector>
+
+namespace vantrix::kernel {
+
+class Document;
+class Frame;
+class StateChanges;
+class UndoStack;
+
+/* Adds, changes and deletes the texts, or the geometries, of frames: each change is part of the undo step under way and
+ * sends the state change of its kind (`StateChange_Text`, `StateChange_Geometry`) with the object's handle. */
+template<class Object>
+class FrameObjects
+{
+public:
+    FrameObjects(Document& document, UndoStack& undo, StateChanges& changes);
+
+    /* Puts an object on top of those of a frame and gives it a handle that no other object of the process has. */
+    long add(Frame& frame, Object object);
+
+    /* Swaps in another state of the object with the same handle. False when there is no such object. */
+    bool change(Object object);
+
+    bool remove(long handle);
+
+    /* Null when there is no such object. It is valid until the objects of its frame change. */
+    const Object* find(long handle) const;
+    Frame* frameOf(long handle) const;
+
+private:
+    class Change;
+    using List = std::vector<std::shared_ptr<const Object>>;
+    void replace(Frame& frame, List objects, long handle);
+    void show(long frame, const List& objects, long handle);
+
+    Document& m_document;
+    UndoStack& m_undo;
+    StateChanges& m_changes;
+};
+
+extern template class FrameObjects<Text>;
+extern template class FrameObjects<Geometry>;
+
+} // namespace vantrix::kernel
