@@ -3,6 +3,7 @@
 #include "kernel/DataSet.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/MouseModes.h"
 #include "sdk/AppLock.h"
 
 #include <QSettings>
@@ -24,6 +25,7 @@ protected:
         QSettings().clear();
         qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
         kernel::Kernel::instance().reset();
+        kernel::Kernel::instance().mouseModes().set(MouseMode_Selector); // which a new layout leaves as it is
     }
 
     QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QTest>
 
 namespace vantrix::test {
@@ -12,6 +13,14 @@ inline void idle()
     for (int turn = 0; turn < 3; ++turn) {
         QCoreApplication::processEvents();
     }
+}
+
+/// Moves the mouse over a widget. QTest::mouseMove() moves the pointer of the display, which other programs move as
+/// well.
+inline void moveMouse(QWidget& widget, QPointF place, Qt::MouseButtons buttons = {}, Qt::KeyboardModifiers keys = {})
+{
+    QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons, keys);
+    QCoreApplication::sendEvent(&widget, &move);
 }
 
 /// Types into the field in place of what it holds, without leaving it.

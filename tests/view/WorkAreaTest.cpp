@@ -6,6 +6,7 @@
 #include "kernel/MouseModes.h"
 #include "kernel/ProbeService.h"
 #include "kernel/UndoStack.h"
+#include "support/UserInput.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
 #include "view/ShownSample.h"
@@ -41,7 +42,7 @@ struct ShownWorkArea
     {
         QTest::mousePress(&area, Qt::LeftButton, {}, from);
         for (int i = 1; i <= 4; ++i) {
-            QTest::mouseMove(&area, from + (to - from) * i / 4);
+            test::moveMouse(area, QPointF(from + (to - from) * i / 4), Qt::LeftButton);
         }
         QTest::mouseRelease(&area, Qt::LeftButton, {}, to);
     }
@@ -101,13 +102,12 @@ TEST(WorkArea, TellsWhereThePointerIs)
     ShownSample sample("fe2d", PlotType_Cartesian2D);
     ShownWorkArea shown(sample);
     QSignalSpy spy(&shown.area, &view::WorkArea::coordinatesChanged);
-    QTest::mouseMove(&shown.area, shown.place(0.45, 0.5));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !spy.isEmpty(); }, 2000));
+    test::moveMouse(shown.area, shown.place(0.45, 0.5));
+    ASSERT_FALSE(spy.isEmpty());
     EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("X = ")))
         << spy.last().at(0).toString().toStdString();
-    QTest::mouseMove(&shown.area, QPoint(3, 3));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return spy.last().at(0).toString().startsWith(QStringLiteral("Paper: ")); }, 2000));
+    test::moveMouse(shown.area, QPointF(3, 3));
+    EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("Paper: ")));
 }
 
 TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndPassesOtherModesOn)
