@@ -1,5 +1,7 @@
 #include "view/IndexPlanes.h"
 
+#include "kernel/probe/ShownPlanes.h"
+
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
 #include <vtkIdTypeArray.h>
@@ -88,38 +90,12 @@ private:
 
 } // namespace
 
-bool hasPlanes(SurfacesToPlot_e faces, std::size_t axis)
-{
-    switch (faces) {
-    case SurfacesToPlot_IPlanes:
-        return axis == 0;
-    case SurfacesToPlot_JPlanes:
-        return axis == 1;
-    case SurfacesToPlot_KPlanes:
-        return axis == 2;
-    case SurfacesToPlot_IJPlanes:
-        return axis != 2;
-    case SurfacesToPlot_JKPlanes:
-        return axis != 0;
-    case SurfacesToPlot_IKPlanes:
-        return axis != 1;
-    case SurfacesToPlot_IJKPlanes:
-    case SurfacesToPlot_EveryFace:
-        return true;
-    case SurfacesToPlot_None:
-    case SurfacesToPlot_BoundaryFaces:
-    case SurfacesToPlot_ExposedFaces:
-        break;
-    }
-    return false;
-}
-
 vtkSmartPointer<vtkPolyData> indexPlanes(vtkStructuredGrid& grid, const SurfaceSelection& selection,
                                          const char* pointNumbers, const char* cellNumbers)
 {
     PlaneBuilder builder(grid, pointNumbers, cellNumbers);
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        if (!hasPlanes(selection.faces, axis)) {
+        if (!kernel::hasPlanes(selection.faces, axis)) {
             continue;
         }
         const IndexRange range = selection.faces == SurfacesToPlot_EveryFace ? IndexRange{} : selection.planes[axis];

@@ -17,7 +17,4 @@ namespace vantrix::view {
 vtkSmartPointer<vtkPolyData> indexPlanes(vtkStructuredGrid& grid, const SurfaceSelection& selection,
                                          const char* pointNumbers, const char* cellNumbers);
 
-/* Whether the selection asks for planes of constant I (0), J (1) or K (2). */
-bool hasPlanes(SurfacesToPlot_e faces, std::size_t axis);
-
 } // namespace vantrix::view

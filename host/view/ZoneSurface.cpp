@@ -1,5 +1,6 @@
 #include "view/ZoneSurface.h"
 
+#include "kernel/probe/ShownPlanes.h"
 #include "view/IndexPlanes.h"
 #include "view/SurfaceThinning.h"
 
@@ -163,8 +164,8 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface() const
     }
     if (isSelected) {
         vtkStructuredGrid* grid = vtkStructuredGrid::SafeDownCast(m_geometry);
-        if (grid &&
-            (hasPlanes(m_selection.faces, 0) || hasPlanes(m_selection.faces, 1) || hasPlanes(m_selection.faces, 2))) {
+        if (grid && (kernel::hasPlanes(m_selection.faces, 0) || kernel::hasPlanes(m_selection.faces, 1) ||
+                     kernel::hasPlanes(m_selection.faces, 2))) {
             return indexPlanes(*grid, m_selection, pointNumbersName, cellNumbersName);
         }
         vtkUnstructuredGrid* cells = vtkUnstructuredGrid::SafeDownCast(m_geometry);

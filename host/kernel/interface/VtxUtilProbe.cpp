@@ -401,7 +401,7 @@ bool VtxUtilProbeAtPosition(double x, double y, double z, long* iCell, long* jCe
             return boundary::fail("The position is outside of the data.");
         }
         const Zone& foundZone = *probe.dataSet().zone(found.zone);
-        const CellIndex index = found.mesh->cellIndex(foundZone, std::max(found.place.cell, 0L));
+        const CellIndex index = probe.cellIndex(found);
         const std::array<long, 3> first =
             foundZone.isOrdered() ? index.first : std::array<long, 3>{index.storage, 0, 0};
         setIfNotNull(iCell, first[0] + 1);

@@ -80,8 +80,18 @@ std::vector<FieldProbe::Candidate> FieldProbe::candidates(bool isInVolume) const
             continue;
         }
         if (const auto part = partToSearch(zone, isInVolume)) {
-            result.push_back({zone, *part, isInVolume || !m_isThreeD});
+            result.push_back(candidate(zone, *part, isInVolume));
         }
+    }
+    return result;
+}
+
+FieldProbe::Candidate FieldProbe::candidate(long number, ProbeMesh::Part part, bool isInVolume) const
+{
+    Candidate result{number, part, isInVolume || !m_isThreeD};
+    const Zone& zone = *m_dataSet->zone(number);
+    if (!result.isExact && part == ProbeMesh::Part::Cells && zone.isOrdered() && zone.topologicalDimension() == 3) {
+        result.planes.emplace(m_style, m_frameId, number, zone.dimensions());
     }
     return result;
 }
@@ -103,7 +113,7 @@ std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVo
     case SurfacesToPlot_BoundaryFaces:
     case SurfacesToPlot_ExposedFaces:
         break;
-    default: // faces inside of the volume are drawn: they belong to its cells
+    default: // faces inside of the volume are drawn: they are found through its cells
         if (m_isThreeD) {
             return ProbeMesh::Part::Cells;
         }
@@ -138,11 +148,33 @@ bool FieldProbe::findIn(Candidate& candidate, const FieldPositionRequest& reques
                   ((fillsPlot && searched.findInside(request.position, found.place, startCell)) ||
                    searched.findClosest(request.position, tolerance, found.place));
     }
+    if (isFound && candidate.planes && !request.isNearestPoint) {
+        isFound = putOnPlane(*m_dataSet->zone(candidate.zone), *candidate.planes, found);
+    }
     if (!isFound || (best.mesh && best.place.distance2 <= found.place.distance2)) {
         return false;
     }
     best = std::move(found);
     return true;
+}
+
+/* Gives a place in a volume the cell of the plane that it is on; false where that is not drawn. */
+bool FieldProbe::putOnPlane(const Zone& zone, const ShownPlanes& planes, FieldPlace& place)
+{
+    std::array<double, 3> indices{0.0, 0.0, 0.0};
+    for (std::size_t corner = 0; corner < place.place.points.size(); ++corner) {
+        const std::array<long, 3> at = pointIndices(zone, place.place.points[corner]);
+        for (std::size_t axis = 0; axis < indices.size(); ++axis) {
+            indices[axis] += place.place.weights[corner] * static_cast<double>(at[axis]);
+        }
+    }
+    const auto plane = planes.at(indices);
+    if (plane) {
+        std::array<long, 3> first = place.mesh->cellIndex(zone, place.place.cell).first;
+        first[static_cast<std::size_t>(plane->family)] = plane->index;
+        place.planeCell = orderedCellIndex(zone, first, plane->family);
+    }
+    return plane.has_value();
 }
 
 bool FieldProbe::find(const FieldPositionRequest& request, FieldPlace& place, const std::set<long>* zones,
@@ -186,7 +218,7 @@ std::vector<FieldProbe::Candidate> FieldProbe::candidatesAmong(const std::set<lo
                             std::to_string(m_dataSet->zoneCount()) + ".");
         }
         if (const auto part = partToSearch(*zone, isInVolume)) {
-            result.push_back({*zone, *part, isInVolume || !m_isThreeD});
+            result.push_back(candidate(*zone, *part, isInVolume));
         }
     }
     return result;
@@ -205,6 +237,12 @@ FieldPlace FieldProbe::placeOf(long number, const CellIndex& cell, bool isInVolu
     return place;
 }
 
+CellIndex FieldProbe::cellIndex(const FieldPlace& place) const
+{
+    return place.planeCell ? *place.planeCell
+                           : place.mesh->cellIndex(*m_dataSet->zone(place.zone), std::max(place.place.cell, 0L));
+}
+
 std::optional<double> FieldProbe::value(const FieldPlace& place, long variable) const
 {
     const Zone& zone = *m_dataSet->zone(place.zone);
@@ -218,7 +256,7 @@ std::optional<double> FieldProbe::value(const FieldPlace& place, long variable) 
     if (place.place.cell < 0) {
         return std::nullopt;
     }
-    return field->values->GetComponent(place.mesh->cellIndex(zone, place.place.cell).storage, 0);
+    return field->values->GetComponent(cellIndex(place).storage, 0);
 }
 
 FieldProbeResult FieldProbe::newResult(long number) const
@@ -274,7 +312,8 @@ std::optional<FieldProbeResult> FieldProbe::probe(const FieldPositionRequest& re
     result.position = found.place.position;
     result.point = request.isNearestPoint ? found.place.points.front() + 1 : 0;
     if (found.place.cell >= 0) {
-        result.cell = found.mesh->probedCell(zone, found.place.cell);
+        result.cell = found.planeCell ? ProbedCell::ofOrdered(zone, *found.planeCell)
+                                      : found.mesh->probedCell(zone, found.place.cell);
         findNeighborsInOtherZones(*result.cell, found.zone);
     }
     for (long variable = 1; variable <= m_dataSet->variableCount(); ++variable) {

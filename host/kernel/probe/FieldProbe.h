@@ -2,6 +2,7 @@
 
 #include "kernel/Frame.h"
 #include "kernel/probe/ProbeMeshes.h"
+#include "kernel/probe/ShownPlanes.h"
 
 #include <optional>
 #include <set>
@@ -41,6 +42,8 @@ struct FieldPlace
     long zone = 0;
     std::shared_ptr<ProbeMesh> mesh;
     MeshPlace place;
+    std::optional<CellIndex> planeCell =
+        {}; /* on a plane of constant index inside of a volume: the cell of the plane */
 };
 
 /* What a probe of a field plot found. Values are by variable, in order. */
@@ -80,6 +83,9 @@ public:
     /* The place of a cell, to begin a search with. */
     FieldPlace placeOf(long zone, const CellIndex& cell, bool isInVolume);
 
+    /* The cell of a place; of a place that has none its zone's first. */
+    CellIndex cellIndex(const FieldPlace& place) const;
+
     /* The value of a variable at a place; nothing where it is not loaded or the zone does not have it. */
     std::optional<double> value(const FieldPlace& place, long variable) const;
 
@@ -94,13 +100,16 @@ private:
     {
         long zone;
         ProbeMesh::Part part;
-        bool isExact; /* whether a position has to be inside of a cell */
+        bool isExact;                           /* whether a position has to be inside of a cell */
+        std::optional<ShownPlanes> planes = {}; /* of an ordered volume the planes that are drawn inside of it */
         std::shared_ptr<ProbeMesh> mesh = {};
     };
     std::vector<Candidate> candidates(bool isInVolume) const;
     std::vector<Candidate> candidatesAmong(const std::set<long>& zones, bool isInVolume) const;
     std::optional<ProbeMesh::Part> partToSearch(long zone, bool isInVolume) const;
     std::shared_ptr<ProbeMesh> mesh(long zone, ProbeMesh::Part part);
+    Candidate candidate(long zone, ProbeMesh::Part part, bool isInVolume) const;
+    static bool putOnPlane(const Zone& zone, const ShownPlanes& planes, FieldPlace& place);
     bool findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell);
     FieldProbeResult newResult(long zone) const;
     void findNeighborsInOtherZones(ProbedCell& cell, long zone);

@@ -78,7 +78,7 @@ void ProbeDialog::Impl::buildForm()
     if (isPageChosen) {
         probeInfo->setCurrentPage(lastProbePage);
     }
-    m_dialog.resize(400, 460);
+    m_dialog.resize(m_dialog.sizeHint().expandedTo(QSize(520, 460))); // all tabs are seen
     m_dialog.restoreGeometry(geometry);
 }
 

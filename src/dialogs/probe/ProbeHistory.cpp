@@ -31,7 +31,7 @@ void ProbeHistory::addLastProbe()
 
 void ProbeHistory::addVariablesOf(ProbeRecord const& record)
 {
-    for (auto const& [name, value] : record.values) {
+    for (QString const& name : record.names) {
         if (std::find(m_variables.begin(), m_variables.end(), name) == m_variables.end()) {
             beginInsertColumns({}, columnCount(), columnCount());
             m_variables.push_back(name);

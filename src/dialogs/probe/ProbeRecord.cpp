@@ -38,6 +38,13 @@ std::optional<ProbeRecord> ProbeRecord::ofLastProbe()
     return record;
 }
 
+void ProbeRecord::addValue(QString const& name, double value)
+{
+    if (values.insert_or_assign(name, value).second) {
+        names.push_back(name);
+    }
+}
+
 void ProbeRecord::takeField()
 {
     item = QString::fromStdString(GetProbedItemName());
@@ -48,7 +55,7 @@ void ProbeRecord::takeField()
         if (value.isValid) {
             char* name = nullptr;
             VtxUtilVarGetName(value.variable, &name);
-            values[QString::fromStdString(toolbox::takeHostString(name))] = value.value;
+            addValue(QString::fromStdString(toolbox::takeHostString(name)), value.value);
         }
     }
 }
@@ -68,7 +75,7 @@ void ProbeRecord::takeLine()
     item = probetables::axisName();
     for (LineMapValue_s const& value : GetLineProbeDependentValues()) {
         if (value.isValid) {
-            values[probetables::lineMapText(value.lineMap)] = value.value;
+            addValue(probetables::lineMapText(value.lineMap), value.value);
         }
     }
 }

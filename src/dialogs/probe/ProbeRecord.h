@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace vantrix::sdk::ui::dialogs {
 
@@ -32,9 +33,11 @@ struct ProbeRecord
 
     /// By name those of the variables, or of the line maps, that had one.
     std::map<QString, double> values;
+    std::vector<QString> names; ///< of the values, in the order of the data
     std::shared_ptr<VtxProbeInfo> info;
 
 private:
+    void addValue(QString const& name, double value);
     void takeField();
     void takeLine();
 };

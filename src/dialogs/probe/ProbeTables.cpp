@@ -28,7 +28,9 @@ public:
     }
     ~RowWriter()
     {
-        m_table.resizeColumnsToContents();
+        for (int column = 0; column + 1 < m_table.columnCount(); ++column) { // the last one fills the table
+            m_table.resizeColumnToContents(column);
+        }
         m_table.resizeRowsToContents();
     }
     RowWriter(RowWriter const&) = delete;

@@ -82,16 +82,48 @@ TEST_F(ProbeTest, ASurfaceIsProbedNearItAndNowhereElse)
     EXPECT_EQ(VtxUtilProbeFieldGetCellCenterValue(1), 2.5);
     EXPECT_FALSE(probeAt({5.5, 1.5, 2.5})) << "too far from the surface";
 
-    set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IPlanes}, 1);
-    EXPECT_TRUE(probeAt({2.0, 2.5, 1.5})) << "on a plane that is drawn inside of the volume";
-    EXPECT_EQ(VtxUtilProbeFieldGetCellNodeCount(), 8);
-
     const Position onSurface = places[0].at;
     set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_None}, 1);
     EXPECT_FALSE(probeAt(onSurface)) << "a surface that is not drawn";
     set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_BoundaryFaces}, 1);
     set("ActiveFieldMaps", 0L, 1);
     EXPECT_FALSE(probeAt(onSurface)) << "a zone that is not shown";
+}
+
+TEST_F(ProbeTest, PlanesOfConstantIndexAreProbedWhereTheyAreDrawn)
+{
+    showBox();
+    const Zone& zone = *document().activeDataSet()->zone(1);
+    set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IKPlanes}, 1);
+    set("FieldMap/Surfaces/IRange/Min", 2L, 1);
+    set("FieldMap/Surfaces/IRange/Max", 5L, 1);
+    set("FieldMap/Surfaces/IRange/Skip", 2L, 1);
+    set("FieldMap/Surfaces/KRange/Min", 4L, 1);
+    const struct
+    {
+        Position at;
+        IJKPlanes_e plane; // volume: on none
+        std::array<long, 3> first;
+    } places[] = {{{1.0, 2.5, 1.5}, IJKPlanes_I, {1, 2, 1}}, {{3.001, 0.25, 2.75}, IJKPlanes_I, {3, 0, 2}},
+                  {{2.5, 3.5, 3.0}, IJKPlanes_K, {2, 3, 3}}, {{2.0, 2.5, 1.5}, IJKPlanes_Volume, {}},
+                  {{5.0, 2.5, 1.5}, IJKPlanes_Volume, {}},   {{2.5, 2.0, 1.5}, IJKPlanes_Volume, {}},
+                  {{2.5, 2.5, 0.0}, IJKPlanes_Volume, {}},   {{1.25, 2.5, 1.5}, IJKPlanes_Volume, {}}};
+    for (const auto& place : places) {
+        SCOPED_TRACE(testing::PrintToString(place.at));
+        ASSERT_EQ(probeAt(place.at), place.plane != IJKPlanes_Volume);
+        if (place.plane != IJKPlanes_Volume) {
+            EXPECT_EQ(VtxUtilProbeFieldGetPlane(), place.plane);
+            EXPECT_EQ(VtxUtilProbeFieldGetCell(), pointNumber(zone, place.first) + 1);
+            EXPECT_EQ(VtxUtilProbeFieldGetCellNodeCount(), 4);
+            EXPECT_NEAR(VtxUtilProbeFieldGetValue(1), place.at[0], 1e-12);
+        }
+    }
+    set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_EveryFace}, 1);
+    EXPECT_TRUE(probeAt({2.5, 2.0, 1.5})) << "a J plane";
+    set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_ExposedFaces}, 1);
+    EXPECT_FALSE(probeAt({2.5, 2.0, 1.5})) << "inside";
+    ASSERT_TRUE(probeAt({2.5, 0.0, 1.5})) << lastError();
+    EXPECT_EQ(VtxUtilProbeFieldGetPlane(), IJKPlanes_J);
 }
 
 TEST_F(ProbeTest, AFlatPlotShowsTheFirstLayerOfAVolume)
