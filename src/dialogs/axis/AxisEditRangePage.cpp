@@ -77,6 +77,11 @@ void AxisEditRangePage::bindRelevanciesToControls()
     m_bindings.apply(RelevanceExpression(allowed).aand(m.xyzDependentRelevance()),
                      {m_form.axisEdit_RangeAxisSpec3DXZRatio_Label, m_form.axisEdit_RangeAxisSpec3DXZRatio_1Text});
 
+    m_bindings.apply(m.ySizeRelevance(), {m_form.axisEdit_RangeAxisSpec3DYScaleFact_Label,
+                                          m_form.axisEdit_RangeAxisSpec3DYScaleFact_1Text});
+    m_bindings.apply(m.zSizeRelevance(), {m_form.axisEdit_RangeAxisSpec3DZScaleFact_Label,
+                                          m_form.axisEdit_RangeAxisSpec3DZScaleFact_1Text});
+
     m_bindings.apply(m.flatRelevance(), {m_form.axisEdit_RangePreserveLength_ToggleButton});
     m_bindings.apply(m.reversibleRelevance(), {m_form.axisEdit_RangeReverseDir_ToggleButton});
     m_bindings.show(m.logScaleRelevance(), {m_form.axisEdit_RangeLogScale_ToggleButton});

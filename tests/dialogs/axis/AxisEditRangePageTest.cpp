@@ -177,6 +177,7 @@ TEST_F(AxisEditRangePageTest, FittingThetaMakesItsUnitArbitraryAndItsPeriodEdita
 TEST_F(AxisEditRangePageTest, ASizeFactorOfZeroLeavesTheOldOne)
 {
     auto const& dialog = openOn(PlotType_Cartesian3D);
+    setStyle({"ThreeDAxis", "AxisMode"}, long{AxisMode_Independent});
     enter(field(dialog, "3DYScaleFact"), "2.5");
     EXPECT_EQ(styleOf<double>({"GlobalThreeD", "AxisScale", "Y"}), 2.5);
     enter(field(dialog, "3DYScaleFact"), "0");
@@ -274,6 +275,23 @@ TEST_F(AxisEditRangePageTest, ControlsThatThePlotOrAxisHasNoUseForAreHidden)
     EXPECT_FALSE(isHidden(dialog, "axisEdit_RangeAxisSpecR_Form"));
     EXPECT_FALSE(isHidden(dialog, "axisEdit_RangeLogScale_ToggleButton"));
     EXPECT_TRUE(isHidden(dialog, "axisEdit_RangeAxisSpecTheta_Form"));
+}
+
+TEST_F(AxisEditRangePageTest, AnAxisThatDependsOnXHasNoSizeFactor)
+{
+    auto const& dialog = openOn(PlotType_Cartesian3D);
+    struct
+    {
+        AxisMode_e mode;
+        bool hasY, hasZ;
+    } const cases[] = {
+        {AxisMode_Independent, true, true}, {AxisMode_XYDependent, false, true}, {AxisMode_XYZDependent, false, false}};
+    for (auto const& each : cases) {
+        setStyle({"ThreeDAxis", "AxisMode"}, long{each.mode});
+        EXPECT_TRUE(field(dialog, "3DXScaleFact").isEnabled());
+        EXPECT_EQ(field(dialog, "3DYScaleFact").isEnabled(), each.hasY) << each.mode;
+        EXPECT_EQ(field(dialog, "3DZScaleFact").isEnabled(), each.hasZ) << each.mode;
+    }
 }
 
 TEST_F(AxisEditRangePageTest, WhatDoesNothingToAPlotCannotBeChanged)

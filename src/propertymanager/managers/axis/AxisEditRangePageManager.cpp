@@ -99,6 +99,8 @@ AxisEditRangePageManager::AxisEditRangePageManager(AxisEditProperties& propertie
           &isXYDependentAllowed, "Axes with a logarithmic scale, or more than one of a kind, are independent."))
     , m_xyDependent(whileAxisModeIsOneOf({AxisMode_XYDependent, AxisMode_XYZDependent}))
     , m_xyzDependent(whileAxisModeIsOneOf({AxisMode_XYZDependent}))
+    , m_ySizeRelevance(whileAxisModeIsOneOf({AxisMode_Independent}))
+    , m_zSizeRelevance(whileAxisModeIsOneOf({AxisMode_Independent, AxisMode_XYDependent}))
     , m_logScaleRelevance(whileAxis(
           [this] { return VtxUtilFrameGetPlotType() == PlotType_XYLine || this->properties().axisChar() == 'R'; }))
     , m_autoAdjustRelevance(whilePlotType({PlotType_XYLine, PlotType_Sketch, PlotType_Cartesian2D}))

@@ -60,6 +60,9 @@ public:
     /// Whether X and Y are in proportion, and X and Z.
     Relevance xyDependentRelevance() const { return m_xyDependent; }
     Relevance xyzDependentRelevance() const { return m_xyzDependent; }
+    /// Whether the sizes of Y and of Z are given by factors of their own, not by their proportion to X.
+    Relevance ySizeRelevance() const { return m_ySizeRelevance; }
+    Relevance zSizeRelevance() const { return m_zSizeRelevance; }
     Relevance logScaleRelevance() const { return m_logScaleRelevance; }
     Relevance autoAdjustRelevance() const { return m_autoAdjustRelevance; }
     /// Whether the length of an axis and its range can change without each other, and whether values can fall along it.
@@ -118,6 +121,8 @@ private:
     Relevance m_dependentAxesAllowed;
     Relevance m_xyDependent;
     Relevance m_xyzDependent;
+    Relevance m_ySizeRelevance;
+    Relevance m_zSizeRelevance;
     Relevance m_logScaleRelevance;
     Relevance m_autoAdjustRelevance;
     Relevance m_reversibleRelevance;
