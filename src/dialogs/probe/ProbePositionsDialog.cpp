@@ -113,6 +113,7 @@ ProbePositionsDialog::ProbePositionsDialog(QWidget& parent)
     layout->addWidget(m_impl->positions, 1);
     layout->addWidget(m_impl->isInVolume);
     layout->addWidget(buttonBox);
+    resize(380, 320);
     connect(buttonBox->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &ProbePositionsDialog::probe);
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("probe_history.html"), this));
 }
