@@ -35,12 +35,14 @@ private:
     std::vector<int> selectedRows() const;
     void updateButtons();
     void compare();
+    void showDifferences(bool isShown);
     void probeAgain();
     void remove();
     void exportTable();
 
     ProbeHistoryDialog& m_dialog;
     ProbeHistory& m_history = ProbeHistory::getInstance();
+    QSplitter* m_splitter;
     QTableView* m_table;
     QLabel* m_comparison;
     QTableWidget* m_differences;
@@ -53,6 +55,7 @@ private:
 
 ProbeHistoryDialog::Impl::Impl(ProbeHistoryDialog& dialog)
     : m_dialog(dialog)
+    , m_splitter(new QSplitter(Qt::Vertical, &dialog))
     , m_table(new QTableView(&dialog))
     , m_comparison(new QLabel(&dialog))
     , m_differences(new QTableWidget(0, 4, &dialog))
@@ -88,12 +91,15 @@ void ProbeHistoryDialog::Impl::buildForm()
     m_table->setModel(&m_history);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
     m_table->resizeColumnsToContents();
     m_comparison->setObjectName(QStringLiteral("probeHistory_comparison_label"));
     m_comparison->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_differences->setObjectName(QStringLiteral("probeHistory_differences_tableWidget"));
     m_differences->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_differences->setWordWrap(false);
+    m_differences->setAlternatingRowColors(true);
     m_differences->verticalHeader()->hide();
     m_differences->horizontalHeader()->setStretchLastSection(true);
 
@@ -102,12 +108,11 @@ void ProbeHistoryDialog::Impl::buildForm()
     belowLayout->setContentsMargins(0, 0, 0, 0);
     belowLayout->addWidget(m_comparison);
     belowLayout->addWidget(m_differences);
-    auto* const splitter = new QSplitter(Qt::Vertical, &m_dialog);
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(m_table);
-    splitter->addWidget(below);
-    splitter->setStretchFactor(0, 2);
-    splitter->setStretchFactor(1, 1);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(m_table);
+    m_splitter->addWidget(below);
+    m_splitter->setStretchFactor(0, 2);
+    m_splitter->setStretchFactor(1, 1);
 
     auto* const actions = new QHBoxLayout;
     m_probeAgain = addAction(*actions, tr("Probe &Again"), "probeHistory_probeAgain_pushButton");
@@ -125,10 +130,10 @@ void ProbeHistoryDialog::Impl::buildForm()
     auto* const buttonBox = new QDialogButtonBox(QDialogButtonBox::Close, &m_dialog);
     buttonBox->setObjectName(QStringLiteral("buttonBox"));
     auto* const layout = new QVBoxLayout(&m_dialog);
-    layout->addWidget(splitter, 1);
+    layout->addWidget(m_splitter, 1);
     layout->addLayout(actions);
     layout->addWidget(buttonBox);
-    m_dialog.resize(640, 480);
+    m_dialog.resize(720, 540);
 }
 
 std::vector<int> ProbeHistoryDialog::Impl::selectedRows() const
@@ -150,11 +155,21 @@ void ProbeHistoryDialog::Impl::updateButtons()
     m_remove->setEnabled(!selectedRows().empty());
 }
 
+void ProbeHistoryDialog::Impl::showDifferences(bool isShown)
+{
+    if (m_differences->isHidden() != isShown) {
+        return;
+    }
+    m_differences->setVisible(isShown);
+    int const height = m_splitter->height();
+    m_splitter->setSizes(isShown ? QList<int>{3 * height / 5, 2 * height / 5} : QList<int>{height, 0});
+}
+
 void ProbeHistoryDialog::Impl::compare()
 {
     m_differences->setRowCount(0);
     std::vector<int> const rows = selectedRows();
-    m_differences->setVisible(rows.size() == 2);
+    showDifferences(rows.size() == 2);
     if (rows.size() != 2) {
         m_comparison->setText(m_history.rowCount() < 2 ? tr("Probes of the plot are listed here as they are made.")
                                                        : tr("Select two probes to compare them."));
