@@ -101,7 +101,7 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
         GeometryPainter(canvas, rect, m_plot, *geometry).paint();
     }
     for (const auto& text : m_texts) {
-        TextPainter(canvas, rect, m_plot, *text).paint();
+        TextPainter(canvas, rect, m_plot, *text, request.latex).paint();
     }
     painter.restore();
     if (style.hasBorder) {

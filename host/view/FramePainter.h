@@ -14,6 +14,8 @@ class DataSet;
 
 namespace vantrix::view {
 
+class LatexPictures;
+
 /* What a frame is painted for. */
 struct PaintRequest
 {
@@ -21,6 +23,7 @@ struct PaintRequest
     bool isForScreen = true;
     bool isActive = true;  /* the frame that the dialogs edit */
     bool isMoving = false; /* its view is being changed with the mouse */
+    LatexPictures* latex = nullptr;
 };
 
 /* Paints one frame, and keeps what it read and rendered for the next time. */

@@ -2,10 +2,12 @@
 
 #include "kernel/Document.h"
 #include "kernel/Frame.h"
+#include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleStore.h"
 #include "view/FramePainter.h"
 #include "view/PaperStyle.h"
+#include "view/latex/LatexPictures.h"
 
 #include <QPainter>
 
@@ -41,6 +43,7 @@ struct PageRenderer::Impl
 
     kernel::Kernel& kernel;
     OffscreenWindow window;
+    LatexPictures latex{[this](const QString& error) { kernel.frontEnd().showStatus(error.toStdString()); }};
     std::map<long, std::unique_ptr<Entry>> entries;
     long droppedRenders = 0;
     bool isMoving = false;
@@ -85,7 +88,7 @@ void PageRenderer::Impl::paint(QPainter& painter, const kernel::Frame& frame, co
                                bool isForScreen)
 {
     const bool isActive = kernel.document().activeFrame() == &frame;
-    const PaintRequest request{settings(), isForScreen, isActive, isMoving && isActive};
+    const PaintRequest request{settings(), isForScreen, isActive, isMoving && isActive, &latex};
     const TextEdges edges =
         !isForScreen ? TextEdges{} : TextEdges{settings().hasPlainTexts, settings().hasPlainSmallTexts};
     entry(frame).painter.paint(painter, inch, edges, rect, request);
@@ -192,6 +195,11 @@ QImage PageRenderer::frameImage(const kernel::Frame& frame, int width)
     QPainter painter(&image);
     paintFrame(painter, frame, image.width() / size.width());
     return image;
+}
+
+void PageRenderer::forgetLatexErrors()
+{
+    m_impl->latex.forgetErrors();
 }
 
 void PageRenderer::setMoving(bool moving)

@@ -67,6 +67,10 @@ public:
     QImage pageImage(const kernel::Page& page, int width);
     QImage frameImage(const kernel::Frame& frame, int width);
 
+    /* LaTeX texts that could not be set are tried again at the next painting. Their errors are shown in the status
+     * line. */
+    void forgetLatexErrors();
+
     /*
      * While a view is being dragged, field plots that take long are painted approximately, where the settings allow it;
      * the next painting after it is set back is in full detail.

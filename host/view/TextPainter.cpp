@@ -23,13 +23,15 @@ QPointF anchorPart(TextAnchor_e anchor)
 
 } // namespace
 
-TextPainter::TextPainter(const Canvas& canvas, const QRectF& frame, const FramePlot& plot, const kernel::Text& text)
+TextPainter::TextPainter(const Canvas& canvas, const QRectF& frame, const FramePlot& plot, const kernel::Text& text,
+                         LatexPictures* latex)
     : m_canvas(canvas)
     , m_text(text)
     , m_anchor(anchor(frame, plot))
     , m_height(height(frame, plot))
     , m_font(font(m_height))
     , m_lines(QString::fromStdString(text.text).split(QLatin1Char('\n')))
+    , m_picture(picture(latex))
     , m_frameHeight(frame.height())
 {}
 
@@ -68,6 +70,16 @@ QFont TextPainter::font(double height) const
     return font;
 }
 
+const LatexPictures::Picture* TextPainter::picture(LatexPictures* latex) const
+{
+    if (!latex || m_text.type != TextType_LaTeX || !m_anchor) {
+        return nullptr;
+    }
+    const LatexPictures::Picture& made = latex->picture(QString::fromStdString(m_text.text), indexedColor(m_text.color),
+                                                        m_height * m_canvas.resolution());
+    return made.error.isEmpty() ? &made : nullptr;
+}
+
 double TextPainter::lineDistance() const
 {
     return QFontMetricsF(m_font, m_canvas.painter.device()).height() * m_text.lineSpacing;
@@ -75,6 +87,9 @@ double TextPainter::lineDistance() const
 
 QSizeF TextPainter::size() const
 {
+    if (m_picture) {
+        return QSizeF(m_picture->image.size()) / m_picture->dpi * (m_height / LatexCompiler::capitalHeight);
+    }
     double width = 0.0;
     for (const QString& line : m_lines) {
         width = std::max(width, m_canvas.textSize(line, m_font).width());
@@ -83,14 +98,18 @@ QSizeF TextPainter::size() const
     return {width, double(m_lines.size() - 1) * lineDistance() + metrics.capHeight()};
 }
 
-QRectF TextPainter::box() const
+QRectF TextPainter::body() const
 {
     const QSizeF extent = size();
     const QPointF part = anchorPart(m_text.anchor);
-    // Y goes down: the bottom of the box is at part.y() heights below the anchor.
-    const QRectF lines(QPointF(-part.x() * extent.width(), (part.y() - 1.0) * extent.height()), extent);
+    // Y goes down: the bottom is at part.y() heights below the anchor.
+    return {QPointF(-part.x() * extent.width(), (part.y() - 1.0) * extent.height()), extent};
+}
+
+QRectF TextPainter::box() const
+{
     const double margin = m_text.box == TextBox_None ? 0.0 : m_text.boxMargin / 100.0 * m_height;
-    return lines.adjusted(-margin, -margin, margin, margin);
+    return body().adjusted(-margin, -margin, margin, margin);
 }
 
 QPolygonF TextPainter::outline() const
@@ -116,20 +135,28 @@ void TextPainter::paint() const
         painter.setBrush(m_text.box == TextBox_Filled ? QBrush(indexedColor(m_text.boxFillColor)) : QBrush());
         painter.drawRect(box());
     }
-    const QSizeF extent = size();
-    const QPointF part = anchorPart(m_text.anchor);
-    const double left = -part.x() * extent.width();
-    double baseline = part.y() * extent.height() - double(m_lines.size() - 1) * lineDistance();
-    for (const QString& line : m_lines) {
-        // Lines are aligned to the side that the anchor is on.
-        const double indent = part.x() * (extent.width() - m_canvas.textSize(line, m_font).width());
-        painter.setFont(m_font);
-        painter.setPen(indexedColor(m_text.color));
-        painter.drawText(QPointF(left + indent, baseline), line);
-        baseline += lineDistance();
+    if (m_picture) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(body(), m_picture->image);
+    } else {
+        paintLines(body());
     }
     painter.restore();
     m_canvas.markArea({.type = PickObject_Text, .number = m_text.handle}, outline());
+}
+
+void TextPainter::paintLines(const QRectF& place) const
+{
+    QPainter& painter = m_canvas.painter;
+    painter.setFont(m_font);
+    painter.setPen(indexedColor(m_text.color));
+    double baseline = place.bottom() - double(m_lines.size() - 1) * lineDistance();
+    for (const QString& line : m_lines) {
+        // Lines are aligned to the side that the anchor is on.
+        const double room = place.width() - m_canvas.textSize(line, m_font).width();
+        painter.drawText(QPointF(place.left() + anchorPart(m_text.anchor).x() * room, baseline), line);
+        baseline += lineDistance();
+    }
 }
 
 } // namespace vantrix::view

@@ -3,6 +3,7 @@
 #include "kernel/Text.h"
 #include "view/Canvas.h"
 #include "view/FramePlot.h"
+#include "view/latex/LatexPictures.h"
 
 #include <QPolygonF>
 #include <QStringList>
@@ -12,13 +13,15 @@
 namespace vantrix::view {
 
 /*
- * Paints a text of a frame: its lines, turned about the anchor, and its box. `frame` is the frame's rectangle in the
- * canvas' logical units; a place in data coordinates needs the plot that was painted there.
+ * Paints a text of a frame: its lines, or what LaTeX makes of it, turned about the anchor, and its box. `frame` is the
+ * frame's rectangle in the canvas' logical units; a place in data coordinates needs the plot that was painted there.
+ * LaTeX that cannot be set is painted as its source.
  */
 class TextPainter
 {
 public:
-    TextPainter(const Canvas& canvas, const QRectF& frame, const FramePlot& plot, const kernel::Text& text);
+    TextPainter(const Canvas& canvas, const QRectF& frame, const FramePlot& plot, const kernel::Text& text,
+                LatexPictures* latex = nullptr);
 
     void paint() const;
 
@@ -30,8 +33,11 @@ private:
     std::optional<QPointF> anchor(const QRectF& frame, const FramePlot& plot) const;
     double height(const QRectF& frame, const FramePlot& plot) const;
     QFont font(double height) const;
+    const LatexPictures::Picture* picture(LatexPictures* latex) const;
+    void paintLines(const QRectF& place) const;
     double lineDistance() const;
     QSizeF size() const;
+    QRectF body() const;
     QRectF box() const;
 
     const Canvas& m_canvas;
@@ -40,6 +46,7 @@ private:
     double m_height; /* of a capital letter, in logical units */
     QFont m_font;
     QStringList m_lines;
+    const LatexPictures::Picture* m_picture; /* null for plain text */
     double m_frameHeight;
 };
 

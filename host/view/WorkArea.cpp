@@ -72,6 +72,9 @@ struct WorkArea::Impl : kernel::PickSurface
     {
         auto* self = static_cast<Impl*>(impl);
         self->widget.update();
+        if (change->kind == StateChange_Text) {
+            self->context.renderer.forgetLatexErrors();
+        }
         if (change->kind == StateChange_MouseMode) {
             self->widget.endInsert();
         }

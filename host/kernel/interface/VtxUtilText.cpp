@@ -1,5 +1,6 @@
 #include "api/VtxUtilText.h"
 
+#include "kernel/StateChanges.h"
 #include "kernel/TextValues.h"
 #include "kernel/UndoStack.h"
 #include "kernel/interface/FrameObjectInterface.h"
@@ -23,8 +24,17 @@ void nameStep(const char* name)
 bool VtxUtilTextSetX(VtxArgListHandle arguments)
 {
     const auto set = [&] {
-        nameStep(arguments->find("TextID") ? "Edit Text" : "Insert Text");
-        return texts().set(*arguments);
+        const long* handle = arguments->findAs<long>("TextID");
+        nameStep(handle ? "Edit Text" : "Insert Text");
+        const Text* before = handle ? Kernel::instance().texts().find(*handle) : nullptr;
+        if (!texts().set(*arguments)) {
+            return false;
+        }
+        const bool isAsBefore = before && before == Kernel::instance().texts().find(*handle);
+        if (isAsBefore && before->type == TextType_LaTeX && arguments->find("Text")) {
+            Kernel::instance().stateChanges().send({StateChange_Text, -1, *handle}); // LaTeX is set anew
+        }
+        return true;
     };
     return boundary::change<&VtxUtilTextSetX>(false, set, arguments);
 }
