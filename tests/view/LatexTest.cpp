@@ -74,7 +74,7 @@ TEST_F(LatexTest, TellsWhichProgramIsMissing)
 TEST_F(LatexTest, TellsWhatIsWrongWithTheSourceAndInWhichLine)
 {
     install("latex", "echo 'This is a TeX'\necho './text.tex:7: Undefined control sequence.'\n"
-                     "echo 'l.7 \\nosuch'\necho '           {x}'\nexit 1\n");
+                     "printf '%s\\n' 'l.7 \\nosuch'\necho '           {x}'\nexit 1\n");
     EXPECT_EQ(errorOf(m_compiler), "LaTeX, line 2: Undefined control sequence. (\\nosuch)");
     install("latex", "echo '! Emergency stop.'\nexit 1\n");
     EXPECT_EQ(errorOf(m_compiler), "LaTeX, Emergency stop.");

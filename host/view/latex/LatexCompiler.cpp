@@ -39,21 +39,23 @@ void write(const QString& name, const QByteArray& content)
     }
 }
 
-/* The first error that LaTeX tells of: "./text.tex:6: Undefined control sequence.", with what stands at it. */
+/* The first error that LaTeX tells of, "./text.tex:6: Undefined control sequence." or "! Emergency stop.", with its
+ * line of the source and what stands there, which follow as "l.6 \nosuch". */
 QString errorIn(const QString& output)
 {
-    static const QRegularExpression error(u"text\\.tex:(\\d+): (.+)"_s);
-    static const QRegularExpression place(u"^l\\.\\d+ (.*)$"_s, QRegularExpression::MultilineOption);
-    static const QRegularExpression plain(u"^! (.+)$"_s, QRegularExpression::MultilineOption);
-    if (const auto found = error.match(output); found.hasMatch()) {
-        const auto line = found.captured(1).toInt() - head.count(u'\n');
-        const auto at = place.match(output, found.capturedEnd());
-        const QString what = found.captured(2).trimmed();
-        return at.hasMatch() ? u"line %1: %2 (%3)"_s.arg(line).arg(what, at.captured(1).trimmed())
-                             : u"line %1: %2"_s.arg(line).arg(what);
+    static const QRegularExpression error(u"^(?:.*text\\.tex:\\d+: |! )(.+)$"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression place(u"^l\\.(\\d+) (.*)$"_s, QRegularExpression::MultilineOption);
+    const auto found = error.match(output);
+    if (!found.hasMatch()) {
+        return u"it gives no reason"_s;
     }
-    const auto found = plain.match(output);
-    return found.hasMatch() ? found.captured(1).trimmed() : u"it gives no reason"_s;
+    const QString what = found.captured(1).trimmed();
+    const auto at = place.match(output, found.capturedEnd());
+    if (!at.hasMatch()) {
+        return what;
+    }
+    const auto line = at.captured(1).toInt() - head.count(u'\n');
+    return u"line %1: %2 (%3)"_s.arg(line).arg(what, at.captured(2).trimmed());
 }
 
 QProcessEnvironment confined()
@@ -63,6 +65,7 @@ QProcessEnvironment confined()
     environment.insert(u"openout_any"_s, u"p"_s);
     environment.insert(u"shell_escape"_s, u"f"_s);
     environment.remove(u"TEXMFOUTPUT"_s);
+    environment.insert(u"max_print_line"_s, u"1000"_s); // errors are not broken into lines
     return environment;
 }
 
