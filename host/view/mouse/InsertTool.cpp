@@ -101,10 +101,14 @@ void InsertTool::insert()
     const QRectF area = QRectF(position(m_from), position(m_to)).normalized();
     QPointF place = area.topLeft();
     GeomType_e type = m_type;
+    if (m_isRegular && type != GeomType_Line) {
+        type = type == GeomType_Ellipse ? GeomType_Circle : GeomType_Square;
+    }
     VtxArgList list;
     const auto add = [&](const char* name, VtxArgList::Value value) {
         list.arguments.push_back({name, std::move(value)});
     };
+    add("GeomType", long{type});
     if (type == GeomType_Line) {
         place = position(m_from);
         const QPointF way = position(m_to) - place;
@@ -112,29 +116,27 @@ void InsertTool::insert()
         add("ArrowheadAttachment", long{m_hasArrowhead ? ArrowheadAttachment_End : ArrowheadAttachment_None});
         add("ArrowheadStyle", long{ArrowheadStyle_Filled});
     } else {
-        if (m_isRegular) {
-            type = type == GeomType_Ellipse ? GeomType_Circle : GeomType_Square;
-        }
         if (type == GeomType_Circle || type == GeomType_Ellipse) {
             place = area.center();
         }
         add("Width", double(area.width()));
         add("Height", double(area.height()));
     }
-    add("GeomType", long{type});
     add("XPos", double(place.x()));
     add("YPos", double(place.y()));
     long created = 0;
     add("Result", &created);
     {
         const kernel::ActionLock lock(context().kernel.lock());
-        if (VtxUtilGeometrySetX(&list)) {
-            VtxUtilPickClear();
-            VtxUtilPickGeometry(created);
+        if (!VtxUtilGeometrySetX(&list)) {
+            Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
             return;
         }
     }
-    Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
+    // A macro that inserts a geometry where there are others already shall not pick one by its place among them.
+    const kernel::ActionLock unrecorded(context().kernel.lock(), false);
+    VtxUtilPickClear();
+    VtxUtilPickGeometry(created);
 }
 
 void InsertTool::paint(QPainter& painter) const
