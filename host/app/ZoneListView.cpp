@@ -42,7 +42,9 @@ ZoneListView::ZoneListView(QWidget* parent)
     layout->addWidget(m_count);
 
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(m_filter, signal, this, &ZoneListView::updateCount);
+        for (const QAbstractItemModel* model :
+             {static_cast<QAbstractItemModel*>(m_model), static_cast<QAbstractItemModel*>(m_filter)})
+            connect(model, signal, this, &ZoneListView::updateCount); // the filter's rows go before the model's
     connect(m_filter, &QAbstractItemModel::modelReset, this, &ZoneListView::updateCount);
     updateCount();
 }
