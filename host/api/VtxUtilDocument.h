@@ -22,6 +22,26 @@ bool VtxUtilFrameSetRect(long frameId, double left, double top, double width, do
 /* The identifier of frame `position` (from 1, the last is on top) of the active page; 0 when there is none. */
 long VtxUtilFrameGetIdAt(long position);
 
+/*
+ * Data sets that frames show, numbered from 1 in the order of pages and frames. Frames may show the same one; a change of
+ * its data is then seen in all of them, while each has a plot type and style of its own.
+ */
+long VtxUtilFrameGetDataSetCount(void);
+
+/* The title of a data set; false where there is no such number. */
+bool VtxUtilFrameGetDataSetTitle(long number, char** title);
+
+/* The number of what the active frame shows; 0 for none. */
+long VtxUtilFrameGetDataSetNumber(void);
+
+/* Shows a data set in the active frame, with the plot that suits it, unless the frame shows it already. Sends
+ * `StateChange_DataSetReset`. */
+bool VtxUtilFrameAttachDataSet(long number);
+
+/* Adds a frame that shows the same data on top of the active one, from half an inch right of and below its corner to its
+ * opposite corner, and makes it active. */
+bool VtxUtilFrameCreateOnSameData(void);
+
 /* Adds a page with one empty frame behind the others and makes it active. The last page cannot be deleted. */
 bool VtxUtilPageCreate(void);
 bool VtxUtilPageDelete(long position);

@@ -2,6 +2,7 @@
 
 #include "api/VtxUtil.h"
 #include "app/HostAction.h"
+#include "toolbox/HostString.h"
 
 #include <QMenu>
 
@@ -25,6 +26,12 @@ FrameMenu::FrameMenu(QMenu* menu)
     addHostAction(*menu, tr("&Create Frame"), u"createFrameAction"_s, [] {
         return VtxUtilMouseSetMode(MouseMode_CreateFrame);
     })->setStatusTip(tr("Drag a rectangle on the paper for a new frame"));
+    m_onSameData = addHostAction(*menu, tr("Create on &Same Data"), u"createFrameOnSameDataAction"_s,
+                                 [] { return VtxUtilFrameCreateOnSameData(); });
+    m_onSameData->setStatusTip(tr("Create a frame that shows the data of the active one"));
+    m_dataSets = menu->addMenu(tr("Show Da&ta Set"));
+    m_dataSets->setObjectName(u"frameDataSetMenu"_s);
+    connect(m_dataSets, &QMenu::aboutToShow, this, &FrameMenu::listDataSets);
     m_pop = addHostAction(*menu, tr("&Pop Frame"), u"popFrameAction"_s,
                           [] { return VtxUtilFramePop(VtxUtilFrameGetUniqueID()); });
     m_pop->setStatusTip(tr("Put the active frame above all others"));
@@ -44,6 +51,24 @@ void FrameMenu::update()
     m_pop->setEnabled(hasSeveral);
     m_push->setEnabled(hasSeveral);
     m_delete->setEnabled(VtxUtilFrameGetCount() > 0);
+    m_onSameData->setEnabled(VtxUtilFrameGetDataSetNumber() > 0);
+    m_dataSets->setEnabled(VtxUtilFrameGetDataSetCount() > 0);
+}
+
+void FrameMenu::listDataSets()
+{
+    m_dataSets->clear();
+    const long shown = VtxUtilFrameGetDataSetNumber();
+    for (long number = 1; number <= VtxUtilFrameGetDataSetCount(); ++number) {
+        char* title = nullptr;
+        VtxUtilFrameGetDataSetTitle(number, &title);
+        QString name = QString::fromStdString(toolbox::takeHostString(title));
+        const QString text = u"%1: %2"_s.arg(number).arg(name.replace(u'&', u"&&"_s));
+        QAction* action = addHostAction(*m_dataSets, text, u"showDataSet_%1"_s.arg(number),
+                                        [number] { return VtxUtilFrameAttachDataSet(number); });
+        action->setCheckable(true);
+        action->setChecked(number == shown);
+    }
 }
 
 } // namespace vantrix::app

@@ -9,7 +9,8 @@ class QMenu;
 
 namespace vantrix::app {
 
-/* The actions on the active frame: create one with the mouse, pop, push, delete. */
+/* The actions on the active frame: create one with the mouse or on the same data, choose its data, pop, push, delete.
+ */
 class FrameMenu : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,10 @@ public:
 
 private:
     void update();
+    void listDataSets();
 
+    QAction* m_onSameData;
+    QMenu* m_dataSets;
     QAction* m_pop;
     QAction* m_push;
     QAction* m_delete;

@@ -429,6 +429,19 @@ void Document::attachDataSet(Frame& frame, std::shared_ptr<const DataSet> dataSe
     m_changes.send(StateChange_DataSetReset);
 }
 
+std::vector<std::shared_ptr<const DataSet>> Document::dataSets() const
+{
+    std::vector<std::shared_ptr<const DataSet>> found;
+    for (const auto& page : m_pages) {
+        for (const auto& frame : page->frames) {
+            if (frame->dataSet() && std::ranges::find(found, frame->dataSet()) == found.end()) {
+                found.push_back(frame->dataSet());
+            }
+        }
+    }
+    return found;
+}
+
 void Document::replacePages(std::vector<std::shared_ptr<Page>> pages, std::size_t activePage)
 {
     m_pages = std::move(pages);

@@ -38,6 +38,9 @@ public:
     /* The data set of the active frame, or null. */
     std::shared_ptr<const DataSet> activeDataSet() const;
 
+    /* What the frames show, each once, in the order of pages and frames. */
+    std::vector<std::shared_ptr<const DataSet>> dataSets() const;
+
     /* Moves whenever another page or frame becomes active or a frame shows other data. */
     unsigned long contextStamp() const { return m_contextStamp; }
 

@@ -3,6 +3,7 @@
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/PlotDefaults.h"
 #include "kernel/StyleStore.h"
 
 #include <algorithm>
@@ -42,6 +43,41 @@ Frame& FrameActions::create(double left, double top, double width, double height
     }
     setRect(frame->id(), left, top, width, height);
     return *frame;
+}
+
+void FrameActions::attachDataSet(long number)
+{
+    const auto dataSets = m_kernel.document().dataSets();
+    if (number < 1 || number > static_cast<long>(dataSets.size())) {
+        throw DataError("There is no data set " + std::to_string(number) + "; the frames show " +
+                        std::to_string(dataSets.size()) + '.');
+    }
+    Frame* frame = m_kernel.document().activeFrame();
+    if (!frame) {
+        throw DataError("There is no frame to show the data in. Create a frame first.");
+    }
+    const auto& dataSet = dataSets[static_cast<std::size_t>(number - 1)];
+    if (frame->dataSet() != dataSet) {
+        m_kernel.document().attachDataSet(*frame, dataSet);
+        PlotDefaults::apply(*frame);
+    }
+}
+
+void FrameActions::createOnSameData()
+{
+    const Frame* active = m_kernel.document().activeFrame();
+    if (!active || !active->dataSet()) {
+        throw DataError("The active frame shows no data that another could show.");
+    }
+    constexpr double offset = 0.5; /* inches */
+    const auto dataSet = active->dataSet();
+    const StyleStore& style = m_kernel.style();
+    const auto get = [&](const char* path) { return style.real(active->id(), style.entry(path)); };
+    Frame& frame = create(get("FrameLayout/XYPos/X") + offset, get("FrameLayout/XYPos/Y") + offset,
+                          std::max(leastSize, get("FrameLayout/Width") - offset),
+                          std::max(leastSize, get("FrameLayout/Height") - offset));
+    m_kernel.document().attachDataSet(frame, dataSet);
+    PlotDefaults::apply(frame);
 }
 
 void FrameActions::setRect(long frameId, double left, double top, double width, double height)

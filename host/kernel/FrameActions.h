@@ -21,6 +21,10 @@ public:
     /* See VtxUtilFrameCreate(). */
     Frame& create(double left, double top, double width, double height);
 
+    /* See VtxUtilFrameAttachDataSet() and VtxUtilFrameCreateOnSameData(). */
+    void attachDataSet(long number);
+    void createOnSameData();
+
     void setRect(long frameId, double left, double top, double width, double height);
 
     /* See VtxUtilFrameDelete() and VtxUtilPageDelete(). */

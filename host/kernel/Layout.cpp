@@ -150,14 +150,10 @@ std::string Layout::text(const std::string& folder) const
     writer.write(0, {"Layout", {{"Version", 1L}}});
     writeUnknown(0, 0);
     std::map<const DataSet*, long> numbers;
-    for (const auto& page : document.pages()) {
-        for (const auto& frame : page->frames) {
-            const DataSet* data = frame->dataSet().get();
-            const long number = static_cast<long>(numbers.size()) + 1;
-            if (data && numbers.try_emplace(data, number).second) {
-                writer.writeDataSet(number, *data);
-            }
-        }
+    for (const auto& data : document.dataSets()) {
+        const long number = static_cast<long>(numbers.size()) + 1;
+        numbers[data.get()] = number;
+        writer.writeDataSet(number, *data);
     }
     for (const auto& page : document.pages()) {
         MacroCommand head{"Page", {}};

@@ -141,3 +141,43 @@ TEST_F(FrameActionsTest, PagesComeAndGo)
     EXPECT_FALSE(VtxUtilPageDelete(1)) << "the last one stays";
     EXPECT_EQ(VtxUtilPageGetCount(), 1);
 }
+
+TEST_F(FrameActionsTest, FramesShareDataAndEachHasItsOwnPlot)
+{
+    EXPECT_EQ(VtxUtilFrameGetDataSetNumber(), 0);
+    {
+        const LockScope lock;
+        EXPECT_FALSE(VtxUtilFrameCreateOnSameData()) << "there are no data";
+        EXPECT_FALSE(VtxUtilFrameAttachDataSet(1));
+    }
+    show("fe2d");
+    const long zones = VtxUtilDataSetGetNumZones();
+    const long first = VtxUtilFrameGetUniqueID();
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilFrameCreateOnSameData()) << kernel().lastError();
+    }
+    ASSERT_NE(VtxUtilFrameGetUniqueID(), first);
+    EXPECT_EQ(VtxUtilFrameGetDataSetNumber(), 1);
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilFrameSetPlotType(PlotType_XYLine)) << kernel().lastError();
+        ASSERT_TRUE(VtxUtilFrameActivate(first));
+        EXPECT_EQ(VtxUtilFrameGetPlotType(), PlotType_Cartesian2D);
+        ASSERT_TRUE(VtxUtilCreateRectangularZone(2, 2, 1, 0, 0, 0, 1, 1, 0, FieldDataType_Double));
+        ASSERT_TRUE(VtxUtilFrameActivate(VtxUtilFrameGetIdAt(2)));
+    }
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), zones + 1) << "made in the other frame";
+
+    show("lines");
+    ASSERT_EQ(VtxUtilFrameGetDataSetCount(), 2);
+    EXPECT_EQ(VtxUtilFrameGetDataSetNumber(), 2) << "the first is that of the lowest frame";
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilFrameAttachDataSet(1));
+    }
+    EXPECT_EQ(VtxUtilFrameGetDataSetCount(), 1);
+    EXPECT_EQ(VtxUtilDataSetGetNumZones(), zones + 1);
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(VtxUtilFrameGetDataSetCount(), 2);
+}

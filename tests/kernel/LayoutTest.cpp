@@ -296,7 +296,7 @@ private:
     void act()
     {
         static const char* const samples[] = {"flow3d", "fe2d", "lines", "mixed"};
-        switch (pick(20)) {
+        switch (pick(28)) {
         case 0:
             VtxUtilFrameCreate(inches(), inches(), inches(), inches());
             break;
@@ -344,6 +344,16 @@ private:
         case 12:
             VtxUtilLineMapCreate(1, 1, 1 + pick(3));
             break;
+        case 20:
+        case 21:
+            setSomeGeometry();
+            break;
+        case 18:
+            VtxUtilFrameAttachDataSet(1 + pick(3));
+            break;
+        case 19:
+            VtxUtilFrameCreateOnSameData();
+            break;
         case 13:
             setSomeText();
             break;
@@ -384,6 +394,23 @@ private:
         list.appendDouble("XPos", inches());
         list.appendArbParam("TextColor", pick(80)); // some there are not
         VtxUtilTextSetX(list.handle());
+    }
+
+    void setSomeGeometry()
+    {
+        const long last = VtxUtilGeometryGetNext(VtxUtilGeometryGetFirst());
+        if (pick(4) == 0) {
+            VtxUtilGeometryDelete(VtxUtilGeometryGetFirst());
+            return;
+        }
+        ArgList list;
+        if (last != 0) {
+            list.appendArbParam("GeometryID", last);
+        }
+        list.appendArbParam("GeomType", pick(5));
+        list.appendString("Points", pick(4) == 0 ? "none" : "0 0; 10.5 20");
+        list.appendDouble("Width", inches());
+        VtxUtilGeometrySetX(list.handle());
     }
 
     void changeSomeAxis()
@@ -455,6 +482,8 @@ TEST_F(LayoutTest, ARecordedSessionReplayedEndsInTheSameState)
         const std::string recorded = content(macro);
         EXPECT_GT(std::count(recorded.begin(), recorded.end(), '\n'), 50) << "something happened";
         EXPECT_THAT(recorded, HasSubstr("TextID=")) << "to texts as well";
+        EXPECT_THAT(recorded, HasSubstr("GeometryID="));
+        EXPECT_THAT(recorded, HasSubstr("FrameAttachDataSet"));
 
         kernel().reset();
         ASSERT_TRUE(VtxUtilMacroRun(macro.c_str())) << "seed " << seed << ": " << kernel().lastError();

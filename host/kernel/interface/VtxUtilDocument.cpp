@@ -9,6 +9,8 @@
 #include "kernel/interface/Boundary.h"
 #include "kernel/macro/MacroPlayer.h"
 
+#include <algorithm>
+
 using namespace vantrix::kernel;
 
 namespace {
@@ -37,6 +39,44 @@ bool VtxUtilFrameCreate(double left, double top, double width, double height)
     return act<&VtxUtilFrameCreate>(
         "Create Frame", [&](FrameActions frames) { frames.create(left, top, width, height); }, left, top, width,
         height);
+}
+
+long VtxUtilFrameGetDataSetCount(void)
+{
+    return boundary::guarded(0L, [] { return static_cast<long>(document().dataSets().size()); });
+}
+
+bool VtxUtilFrameGetDataSetTitle(long number, char** title)
+{
+    *title = nullptr;
+    return boundary::guarded(false, [&] {
+        const auto dataSets = document().dataSets();
+        if (number < 1 || number > static_cast<long>(dataSets.size())) {
+            return boundary::fail("There is no data set " + std::to_string(number) + '.');
+        }
+        *title = boundary::copyString(dataSets[static_cast<std::size_t>(number - 1)]->title);
+        return *title != nullptr;
+    });
+}
+
+long VtxUtilFrameGetDataSetNumber(void)
+{
+    return boundary::guarded(0L, [] {
+        const auto dataSets = document().dataSets();
+        const auto found = std::ranges::find(dataSets, document().activeDataSet());
+        return found == dataSets.end() ? 0L : static_cast<long>(found - dataSets.begin()) + 1;
+    });
+}
+
+bool VtxUtilFrameAttachDataSet(long number)
+{
+    return act<&VtxUtilFrameAttachDataSet>(
+        "Show Data Set", [&](FrameActions frames) { frames.attachDataSet(number); }, number);
+}
+
+bool VtxUtilFrameCreateOnSameData(void)
+{
+    return act<&VtxUtilFrameCreateOnSameData>("Create Frame", [](FrameActions frames) { frames.createOnSameData(); });
 }
 
 bool VtxUtilFrameSetRect(long frameId, double left, double top, double width, double height)

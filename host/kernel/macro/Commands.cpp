@@ -104,6 +104,8 @@ const std::vector<Command>& commands()
         command<&VtxUtilCreateRectangularZone>("CreateRectangularZone", {"IMax", "JMax", "KMax", "XMin", "YMin", "ZMin",
                                                                          "XMax", "YMax", "ZMax", "DataType"}),
         command<&VtxUtilFrameCreate>("FrameCreate", {"Left", "Top", "Width", "Height"}),
+        command<&VtxUtilFrameAttachDataSet>("FrameAttachDataSet", {"Number"}),
+        command<&VtxUtilFrameCreateOnSameData>("FrameCreateOnSameData"),
         command<&VtxUtilFrameSetRect>("FrameSetRect", {frameArgument, "Left", "Top", "Width", "Height"}),
         command<&VtxUtilFrameDelete>("FrameDelete", {frameArgument}),
         command<&VtxUtilFrameActivate>("FrameActivate", {frameArgument}),
