@@ -13,10 +13,12 @@ public:
         : m_binding(binding)
     {}
 
-    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // A context menu takes the focus for a moment; the user is still editing.
-        if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+        // A context menu takes the focus for a moment; the user is still editing. A field that is being destroyed loses
+        // the focus when it is a text edit no more.
+        if (event->type() == QEvent::FocusOut && static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason &&
+            qobject_cast<QTextEdit*>(watched)) {
             m_binding.editingFinished();
         }
         return false;
@@ -66,6 +68,9 @@ void TextEditPropertyBinding::updateWidget()
 
 bool TextEditPropertyBinding::editingFinished()
 {
+    if (!m_textEdit) {
+        return false;
+    }
     AppLock const lock(false);
     bool const isTaken = setProperty(m_textEdit->toPlainText().toStdString());
     updateWidget();

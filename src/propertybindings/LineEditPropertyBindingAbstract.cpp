@@ -51,8 +51,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        // When another window or a popup comes to the front the user is not done with the field.
-        if (event->type() == QEvent::FocusOut && !isTemporary(static_cast<QFocusEvent*>(event)->reason())) {
+        // When another window or a popup comes to the front the user is not done with the field. A field that is being
+        // destroyed loses the focus when it is a line edit no more.
+        if (event->type() == QEvent::FocusOut && !isTemporary(static_cast<QFocusEvent*>(event)->reason()) &&
+            qobject_cast<QLineEdit*>(watched)) {
             m_binding.focusLost();
         }
         return QObject::eventFilter(watched, event);

@@ -34,7 +34,9 @@ protected:
         return function(arguments...);
     }
 
-    static bool view(std::initializer_list<std::pair<const char*, long>> values)
+    using NamedValues = std::vector<std::pair<const char*, long>>;
+
+    static bool view(const NamedValues& values)
     {
         toolbox::ArgList arguments;
         for (const auto& [name, number] : values) {
@@ -156,8 +158,7 @@ TEST_F(AxisRangesTest, TheViewIsFittedByNamedArguments)
     EXPECT_TRUE(view({{"ViewOP", ViewOp_DataFit}}));
     EXPECT_EQ(range("TwoDAxis/YDetail"), variable(2));
 
-    for (const auto& [arguments, text] :
-         std::initializer_list<std::pair<std::initializer_list<std::pair<const char*, long>>, const char*>>{
+    for (const auto& [arguments, text] : std::vector<std::pair<NamedValues, const char*>>{
              {{{"Axis", 'X'}}, "\"ViewOP\" is missing"},
              {{{"ViewOP", ViewOp_AxisFit}}, "\"Axis\" is missing"},
              {{{"ViewOP", 17}}, "it has to be a ViewOp_e"},

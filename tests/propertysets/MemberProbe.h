@@ -3,7 +3,9 @@
 #include "property/InvalidPropertyValueException.h"
 #include "property/PropertyAbstract.h"
 
+#include <numeric>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 /// One member of a property set, whatever its type, so that a test can treat all alike.
@@ -33,10 +35,10 @@ public:
 
     bool change() override
     {
-        for (T const& value : otherValues()) {
+        for (Candidate const& value : otherValues()) {
             try {
-                m_property->setValue(value);
-                return m_property->value() == value;
+                m_property->setValue(static_cast<T>(value));
+                return m_property->value() == static_cast<T>(value);
             } catch (vantrix::InvalidPropertyValueException const&) {
                 continue;
             }
@@ -44,7 +46,7 @@ public:
         return false;
     }
 
-    void edit() override { m_property->setValue(otherValues().front()); }
+    void edit() override { m_property->setValue(static_cast<T>(otherValues().front())); }
     void restore() override { m_property->setValue(m_first); }
     bool isAsAtFirst() const override { return m_property->value() == m_first; }
 
@@ -55,19 +57,19 @@ public:
     }
 
 private:
-    std::vector<T> otherValues() const
+    /// A number is made an enumerator only when it is tried: one too large for the enumeration must not exist.
+    using Candidate = std::conditional_t<std::is_enum_v<T>, int, T>;
+
+    std::vector<Candidate> otherValues() const
     {
         if constexpr (std::is_same_v<T, bool>) {
             return {!m_first};
         } else if constexpr (std::is_same_v<T, std::string>) {
             return {m_first + "x"};
         } else if constexpr (std::is_enum_v<T>) {
-            std::vector<T> values;
-            for (int number = 0; number <= 10; ++number) {
-                if (number != m_first) {
-                    values.push_back(static_cast<T>(number));
-                }
-            }
+            std::vector<int> values(4);
+            std::iota(values.begin(), values.end(), 0);
+            std::erase(values, static_cast<int>(m_first));
             return values;
         } else {
             return {static_cast<T>(m_first + 1), static_cast<T>(m_first - 1), static_cast<T>(m_first / 2)};

@@ -37,4 +37,20 @@ TEST(TextEditBinding, TakesTheTextWhenTheFocusLeavesAndFollowsTheProperty)
     EXPECT_EQ(textEdit->toPlainText(), QString(QChar(0xe4)));
 }
 
+TEST(TextEditBinding, OutlivesAWidgetThatHasTheFocus)
+{
+    auto* textEdit = new QTextEdit;
+    auto const property = boost::make_shared<Property<std::string>>("one");
+    TextEditPropertyBinding binding(textEdit, property, BindingInterface::Immediate);
+    textEdit->show();
+    textEdit->activateWindow();
+    textEdit->setFocus();
+    test::idle();
+    textEdit->setPlainText(QStringLiteral("two"));
+    delete textEdit;
+    property->setValue("three");
+    EXPECT_FALSE(binding.editingFinished());
+    EXPECT_EQ(property->value(), "three");
+}
+
 } // namespace
