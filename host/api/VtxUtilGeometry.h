@@ -35,13 +35,18 @@ typedef enum
  *   "PositionCoordSys"     long    a CoordSys_e: % of the frame's width and height from its lower left corner, or data
  *                                  coordinates; those of a 3D plot only for lines
  *   "XPos" "YPos" "ZPos"   double  in those units: the middle of circles and ellipses, the lower left corner of
- * rectangles and squares, of lines what their points are relative to "Points"               string  of a line: "x y" or
- * "x y z" of each point, separated by ";", and, where a new line begins, by "/", as in "0 0; 10 5; 10 20 / 0 0; 3 3".
- * At least two points for each line "Width" "Height"       double  of rectangles and ellipses, across and up, above 0;
- * squares and circles have a width only, which is measured along X, and look as such whatever the axes are "IsClipped"
- * long    whether what lies outside of the plot's axes is left away "Color"                long    of the line, a
- * colour index "IsFilled" "FillColor" long "LinePattern"          long    a LinePattern_e "PatternLength"        double
- * of one repetition, % of the frame's height, above 0 "LineThickness"        double  % of the frame's height, above 0
+ *                                  rectangles and squares, of lines what their points are relative to
+ *   "Points"               string  of a line: "x y" or "x y z" of each point, separated by ";", and, where a new line
+ *                                  begins, by "/", as in "0 0; 10 5; 10 20 / 0 0; 3 3"; at least two for each line
+ *   "Width" "Height"       double  of rectangles and ellipses, across and up, above 0; squares and circles have a width
+ *                                  only, which is measured along X, and look as such whatever the axes are
+ *   "IsClipped"            long    whether what lies outside of the plot's axes is left away
+ *   "Color"                long    of the line, a colour index
+ *   "IsFilled"             long
+ *   "FillColor"            long    a colour index
+ *   "LinePattern"          long    a LinePattern_e
+ *   "PatternLength"        double  of one repetition, % of the frame's height, above 0
+ *   "LineThickness"        double  % of the frame's height, above 0
  *   "ArrowheadAttachment"  long    an ArrowheadAttachment_e: the ends of lines that have arrowheads
  *   "ArrowheadStyle"       long    an ArrowheadStyle_e
  *   "ArrowheadSize"        double  its length, % of the frame's height, above 0
