@@ -283,3 +283,26 @@ TEST_F(SelectorTest, GeometriesAreDrawnByDragging)
     drag(at(60, 80), at(70, 90));
     EXPECT_EQ(VtxUtilGeometryGetNext(ellipse), 0) << "Escape ended it";
 }
+
+TEST_F(SelectorTest, CtrlRunsTheMacroFunctionOfAText)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const long text = createText("MMMM");
+    const auto setFunction = [&](const char* commands) {
+        VtxArgList list{{{"TextID", text}, {"MacroFunctionCommand", std::string(commands)}}};
+        const kernel::ActionLock lock(kernel().lock());
+        ASSERT_TRUE(VtxUtilTextSetX(&list)) << kernel().lastError();
+    };
+    setFunction("FrameCreate Left=1 Top=1 Width=2 Height=2\nFrameActivate Frame=1");
+    m_area->repaint();
+    const QRectF frame = activeRect();
+    const QPointF inText = frame.bottomLeft() + QPointF(0.31 * frame.width(), -0.33 * frame.height());
+    click(inText, Qt::ControlModifier);
+    EXPECT_EQ(VtxUtilFrameGetCount(), 2);
+    EXPECT_EQ(VtxUtilPickListGetCount(), 0);
+    setFunction("NoSuch A=1");
+    QSignalSpy status(m_area.get(), &view::WorkArea::statusMessage);
+    click(inText, Qt::ControlModifier);
+    ASSERT_EQ(status.size(), 1);
+    EXPECT_NE(status[0][0].toString().indexOf(QStringLiteral("line 1: there is no command \"NoSuch\"")), -1);
+}

@@ -9,6 +9,7 @@
 #include "kernel/macro/MacroRecorder.h"
 
 #include <fstream>
+#include <sstream>
 
 namespace vantrix::kernel {
 
@@ -42,19 +43,15 @@ void checkLine(const std::vector<MacroCommand>& commands, long number)
     }
 }
 
-DataError located(const std::string& file, long line, const std::string& cause)
+DataError located(const std::string& name, long line, const std::string& cause)
 {
-    return DataError("Macro \"" + file + "\", line " + std::to_string(line) + ": " + cause);
+    return DataError("Macro \"" + name + "\", line " + std::to_string(line) + ": " + cause);
 }
 
 } // namespace
 
-std::vector<MacroPlayer::Line> MacroPlayer::read(const std::string& file) const
+std::vector<MacroPlayer::Line> MacroPlayer::read(std::istream& stream, const std::string& name)
 {
-    std::ifstream stream(file);
-    if (!stream) {
-        throw DataError("Cannot read the macro \"" + file + "\"; is there such a file, and may you read it?");
-    }
     std::vector<Line> lines;
     std::string text;
     for (long number = 1; std::getline(stream, text); ++number) {
@@ -65,21 +62,35 @@ std::vector<MacroPlayer::Line> MacroPlayer::read(const std::string& file) const
                 lines.push_back(std::move(line));
             }
         } catch (const std::exception& failure) {
-            throw located(file, number, failure.what());
+            throw located(name, number, failure.what());
         }
     }
     if (stream.bad()) {
-        throw DataError("Cannot read the macro \"" + file + "\" to its end.");
+        throw DataError("Cannot read the macro \"" + name + "\" to its end.");
     }
     return lines;
 }
 
 void MacroPlayer::run(const std::string& file)
 {
+    std::ifstream stream(file);
+    if (!stream) {
+        throw DataError("Cannot read the macro \"" + file + "\"; is there such a file, and may you read it?");
+    }
+    play(read(stream, file), file);
+}
+
+void MacroPlayer::runText(const std::string& text, const std::string& name)
+{
+    std::istringstream stream(text);
+    play(read(stream, name), name);
+}
+
+void MacroPlayer::play(const std::vector<Line>& lines, const std::string& name)
+{
     if (m_kernel.lock().isOn()) {
         throw DataError("A macro cannot be played in the middle of another action.");
     }
-    const std::vector<Line> lines = read(file);
     try {
         for (std::size_t i = 0; i < lines.size(); ++i) {
             if (!m_kernel.frontEnd().reportProgress(taskName,
@@ -91,7 +102,7 @@ void MacroPlayer::run(const std::string& file)
             } catch (const ActionCancelled&) {
                 throw;
             } catch (const DataError& failure) {
-                throw located(file, lines[i].number, failure.what());
+                throw located(name, lines[i].number, failure.what());
             }
         }
     } catch (...) {

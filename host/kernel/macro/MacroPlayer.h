@@ -25,13 +25,17 @@ public:
      */
     void run(const std::string& file);
 
+    /* The same with the lines of a text, which errors call by `name`. */
+    void runText(const std::string& text, const std::string& name);
+
 private:
     struct Line
     {
         long number;
         std::vector<MacroCommand> commands;
     };
-    std::vector<Line> read(const std::string& file) const;
+    static std::vector<Line> read(std::istream& stream, const std::string& name);
+    void play(const std::vector<Line>& lines, const std::string& name);
     void play(const Line& line);
     bool runCommand(const MacroCommand& command);
 

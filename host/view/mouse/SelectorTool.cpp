@@ -4,7 +4,9 @@
 #include "api/VtxUtilPick.h"
 #include "kernel/ApplicationLock.h"
 #include "kernel/Frame.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Kernel.h"
+#include "kernel/macro/MacroPlayer.h"
 #include "view/WorkArea.h"
 #include "view/mouse/MouseContext.h"
 
@@ -17,6 +19,9 @@ void SelectorTool::press(const QMouseEvent& event)
 {
     const bool collect = event.modifiers() & Qt::ControlModifier;
     cancel();
+    if (collect && runMacroFunction(event.position())) {
+        return;
+    }
     if (!collect) {
         begin(event.position());
     }
@@ -45,6 +50,28 @@ void SelectorTool::cancel()
 {
     m_drag = {};
     m_objects = {};
+}
+
+bool SelectorTool::runMacroFunction(QPointF place)
+{
+    kernel::Kernel& kernel = context().kernel;
+    const auto object = context().objectAt(place);
+    const kernel::Text* text =
+        object && object->type == PickObject_Text ? kernel.texts().find(object->number) : nullptr;
+    const kernel::Geometry* geometry =
+        object && object->type == PickObject_Geometry ? kernel.geometries().find(object->number) : nullptr;
+    const std::string commands = text       ? text->macroFunctionCommand
+                                 : geometry ? geometry->macroFunctionCommand
+                                            : std::string();
+    if (commands.empty()) {
+        return false;
+    }
+    try {
+        kernel::MacroPlayer(kernel).runText(commands, "macro function");
+    } catch (const std::exception& failure) {
+        Q_EMIT context().widget.statusMessage(QString::fromStdString(failure.what()));
+    }
+    return true;
 }
 
 void SelectorTool::begin(QPointF place)
