@@ -85,9 +85,6 @@ void addElementFaces(RowWriter& rows)
 {
     std::vector<PolyFaceInfo_s> const faces = GetProbedPolytopeFaceNodes();
     rows.add(tr("Num Faces"), static_cast<long>(faces.size()));
-    if (long const current = VtxUtilProbeFieldGetFace()) {
-        rows.add(tr("Current Face"), current);
-    }
     for (PolyFaceInfo_s const& face : faces) {
         QStringList nodes;
         for (long const node : face.nodes) {
@@ -105,6 +102,10 @@ void addElement(RowWriter& rows, bool isNearestPoint, ZoneType_e type)
     long node = 0;
     if (!GetProbedFECellInfo(isNearestPoint, element, node)) {
         return;
+    }
+    long const face = VtxUtilProbeFieldGetFace();
+    if (isPolytope(type) && face != 0) {
+        rows.add(tr("Current Face"), face);
     }
     if (node != 0) {
         rows.add(tr("Node Num"), node);

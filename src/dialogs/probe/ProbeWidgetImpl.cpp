@@ -86,6 +86,8 @@ ProbeWidget::Impl::Impl(ProbeWidget& widget)
         connect(button, &QPushButton::clicked, &widget, [this] { loadVariables(); });
         button->setEnabled(false);
     }
+    m_form.zoneCellInfo_splitter->setStretchFactor(0, 1);
+    m_form.zoneCellInfo_splitter->setStretchFactor(1, 2); // a cell has more to tell
     m_form.stackedWidget->setCurrentWidget(m_form.noProbeData_page);
 }
 

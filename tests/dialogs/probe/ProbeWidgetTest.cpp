@@ -10,6 +10,8 @@
 
 #include <vtkDataArray.h>
 
+#include <array>
+
 namespace vantrix::test {
 namespace {
 
@@ -143,6 +145,24 @@ TEST_F(ProbeDialogsTest, FacesOfAPolyhedronTellTheirPoints)
     ASSERT_EQ(found.size(), 1);
     EXPECT_THAT(found.front()->toolTip().toStdString(),
                 testing::MatchesRegex("Face Num: 14\nNum Nodes: [46]\nNodes: .*"));
+    EXPECT_EQ(valueOf(info, "Current Face"), "<no row Current Face>") << "the probe was inside of the cell";
+
+    ASSERT_TRUE(probeAt(0.0, 0.0, 0.0, true));
+    long face = 1;
+    for (long cell = 0; VtxUtilProbeFieldGetFaceNeighbor(face, &cell, nullptr) && cell != 0;) {
+        ++face;
+    }
+    std::array<double, 3> middle{};
+    long const corners = VtxUtilProbeFieldGetFaceNodeCount(face);
+    ASSERT_GT(corners, 3) << "a cell at the corner of the foam has a border face";
+    for (long corner = 1; corner <= corners; ++corner) {
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            middle[axis] += stored(1, static_cast<long>(axis) + 1, VtxUtilProbeFieldGetFaceNode(face, corner)) /
+                            static_cast<double>(corners);
+        }
+    }
+    ASSERT_TRUE(probeAt(middle[0], middle[1], middle[2]));
+    EXPECT_EQ(valueOf(info, "Current Face"), std::to_string(face));
 }
 
 TEST_F(ProbeDialogsTest, VariablesThatAreNotLoadedAreLoadedByTheButton)
