@@ -21,6 +21,7 @@ AIMS = {
     "axis_details_open": 1.5,
     "axis_details_tab": 1.5,
     "open_file": 1.2,
+    "probe": 1.0,
     "zone_list": 1.5,
     "style_burst": 1.5,
 }
