@@ -6,9 +6,11 @@
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
 #include "kernel/StyleVocabulary.h"
+#include "kernel/UndoStack.h"
 #include "kernel/macro/MacroRecorder.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace vantrix::kernel {
 
@@ -34,6 +36,39 @@ MacroValue macroValue(long entry, const StyleData& value)
     return std::get<std::string>(value);
 }
 
+/* "RangeMin" as "Range Min", "GRSpacing" as "GR Spacing". */
+std::string words(std::string_view name)
+{
+    const auto isUpper = [&](std::size_t i) {
+        return i < name.size() && std::isupper(static_cast<unsigned char>(name[i]));
+    };
+    std::string text;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        const bool endsWord = !isUpper(i - 1) || (i + 1 < name.size() && !isUpper(i + 1));
+        if (i > 0 && isUpper(i) && endsWord) {
+            text += ' ';
+        }
+        text += name[i];
+    }
+    return text;
+}
+
+/* What a change of a style value is called in the menu: its name, with the one before where that is short ("Mesh
+ * Color"). */
+std::string stepName(long entry)
+{
+    constexpr std::size_t shortName = 6;
+    const std::string path = stylePath(entry);
+    const std::size_t last = path.rfind('/');
+    if (last == std::string::npos) {
+        return words(path);
+    }
+    const std::string name = path.substr(last + 1);
+    const std::size_t before = path.rfind('/', last - 1);
+    const std::size_t begin = before == std::string::npos ? 0 : before + 1;
+    return name.size() > shortName ? words(name) : words(path.substr(begin, last - begin)) + ' ' + words(name);
+}
+
 } // namespace
 
 SetValueReturnCode_e StyleActions::set(long entry, const std::vector<long>& objects, long object2,
@@ -44,8 +79,11 @@ SetValueReturnCode_e StyleActions::set(long entry, const std::vector<long>& obje
     MacroRecorder::Call call(kernel.macroRecorder(), kernel.lock().isRecorded());
     const unsigned long before = style.changeStamp(entry);
     const SetValueReturnCode_e code = style.setMany(entry, objects, object2, value);
-    if (call.isDescribed() && style.changeStamp(entry) != before) {
-        call.succeeded(command(entry, objects, object2, value));
+    if (style.changeStamp(entry) != before) {
+        kernel.undoStack().nameStep(stepName(entry)); // unless who acts gave it one
+        if (call.isDescribed()) {
+            call.succeeded(command(entry, objects, object2, value));
+        }
     }
     return code;
 }

@@ -209,6 +209,23 @@ TEST_F(MacroTest, RecordsOneLineForEachOutermostLock)
                                         "FrameDelete Frame=2", "Undo"));
 }
 
+TEST_F(MacroTest, AStepOfStyleIsCalledByWhatItChanges)
+{
+    const auto nameAfter = [](const char* path) {
+        {
+            const LockScope lock;
+            setByInterface(path, 1.25);
+        }
+        char* name = VtxUtilUndoGetStepName();
+        const std::string text = name ? name : "";
+        VtxUtilStringDealloc(&name);
+        return text;
+    };
+    EXPECT_EQ(nameAfter("FrameLayout/Width"), "Frame Layout Width");
+    EXPECT_EQ(nameAfter("FrameLayout/BorderThickness"), "Border Thickness");
+    EXPECT_EQ(nameAfter("PolarAxis/RDetail/GRSpacing"), "GR Spacing");
+}
+
 TEST_F(MacroTest, RecordsNothingThatTheHostDoesItself)
 {
     ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
