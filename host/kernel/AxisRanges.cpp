@@ -5,6 +5,7 @@
 #include "kernel/LineMaps.h"
 #include "kernel/NiceNumbers.h"
 #include "kernel/StyleStore.h"
+#include "kernel/ValueBlanking.h"
 
 #include <algorithm>
 #include <array>
@@ -27,13 +28,15 @@ std::optional<ValueRange> joined(std::optional<ValueRange> one, std::optional<Va
     return ValueRange{std::min(one->minimum, other->minimum), std::max(one->maximum, other->maximum)};
 }
 
-std::optional<ValueRange> positiveRange(vtkDataArray& values)
+/* The range of what a test takes of the values. */
+template<class Test>
+std::optional<ValueRange> rangeWhere(vtkDataArray& values, const Test& isTaken)
 {
     std::optional<ValueRange> found;
     const vtkIdType count = values.GetNumberOfTuples();
     for (vtkIdType i = 0; i < count; ++i) {
         const double value = values.GetComponent(i, 0);
-        if (value > 0.0 && std::isfinite(value)) {
+        if (std::isfinite(value) && isTaken(i, value)) {
             found = joined(found, ValueRange{value, value});
         }
     }
@@ -66,13 +69,16 @@ bool AxisRanges::isOfLinePlot() const
     return m_plotType == PlotType_XYLine || m_plotType == PlotType_PolarLine;
 }
 
-void AxisRanges::forEachArray(AxisName axis, const Arrays& use) const
+void AxisRanges::forEachArray(AxisName axis, Blanking considered, const std::function<void(const Values&)>& use) const
 {
     const DataSet* data = m_frame.dataSet().get();
+    const ValueBlanking blanking =
+        considered == Blanking::Considered ? ValueBlanking::read(m_style, m_frame) : ValueBlanking();
     const auto useField = [&](long zone, long variable) {
         const FieldArray* field = data->field(zone, variable);
         if (field && field->isLoaded() && data->zoneEnabled[static_cast<std::size_t>(zone - 1)]) {
-            use(*field->values);
+            const bool isNodal = field->location == ValueLocation_Nodal;
+            use({*field->values, blanking.isActive() && isNodal ? blanking.of(*data, zone) : nullptr});
         }
     };
     if (!data || m_plotType == PlotType_Sketch) {
@@ -97,20 +103,27 @@ void AxisRanges::forEachArray(AxisName axis, const Arrays& use) const
     }
 }
 
-std::optional<ValueRange> AxisRanges::dataRange(AxisName axis) const
+std::optional<ValueRange> AxisRanges::dataRange(AxisName axis, Blanking blanking) const
 {
     std::optional<ValueRange> all;
     const bool isLog = isLogarithmic(axis);
-    forEachArray(axis, [&](vtkDataArray& values) {
-        const std::optional<ValueRange> range = valueRange(values);
-        all = joined(all, isLog && range && range->minimum <= 0.0 ? positiveRange(values) : range);
+    forEachArray(axis, blanking, [&](const Values& values) {
+        std::optional<ValueRange> range = valueRange(values.array);
+        const bool needsPositive = isLog && range && range->minimum <= 0.0;
+        if (needsPositive || values.blanked) {
+            range = rangeWhere(values.array, [&](vtkIdType i, double value) {
+                return (!needsPositive || value > 0.0) &&
+                       (!values.blanked || !values.blanked->points[static_cast<std::size_t>(i)]);
+            });
+        }
+        all = joined(all, range);
     });
     return all;
 }
 
-ValueRange AxisRanges::expectedDataRange(AxisName axis) const
+ValueRange AxisRanges::expectedDataRange(AxisName axis, Blanking blanking) const
 {
-    if (const std::optional<ValueRange> range = dataRange(axis)) {
+    if (const std::optional<ValueRange> range = dataRange(axis, blanking)) {
         return *range;
     }
     throw DataError(
@@ -128,7 +141,17 @@ AxisRanges::Limits AxisRanges::nice(AxisName axis, Limits limits) const
 
 void AxisRanges::fit(AxisName axis)
 {
-    const ValueRange range = expectedDataRange(axis);
+    fit(axis, Blanking::Ignored);
+}
+
+void AxisRanges::fitToUnblanked(AxisName axis)
+{
+    fit(axis, Blanking::Considered);
+}
+
+void AxisRanges::fit(AxisName axis, Blanking blanking)
+{
+    const ValueRange range = expectedDataRange(axis, blanking);
     const Limits exact{range.minimum, range.maximum};
     /* One value alone spans no axis. */
     set(axis, range.maximum > range.minimum ? exact : nice(axis, exact));

@@ -4,6 +4,7 @@
 #include "kernel/AxisVariables.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@ class vtkDataArray;
 namespace vantrix::kernel {
 
 class StyleStore;
+struct BlankedZone;
 struct ValueRange;
 
 /*
@@ -28,6 +30,8 @@ public:
     /* See VtxUtilViewAxisFit(), VtxUtilViewAxisNiceFit(), VtxUtilViewAxisFitToEntireCircle() and
      * VtxUtilViewAxisMakeCurValsNice(). */
     void fit(AxisName axis);
+    /* The same to what value blanking leaves. */
+    void fitToUnblanked(AxisName axis);
     void niceFit(AxisName axis);
     void fitToEntireCircle(AxisName axis);
     void makeNice(AxisName axis);
@@ -53,16 +57,27 @@ private:
         double minimum;
         double maximum;
     };
-    using Arrays = std::function<void(vtkDataArray&)>;
+    /* The values of a zone, and the points that are left out, if any. */
+    struct Values
+    {
+        vtkDataArray& array;
+        std::shared_ptr<const BlankedZone> blanked;
+    };
+    enum class Blanking
+    {
+        Ignored,
+        Considered
+    };
 
     AxisPlace place(AxisName axis) const { return AxisPlace::find(m_style, m_frame, axis); }
     double real(AxisName axis, const char* value) const;
     bool isLogarithmic(AxisName axis) const;
     bool isOfLinePlot() const;
 
-    void forEachArray(AxisName axis, const Arrays& use) const;
-    std::optional<ValueRange> dataRange(AxisName axis) const;
-    ValueRange expectedDataRange(AxisName axis) const;
+    void forEachArray(AxisName axis, Blanking blanking, const std::function<void(const Values&)>& use) const;
+    std::optional<ValueRange> dataRange(AxisName axis, Blanking blanking = Blanking::Ignored) const;
+    ValueRange expectedDataRange(AxisName axis, Blanking blanking = Blanking::Ignored) const;
+    void fit(AxisName axis, Blanking blanking);
     Limits nice(AxisName axis, Limits limits) const;
     void set(AxisName axis, Limits limits);
     void setReal(long entry, double value, long offset = -1);

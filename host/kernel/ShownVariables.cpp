@@ -2,6 +2,7 @@
 
 #include "kernel/AxisVariables.h"
 #include "kernel/StyleStore.h"
+#include "kernel/ValueBlanking.h"
 
 namespace vantrix::kernel {
 
@@ -83,6 +84,9 @@ std::set<long> shownVariables(const StyleStore& store, const Frame& frame)
         break;
     default:
         break;
+    }
+    for (const BlankingConstraint& constraint : ValueBlanking::read(store, frame).constraints) {
+        shown.insert({constraint.variable, constraint.otherVariable});
     }
     shown.erase(0);
     return shown;

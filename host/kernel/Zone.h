@@ -1,6 +1,7 @@
 #pragma once
 
 #include "api/VtxEnumerations.h"
+#include "kernel/BlankedZone.h"
 #include "kernel/FieldArray.h"
 #include "kernel/ZoneGridCache.h"
 
@@ -60,6 +61,9 @@ public:
     /* What zoneGrid() keeps of this zone; freed with it. */
     ZoneGridCache& grids() const { return m_grids; }
 
+    /* What ValueBlanking found for this zone; a copy of the zone starts with it. */
+    BlankedZoneCache& blankings() const { return m_blankings; }
+
 private:
     Zone() = default;
 
@@ -68,6 +72,7 @@ private:
     std::array<long, 3> m_dimensions{1, 1, 1};
     vtkSmartPointer<vtkCellArray> m_cells;
     mutable ZoneGridCache m_grids;
+    mutable BlankedZoneCache m_blankings;
 };
 
 } // namespace vantrix::kernel

@@ -148,6 +148,37 @@ TEST_F(AxisRangesTest, WhatThePlotDoesNotHaveIsRefusedWithWhatItHas)
     EXPECT_EQ(range(x2D), before);
 }
 
+TEST_F(AxisRangesTest, FitTakesWhatBlankingLeavesWhereThatIsAskedFor)
+{
+    show("fe2d");
+    const Range whole = variable(1);
+    const double cut = 0.5 * (whole.first + whole.second);
+    const auto fitted = [&](long considersBlanking) {
+        setRange(x2D, {5.0, 7.0});
+        EXPECT_TRUE(
+            view({{"ViewOP", ViewOp_AxisFit}, {"Axis", 'X'}, {"AxisNum", 1}, {"ConsiderBlanking", considersBlanking}}));
+        return range(x2D);
+    };
+    set("Blanking/Value/Include", 1L);
+    EXPECT_FALSE(VtxUtilBlankingIsActive()) << "no constraint is in use";
+    set("Blanking/Value/Constraint/Include", 1L, 3);
+    set("Blanking/Value/Constraint/VarA", 1L, 3);
+    set("Blanking/Value/Constraint/ValueCutoff", cut, 3);
+    EXPECT_TRUE(VtxUtilBlankingIsActive());
+    EXPECT_EQ(fitted(0), whole);
+    const Range left = fitted(1);
+    EXPECT_GT(left.first, cut);
+    EXPECT_LT(left.first, cut + 0.1 * (whole.second - whole.first));
+    EXPECT_EQ(left.second, whole.second);
+    set("Blanking/Value/Constraint/RelOp", long{RelOp_GreaterThanOrEqual}, 3);
+    set("Blanking/Value/Constraint/ValueCutoff", whole.first, 3);
+    setRange(x2D, {5.0, 7.0});
+    EXPECT_FALSE(view({{"ViewOP", ViewOp_AxisFit}, {"Axis", 'X'}, {"AxisNum", 1}, {"ConsiderBlanking", 1}}));
+    EXPECT_EQ(range(x2D), Range(5.0, 7.0)) << "everything is blanked: there is nothing to fit to";
+    setPlotType(PlotType_Sketch);
+    EXPECT_FALSE(VtxUtilBlankingIsActive());
+}
+
 TEST_F(AxisRangesTest, TheViewIsFittedByNamedArguments)
 {
     show("fe2d");

@@ -5,6 +5,7 @@
 #include "kernel/Document.h"
 #include "kernel/StyleStore.h"
 #include "kernel/TimeDateFormat.h"
+#include "kernel/ValueBlanking.h"
 #include "kernel/interface/ArgumentList.h"
 #include "kernel/interface/Boundary.h"
 
@@ -120,7 +121,9 @@ bool VtxUtilViewX(VtxArgListHandle arguments)
         case ViewOp_AxisFit: {
             const char axis = static_cast<char>(argument(arguments, "Axis"));
             const long* number = arguments->findAs<long>("AxisNum");
-            axes.fit({axis, number ? static_cast<int>(*number) : 1});
+            const AxisName name{axis, number ? static_cast<int>(*number) : 1};
+            const long* considersBlanking = arguments->findAs<long>("ConsiderBlanking");
+            considersBlanking&&* considersBlanking ? axes.fitToUnblanked(name) : axes.fit(name);
             return;
         }
         default:
@@ -195,8 +198,11 @@ bool VtxUtilStringFormatTimeDate(double value, const char* format, char** text)
     });
 }
 
-/* The plot draws all data: no constraint leaves any out. */
 bool VtxUtilBlankingIsActive(void)
 {
-    return false;
+    return boundary::guarded(false, [] {
+        const Frame* frame = Kernel::instance().document().activeFrame();
+        return frame && frame->dataSet() && plotTypeOf(style(), *frame) != PlotType_Sketch &&
+               ValueBlanking::read(style(), *frame).isActive();
+    });
 }
