@@ -195,7 +195,8 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
     if (zoneStyle.scatter.isShown && zoneStyle.scatter.isSizedByVariable) {
         values.sizes = loaded(dataSet.field(zoneStyle.zone, style.scatter.variable));
     }
-    zone.layers->update(zone.shape, zoneStyle, values, context);
+    const auto blanked = style.blanking.isActive() ? style.blanking.of(dataSet, zoneStyle.zone) : nullptr;
+    zone.layers->update(zone.shape, blanked, zoneStyle, values, context);
     zone.layers->place(m_placement);
 }
 

@@ -1,5 +1,6 @@
 #include "view/IndexPlanes.h"
 
+#include "kernel/BlankedZone.h"
 #include "kernel/probe/ShownPlanes.h"
 
 #include <vtkCellArray.h>
@@ -26,8 +27,10 @@ vtkIdType number(const Index& index, const Index& size)
 class PlaneBuilder
 {
 public:
-    PlaneBuilder(vtkStructuredGrid& grid, const char* pointNumbers, const char* cellNumbers)
+    PlaneBuilder(vtkStructuredGrid& grid, const char* pointNumbers, const char* cellNumbers,
+                 const kernel::BlankedZone* blanked)
         : m_grid(grid)
+        , m_blanked(blanked)
     {
         std::array<int, 3> size{};
         grid.GetDimensions(size.data());
@@ -61,7 +64,7 @@ public:
             for (index[across] = 0; index[across] + 1 < m_points[across]; ++index[across]) {
                 const vtkIdType corner = first + index[up] * row + index[across];
                 m_quads->InsertNextCell({corner, corner + 1, corner + 1 + row, corner + row});
-                m_cellNumbers->InsertNextValue(number(index, m_cells));
+                m_cellNumbers->InsertNextValue(owner(index, axis, at));
             }
         }
     }
@@ -79,7 +82,21 @@ public:
     }
 
 private:
+    bool isBlanked(const Index& cell) const
+    {
+        return m_blanked && m_blanked->cells[static_cast<std::size_t>(number(cell, m_cells))];
+    }
+
+    /* The cell of a face in a plane: one that is drawn, if there is. */
+    vtkIdType owner(const Index& behind, std::size_t axis, vtkIdType plane) const
+    {
+        Index before = behind;
+        before[axis] = std::max<vtkIdType>(0, plane - 1);
+        return number(isBlanked(behind) && !isBlanked(before) ? before : behind, m_cells);
+    }
+
     vtkStructuredGrid& m_grid;
+    const kernel::BlankedZone* m_blanked;
     Index m_points{};
     Index m_cells{};
     vtkSmartPointer<vtkPoints> m_coordinates = vtkSmartPointer<vtkPoints>::New();
@@ -91,9 +108,10 @@ private:
 } // namespace
 
 vtkSmartPointer<vtkPolyData> indexPlanes(vtkStructuredGrid& grid, const SurfaceSelection& selection,
-                                         const char* pointNumbers, const char* cellNumbers)
+                                         const char* pointNumbers, const char* cellNumbers,
+                                         const kernel::BlankedZone* blanked)
 {
-    PlaneBuilder builder(grid, pointNumbers, cellNumbers);
+    PlaneBuilder builder(grid, pointNumbers, cellNumbers, blanked);
     for (std::size_t axis = 0; axis < 3; ++axis) {
         if (!kernel::hasPlanes(selection.faces, axis)) {
             continue;

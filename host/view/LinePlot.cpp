@@ -78,6 +78,12 @@ void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& 
     if (!xs || !ys) {
         return;
     }
+    // What is blanked is as if it were not in the data: the line goes on to the next point.
+    const auto blanked = m_style.blanking.isActive() ? m_style.blanking.of(m_dataSet, map.zone) : nullptr;
+    const auto isBlanked = [&](vtkIdType i) {
+        const auto point = std::size_t(i);
+        return blanked && point < blanked->points.size() && blanked->points[point] != 0;
+    };
     const double pixel = 1.0 / m_canvas.resolution();
     const vtkIdType count = std::min(xs->GetNumberOfTuples(), ys->GetNumberOfTuples());
     if (map.hasLines) {
@@ -85,7 +91,9 @@ void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& 
         const double margin = 2.0 * curvePen.widthF();
         Polyline curve(area.adjusted(-margin, -margin, margin, margin), pixel);
         for (vtkIdType i = 0; i < count; ++i) {
-            curve.add(places(xs->GetComponent(i, 0), ys->GetComponent(i, 0)));
+            if (!isBlanked(i)) {
+                curve.add(places(xs->GetComponent(i, 0), ys->GetComponent(i, 0)));
+            }
         }
         m_canvas.painter.setPen(curvePen);
         m_canvas.painter.setBrush(Qt::NoBrush);
@@ -100,7 +108,7 @@ void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& 
         TakenPixels taken(area.adjusted(-margin, -margin, margin, margin), pixel);
         for (vtkIdType i = 0; i < count; i += map.skip) {
             const QPointF place = places(xs->GetComponent(i, 0), ys->GetComponent(i, 0));
-            if (taken.take(place)) {
+            if (!isBlanked(i) && taken.take(place)) {
                 symbol.draw(place);
             }
         }

@@ -317,6 +317,7 @@ PlotStyle PlotStyle::read(const kernel::StyleStore& store, const kernel::Frame& 
         break;
     }
     readAxes(result, store, frame.id(), dataSet);
+    result.blanking = kernel::ValueBlanking::read(store, frame);
     return result;
 }
 

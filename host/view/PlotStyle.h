@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kernel/ValueBlanking.h"
 #include "view/AxisStyle.h"
 #include "view/ZoneStyle.h"
 
@@ -189,6 +190,7 @@ struct PlotStyle
     bool resetsEdges = true; /* of a 3D plot: its axes choose their edges anew when it is turned */
     double boxPadding = 0.0; /* of a 3D plot: space between data and box, as part of the range */
     TripodStyle tripod;
+    kernel::ValueBlanking blanking;
 
     bool operator==(const PlotStyle&) const = default;
 

@@ -17,14 +17,14 @@ ZoneLayers::ZoneLayers(vtkRenderer* renderer)
     , m_scatter(renderer)
 {}
 
-void ZoneLayers::update(vtkDataSet* geometry, const ZoneStyle& style, const ZoneValues& values,
-                        const LayerContext& context)
+void ZoneLayers::update(vtkDataSet* geometry, const std::shared_ptr<const kernel::BlankedZone>& blanked,
+                        const ZoneStyle& style, const ZoneValues& values, const LayerContext& context)
 {
     const auto contour = [&](bool isNeeded, long group) {
         return isNeeded && group > 0 ? values.contour(group) : nullptr;
     };
     const auto colors = [&](bool isNeeded, const LayerColor& color) { return contour(isNeeded, color.contourGroup); };
-    m_surface.set(geometry, style.surfaces, context.keptPoints);
+    m_surface.set(geometry, style.surfaces, context.keptPoints, blanked);
     m_flood.update(m_surface, style, contour(style.contour.hasFlood(), style.contour.floodGroup), context);
     m_shade.update(m_surface, style, m_flood.isShown(), context);
     const ContourStyle& lines = style.contour;

@@ -34,8 +34,10 @@ class ZoneLayers
 public:
     explicit ZoneLayers(vtkRenderer* renderer);
 
-    /* `geometry` holds the zone's points and cells as they are to be drawn. */
-    void update(vtkDataSet* geometry, const ZoneStyle& style, const ZoneValues& values, const LayerContext& context);
+    /* `geometry` holds the zone's points and cells as they are to be drawn; what is blanked (null for nothing) is left
+     * out. */
+    void update(vtkDataSet* geometry, const std::shared_ptr<const kernel::BlankedZone>& blanked, const ZoneStyle& style,
+                const ZoneValues& values, const LayerContext& context);
 
     void place(const Placement& placement);
 

@@ -1,5 +1,6 @@
 #include "view/ZonePoints.h"
 
+#include "kernel/BlankedZone.h"
 #include "view/ZoneSurface.h"
 
 #include <vtkCellData.h>
@@ -105,10 +106,14 @@ void ZonePoints::set(ZoneSurface& surface, const PointSelection& selection)
     } else {
         numbers = distinct(areCells() ? surface.cellNumbers() : surface.pointNumbers());
     }
+    const auto isBlanked = [&, blanked = surface.blanked()](std::size_t number) {
+        return blanked && (areCells() ? blanked->cells : blanked->points)[number] != 0;
+    };
     const Skip skip(m_geometry, selection.skip, areCells());
     const auto corners = vtkSmartPointer<vtkIdList>::New();
     for (const long long number : numbers) {
-        if (!skip.takes(number)) {
+        // Below 0 are points where a cell was trimmed.
+        if (number < 0 || !skip.takes(number) || isBlanked(std::size_t(number))) {
             continue;
         }
         m_numbers.push_back(number);

@@ -1,6 +1,8 @@
 #include "view/ZoneSurface.h"
 
+#include "kernel/BlankedZone.h"
 #include "kernel/probe/ShownPlanes.h"
+#include "view/IndexOutline.h"
 #include "view/IndexPlanes.h"
 #include "view/SurfaceThinning.h"
 
@@ -18,11 +20,13 @@
 #include <vtkPolyData.h>
 #include <vtkPolyDataNormals.h>
 #include <vtkStructuredGrid.h>
-#include <vtkStructuredGridOutlineFilter.h>
+#include <vtkThreshold.h>
+#include <vtkUnsignedCharArray.h>
 #include <vtkUnstructuredGrid.h>
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <numeric>
 
 namespace vantrix::view {
@@ -107,15 +111,6 @@ vtkSmartPointer<vtkPolyData> featureEdges(vtkPolyData* surface, bool hasBorders,
     return filter->GetOutput();
 }
 
-/* An ordered zone ends where its indices do, even where the surface closes on itself. */
-vtkSmartPointer<vtkPolyData> outline(vtkStructuredGrid* grid)
-{
-    const auto filter = vtkSmartPointer<vtkStructuredGridOutlineFilter>::New();
-    filter->SetInputData(grid);
-    filter->Update();
-    return filter->GetOutput();
-}
-
 vtkSmartPointer<vtkPolyData> joined(vtkPolyData* one, vtkPolyData* other)
 {
     const auto filter = vtkSmartPointer<vtkAppendPolyData>::New();
@@ -125,28 +120,71 @@ vtkSmartPointer<vtkPolyData> joined(vtkPolyData* one, vtkPolyData* other)
     return filter->GetOutput();
 }
 
-vtkSmartPointer<vtkFloatArray> gathered(vtkDataArray* values, vtkIdTypeArray* numbers)
+vtkSmartPointer<vtkFloatArray> gathered(vtkDataArray* values, vtkIdTypeArray* numbers,
+                                        const std::vector<SurfaceCut>& cuts)
 {
+    const vtkIdType available = values->GetNumberOfTuples();
+    std::vector<double> atCuts;
+    const auto valueAt = [&](vtkIdType number) {
+        if (number < 0) {
+            return atCuts[static_cast<std::size_t>(-1 - number)];
+        }
+        return number < available ? values->GetComponent(number, 0) : 0.0;
+    };
+    for (const SurfaceCut& cut : cuts) {
+        atCuts.push_back(std::lerp(valueAt(cut.from), valueAt(cut.to), cut.at));
+    }
     const auto result = vtkSmartPointer<vtkFloatArray>::New();
     result->SetName(ZoneSurface::valuesName);
     const vtkIdType count = numbers->GetNumberOfTuples();
     result->SetNumberOfTuples(count);
-    const vtkIdType available = values->GetNumberOfTuples();
     for (vtkIdType i = 0; i < count; ++i) {
-        const vtkIdType from = numbers->GetValue(i);
-        result->SetValue(i, from >= 0 && from < available ? static_cast<float>(values->GetComponent(from, 0)) : 0.0F);
+        result->SetValue(i, static_cast<float>(valueAt(numbers->GetValue(i))));
     }
     return result;
 }
 
+/* The outer surface of the cells that are not blanked, those included that the blanked ones cover otherwise. */
+vtkSmartPointer<vtkPolyData> exposedSurface(vtkDataSet* geometry, const std::vector<unsigned char>& areBlanked)
+{
+    const auto numbered = vtkSmartPointer<vtkDataSet>::Take(geometry->NewInstance());
+    numbered->CopyStructure(geometry);
+    const auto addNumbers = [](vtkDataSetAttributes& attributes, const char* name, vtkIdType count) {
+        const auto numbers = vtkSmartPointer<vtkIdTypeArray>::New();
+        numbers->SetName(name);
+        numbers->SetNumberOfValues(count);
+        std::iota(numbers->GetPointer(0), numbers->GetPointer(0) + count, vtkIdType{0});
+        attributes.AddArray(numbers);
+    };
+    addNumbers(*numbered->GetPointData(), pointNumbersName, geometry->GetNumberOfPoints());
+    addNumbers(*numbered->GetCellData(), cellNumbersName, geometry->GetNumberOfCells());
+    const auto blanked = vtkSmartPointer<vtkUnsignedCharArray>::New();
+    blanked->SetNumberOfValues(geometry->GetNumberOfCells());
+    std::ranges::copy(areBlanked, blanked->GetPointer(0));
+    numbered->GetCellData()->SetScalars(blanked);
+    const auto cells = vtkSmartPointer<vtkThreshold>::New();
+    cells->SetInputData(numbered);
+    cells->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_CELLS, vtkDataSetAttributes::SCALARS);
+    cells->SetThresholdFunction(vtkThreshold::THRESHOLD_LOWER);
+    cells->SetLowerThreshold(0.5);
+    const auto filter = vtkSmartPointer<vtkDataSetSurfaceFilter>::New();
+    filter->SetInputConnection(cells->GetOutputPort());
+    filter->Update();
+    return filter->GetOutput();
+}
+
 } // namespace
 
-void ZoneSurface::set(vtkDataSet* geometry, const SurfaceSelection& selection, double keptPoints)
+void ZoneSurface::set(vtkDataSet* geometry, const SurfaceSelection& selection, double keptPoints,
+                      std::shared_ptr<const kernel::BlankedZone> blanked)
 {
-    if (m_geometry == geometry && m_selection == selection && m_keptPoints == keptPoints && m_revision > 0) {
+    if (m_geometry == geometry && m_selection == selection && m_keptPoints == keptPoints && m_blanked == blanked &&
+        m_revision > 0) {
         return;
     }
     m_keptPoints = keptPoints;
+    m_blanked = std::move(blanked);
+    m_cuts.clear();
     m_geometry = geometry;
     m_selection = selection;
     m_surface = nullptr;
@@ -155,7 +193,7 @@ void ZoneSurface::set(vtkDataSet* geometry, const SurfaceSelection& selection, d
     ++m_revision;
 }
 
-vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface() const
+vtkSmartPointer<vtkPolyData> ZoneSurface::wholeSurface() const
 {
     const bool isSelected = m_geometry && isVolume(m_geometry);
     if (!m_geometry || m_geometry->GetNumberOfPoints() == 0 ||
@@ -166,7 +204,7 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface() const
         vtkStructuredGrid* grid = vtkStructuredGrid::SafeDownCast(m_geometry);
         if (grid && (kernel::hasPlanes(m_selection.faces, 0) || kernel::hasPlanes(m_selection.faces, 1) ||
                      kernel::hasPlanes(m_selection.faces, 2))) {
-            return indexPlanes(*grid, m_selection, pointNumbersName, cellNumbersName);
+            return indexPlanes(*grid, m_selection, pointNumbersName, cellNumbersName, m_blanked.get());
         }
         vtkUnstructuredGrid* cells = vtkUnstructuredGrid::SafeDownCast(m_geometry);
         if (cells && m_selection.faces == SurfacesToPlot_EveryFace) {
@@ -174,6 +212,20 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface() const
         }
     }
     return outerSurface(m_geometry);
+}
+
+vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface()
+{
+    if (m_blanked && m_geometry && m_selection.faces == SurfacesToPlot_ExposedFaces && isVolume(m_geometry)) {
+        return exposedSurface(m_geometry, m_blanked->cells);
+    }
+    vtkSmartPointer<vtkPolyData> whole = wholeSurface();
+    if (!m_blanked || whole->GetNumberOfCells() == 0) {
+        return whole;
+    }
+    UnblankedSurface left = withoutBlanked(*whole, *m_blanked, pointNumbersName, cellNumbersName);
+    m_cuts = std::move(left.cuts);
+    return left.surface;
 }
 
 vtkPolyData* ZoneSurface::surface()
@@ -204,15 +256,25 @@ vtkPolyData* ZoneSurface::edges(EdgeType_e type)
 {
     vtkSmartPointer<vtkPolyData>& edges = m_edges[type];
     if (!edges) {
-        const bool hasBorders = type != EdgeType_Creases;
-        const bool hasCreases = type != EdgeType_Borders;
-        vtkStructuredGrid* grid = vtkStructuredGrid::SafeDownCast(m_geometry);
-        edges = featureEdges(surface(), hasBorders && !grid, hasCreases);
-        if (grid && hasBorders) {
-            edges = joined(outline(grid), edges);
-        }
+        edges = makeEdges(type);
     }
     return edges;
+}
+
+vtkSmartPointer<vtkPolyData> ZoneSurface::makeEdges(EdgeType_e type)
+{
+    const bool hasBorders = type != EdgeType_Creases;
+    const bool hasCreases = type != EdgeType_Borders;
+    vtkStructuredGrid* grid = vtkStructuredGrid::SafeDownCast(m_geometry);
+    // Blanking is no end of the zone: it shortens edges and makes no new ones.
+    const vtkSmartPointer<vtkPolyData> whole = m_blanked ? wholeSurface() : vtkSmartPointer<vtkPolyData>(surface());
+    vtkSmartPointer<vtkPolyData> edges = featureEdges(whole, hasBorders && !grid, hasCreases);
+    if (grid && hasBorders) {
+        // An ordered zone ends where its indices do, even where the surface closes on itself.
+        edges = joined(indexOutline(*grid, pointNumbersName, cellNumbersName), edges);
+    }
+    const bool isBlanked = m_blanked && edges->GetNumberOfCells() > 0;
+    return isBlanked ? withoutBlanked(*edges, *m_blanked, pointNumbersName, cellNumbersName).surface : edges;
 }
 
 vtkIdTypeArray* ZoneSurface::pointNumbers()
@@ -234,7 +296,7 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::withValues(vtkPolyData* surface, const
                                                : static_cast<vtkDataSetAttributes*>(result->GetCellData());
     auto* numbers = vtkIdTypeArray::SafeDownCast(attributes->GetArray(isNodal ? pointNumbersName : cellNumbersName));
     if (numbers && field.values) {
-        attributes->SetScalars(gathered(field.values, numbers));
+        attributes->SetScalars(gathered(field.values, numbers, m_cuts));
     }
     return result;
 }

@@ -1,9 +1,14 @@
+#include "kernel/FieldValues.h"
+#include "kernel/Frame.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleStore.h"
 #include "view/PageRenderer.h"
 #include "view/ShownSample.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
 
 using namespace vantrix;
 
@@ -110,6 +115,45 @@ TEST_F(FieldLayers, ShowsPlanesInsideAVolumeAndWhatLiesBehind)
     sample->set("FieldMap/Effects/UseTranslucency", 1L, 1);
     sample->set("FieldMap/Effects/SurfaceTranslucency", 70L, 1);
     EXPECT_LT(count(image(), Qt::green), plane / 2) << "the white behind shines through";
+}
+
+TEST_F(FieldLayers, LeaveAwayWhatIsBlanked)
+{
+    for (const PlotType_e type : {PlotType_Cartesian2D, PlotType_Cartesian3D}) {
+        show("fe2d", type);
+        for (const char* layer : {"ShowShade", "ShowMesh"}) {
+            sample->set(std::string("FieldLayers/") + layer, 1L);
+        }
+        sample->set("FieldLayers/UseLightingEffect", 0L);
+        sample->set("FieldMap/Shade/Color", green, 1);
+        sample->set("FieldMap/Mesh/Color", green, 1);
+        const int whole = count(image(), Qt::green);
+        ASSERT_GT(whole, 5000);
+        const auto range = kernel::valueRange(*sample->frame().dataSet()->field(1, 1)->values);
+        ASSERT_TRUE(range);
+        sample->set("Blanking/Value/Include", 1L);
+        sample->set("Blanking/Value/Constraint/Include", 1L, 1);
+        sample->set("Blanking/Value/Constraint/VarA", 1L, 1);
+        sample->set("Blanking/Value/Constraint/ValueCutoff", std::lerp(range->minimum, range->maximum, 0.4), 1);
+        sample->set("Blanking/Value/BlankEntireCell", 0L); // cells on the boundary are in neither part, or in both
+        const auto parts = [&] {
+            std::array<int, 2> pixels{};
+            for (const auto relation : {RelOp_LessThanOrEqual, RelOp_GreaterThanOrEqual}) {
+                sample->set("Blanking/Value/Constraint/RelOp", long{relation}, 1);
+                pixels[relation] = count(image(), Qt::green);
+                EXPECT_GT(pixels[relation], whole / 10);
+            }
+            return pixels[0] + pixels[1];
+        };
+        const bool isFlat = type == PlotType_Cartesian2D;
+        EXPECT_NEAR(parts(), whole, (isFlat ? 0.02 : 0.15) * whole);
+        sample->set("Blanking/Value/BlankEntireCell", 1L);
+        EXPECT_GT(parts(), whole) << "cells with one corner left are drawn";
+        sample->set("Blanking/Value/ValueBlankCellMode", long{ValueBlankCellMode_AnyCorner});
+        EXPECT_LT(parts(), whole) << "cells with one corner blanked are not";
+        sample->set("Blanking/Value/Include", 0L);
+        EXPECT_EQ(count(image(), Qt::green), whole);
+    }
 }
 
 TEST_F(FieldLayers, LeavesAwayWhatACutoffExcludes)

@@ -92,6 +92,19 @@ TEST(LineMapDrawing, StaysInsideOfTheAxesAndLeavesGapsAtMissingValues)
     EXPECT_EQ(redPixels(image, image.rect()), inside);
 }
 
+TEST(LineMapDrawing, LeavesBlankedPointsOut)
+{
+    const kernel::DataSet data = dataSet({{0, 0.5}, {0.5, 0.9}, {0.9, 0.5}, {1.0, 0.1}});
+    PlotStyle plot = lineStyle();
+    plot.lineMaps[0].hasSymbols = true;
+    plot.lineMaps[0].symbol.color = Qt::red;
+    plot.blanking.constraints = {{2, RelOp_GreaterThan, 0, 0.6}, {1, RelOp_GreaterThan, 0, 0.95}};
+    const QImage image = painted(data, plot);
+    EXPECT_EQ(redPixels(image, QRect(100, 100, 200, 90)), 0);
+    EXPECT_TRUE(isRed(image, 200, 200)) << "the line goes on to the next point";
+    EXPECT_EQ(redPixels(image, QRect(290, 100, 110, 200)), 0);
+}
+
 TEST(LineMapDrawing, FollowsPatternThicknessAndColor)
 {
     const kernel::DataSet data = dataSet({{0, 0.5}, {1, 0.5}});

@@ -1,8 +1,11 @@
 #include "view/ZoneSurface.h"
 #include "view/ZonePoints.h"
 
+#include "kernel/BlankedZone.h"
+
 #include <gtest/gtest.h>
 
+#include <vtkCell.h>
 #include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPointData.h>
@@ -103,6 +106,87 @@ TEST(ZoneSurface, IsMadeAgainOnlyForAnotherShape)
     EXPECT_EQ(surface.revision(), revision);
     surface.set(grid, {SurfacesToPlot_KPlanes, {}});
     EXPECT_NE(surface.revision(), revision);
+}
+
+TEST(ZoneSurface, LeavesBlankedCellsOut)
+{
+    const auto grid = block(5, 4, 3); // 4 x 3 x 2 cells
+    const auto blanked = std::make_shared<kernel::BlankedZone>();
+    blanked->points.assign(60, 0);
+    blanked->cells.assign(24, 0);
+    blanked->cells[0] = 1; // at a corner of the block
+    struct Case
+    {
+        SurfacesToPlot_e faces;
+        long cells;
+    };
+    for (const Case& expected : {Case{SurfacesToPlot_BoundaryFaces, 52 - 3},
+                                 {SurfacesToPlot_ExposedFaces, 52 - 3 + 3},
+                                 {SurfacesToPlot_IPlanes, 30 - 1}}) {
+        view::ZoneSurface surface;
+        surface.set(grid, {expected.faces, {}}, 1.0, blanked);
+        EXPECT_EQ(surface.surface()->GetNumberOfCells(), expected.cells) << expected.faces;
+        for (vtkIdType i = 0; i < surface.surface()->GetNumberOfPoints(); ++i) {
+            std::array<double, 3> place{};
+            grid->GetPoint(surface.pointNumbers()->GetValue(i), place.data());
+            std::array<double, 3> drawn{};
+            surface.surface()->GetPoint(i, drawn.data());
+            EXPECT_EQ(drawn, place);
+        }
+        // Twelve edges, of which three are shorter by the one cell.
+        EXPECT_EQ(surface.edges(EdgeType_Borders)->GetNumberOfCells(), 4 * (4 + 3 + 2) - 3) << expected.faces;
+    }
+    blanked->points[59] = 1;
+    view::ZoneSurface surface;
+    surface.set(grid, {}, 1.0, blanked);
+    view::ZonePoints points;
+    points.set(surface, {PointsToPlot_AllNodes, {1, 1, 1}});
+    EXPECT_EQ(points.places().size(), 59U);
+    points.set(surface, {PointsToPlot_AllCellCenters, {1, 1, 1}});
+    EXPECT_EQ(points.places().size(), 23U);
+}
+
+TEST(ZoneSurface, TrimsCellsAlongStraightLines)
+{
+    const auto grid = block(5, 4, 1); // 4 x 3 squares
+    const auto blanked = std::make_shared<kernel::BlankedZone>();
+    blanked->points.assign(20, 0);
+    blanked->cells.assign(12, 0);
+    kernel::FieldArray field = numbered(20, ValueLocation_Nodal);
+    blanked->trimming.resize(2);
+    for (vtkIdType i = 0; i < 20; ++i) {
+        const double* at = grid->GetPoint(i);
+        blanked->trimming[0].push_back(at[0] + at[1] - 2.5);
+        blanked->trimming[1].push_back(3.25 - at[0]);
+        field.values->SetComponent(i, 0, 3.0 * at[0] - 2.0 * at[1]);
+    }
+    view::ZoneSurface surface;
+    surface.set(grid, {}, 1.0, blanked);
+    const auto colored = surface.withValues(surface.surface(), field);
+    double area = 0.0;
+    for (vtkIdType cell = 0; cell < colored->GetNumberOfCells(); ++cell) {
+        vtkPoints* corners = colored->GetCell(cell)->GetPoints();
+        for (vtkIdType i = 0; i < corners->GetNumberOfPoints(); ++i) {
+            std::array<double, 3> a{};
+            std::array<double, 3> b{};
+            corners->GetPoint(i, a.data());
+            corners->GetPoint((i + 1) % corners->GetNumberOfPoints(), b.data());
+            area += 0.5 * (a[0] * b[1] - a[1] * b[0]);
+        }
+    }
+    EXPECT_NEAR(area, 3.25 * 3.0 - 0.5 * 2.5 * 2.5, 1e-6);
+    for (vtkIdType i = 0; i < colored->GetNumberOfPoints(); ++i) {
+        const double* at = colored->GetPoint(i);
+        EXPECT_GE(at[0] + at[1], 2.5 - 1e-6);
+        EXPECT_LE(at[0], 3.25 + 1e-6);
+        EXPECT_NEAR(colored->GetPointData()->GetScalars()->GetComponent(i, 0), 3.0 * at[0] - 2.0 * at[1], 1e-5);
+    }
+    double length = 0.0;
+    vtkPolyData* borders = surface.edges(EdgeType_Borders);
+    for (vtkIdType cell = 0; cell < borders->GetNumberOfCells(); ++cell) {
+        length += std::sqrt(borders->GetCell(cell)->GetLength2());
+    }
+    EXPECT_NEAR(length, (3.25 - 2.5) + 3.25 + (3.0 - 2.5), 1e-6) << "the border along X and Y, no new one";
 }
 
 TEST(ZonePoints, TakesTheChosenPointsWithTheirValues)
