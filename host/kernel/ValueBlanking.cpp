@@ -246,12 +246,24 @@ private:
 
 } // namespace
 
+BlankingConstraint BlankingConstraint::read(const StyleStore& style, long frame, long number)
+{
+    const auto entry = [&](const char* path) { return style.entry(path); };
+    BlankingConstraint constraint;
+    constraint.variable = style.integer(frame, entry("Blanking/Value/Constraint/VarA"), number);
+    constraint.relation = static_cast<RelOp_e>(style.integer(frame, entry("Blanking/Value/Constraint/RelOp"), number));
+    if (style.integer(frame, entry("Blanking/Value/Constraint/ConstraintOp2Mode"), number) ==
+        ConstraintOp2Mode_UseVar) {
+        constraint.otherVariable = style.integer(frame, entry("Blanking/Value/Constraint/VarB"), number);
+    }
+    constraint.number = style.real(frame, entry("Blanking/Value/Constraint/ValueCutoff"), number);
+    return constraint;
+}
+
 ValueBlanking ValueBlanking::read(const StyleStore& style, const Frame& frame)
 {
     const auto entry = [&](const char* path) { return style.entry(path); };
-    const auto integer = [&](const char* path, long constraint = -1) {
-        return style.integer(frame.id(), entry(path), constraint);
-    };
+    const auto integer = [&](const char* path) { return style.integer(frame.id(), entry(path)); };
     ValueBlanking blanking;
     if (!frame.dataSet() || !style.flag(frame.id(), entry("Blanking/Value/Include"))) {
         return blanking;
@@ -263,14 +275,7 @@ ValueBlanking ValueBlanking::read(const StyleStore& style, const Frame& frame)
         if (!style.flag(frame.id(), entry("Blanking/Value/Constraint/Include"), number)) {
             continue;
         }
-        BlankingConstraint constraint;
-        constraint.variable = integer("Blanking/Value/Constraint/VarA", number);
-        constraint.relation = static_cast<RelOp_e>(integer("Blanking/Value/Constraint/RelOp", number));
-        if (integer("Blanking/Value/Constraint/ConstraintOp2Mode", number) == ConstraintOp2Mode_UseVar) {
-            constraint.otherVariable = integer("Blanking/Value/Constraint/VarB", number);
-        }
-        constraint.number = style.real(frame.id(), entry("Blanking/Value/Constraint/ValueCutoff"), number);
-        blanking.constraints.push_back(constraint);
+        blanking.constraints.push_back(BlankingConstraint::read(style, frame.id(), number));
     }
     return blanking;
 }

@@ -21,6 +21,9 @@ struct BlankingConstraint
     double number = 0.0;
 
     bool operator==(const BlankingConstraint&) const = default;
+
+    /* The constraint of a number, 1 to 8, in use or not. */
+    static BlankingConstraint read(const StyleStore& style, long frame, long number);
 };
 
 /*

@@ -20,7 +20,7 @@ AxisScale paddedScale(const PlotStyle& style, std::size_t axis)
 {
     const AxisScale range(style.axes[axis].minimum, style.axes[axis].maximum);
     const double padding = style.boxPadding * (range.maximum() - range.minimum());
-    return {range.minimum() - padding, range.maximum() + padding};
+    return {range.minimum() - padding, range.maximum() + padding, false, style.axes[axis].isReversed};
 }
 
 } // namespace
@@ -81,8 +81,8 @@ AxisBoxPainter::Edge AxisBoxPainter::edge(std::size_t axis) const
     const std::size_t second = (axis + 2) % 3;
     if (const int wanted = m_style.axes[axis].line.edge; wanted > 0) {
         // Counted around the axis: both others at their minimum, the first at its maximum, both, the second.
-        const bool atFirst = wanted == 2 || wanted == 3;
-        const bool atSecond = wanted == 3 || wanted == 4;
+        const bool atFirst = (wanted == 2 || wanted == 3) != m_style.axes[first].isReversed;
+        const bool atSecond = (wanted == 3 || wanted == 4) != m_style.axes[second].isReversed;
         return edgeAt(axis, (atFirst ? 1 << first : 0) | (atSecond ? 1 << second : 0));
     }
     Edge best;
@@ -269,7 +269,8 @@ void AxisBoxPainter::paintTripod() const
     m_canvas.painter.setPen(m_canvas.pen(style.color, 0.15 / 100.0 * m_frameHeight));
     constexpr std::array<const char*, 3> names{"X", "Y", "Z"};
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        const QPointF seen(m_camera.right()[axis], -m_camera.up()[axis]);
+        const double sense = m_style.axes[axis].isReversed ? -1.0 : 1.0;
+        const QPointF seen(sense * m_camera.right()[axis], -sense * m_camera.up()[axis]);
         const QPointF tip = origin + seen * size;
         m_canvas.painter.drawLine(origin, tip);
         if (length(seen) > 0.15) {

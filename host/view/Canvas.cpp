@@ -51,19 +51,26 @@ QFont Canvas::font(double height, bool isBold) const
     return font(isBold ? Font_HelveticaBold : Font_Helvetica, height);
 }
 
-QFont Canvas::font(Font_e family, double height) const
+QFont Canvas::typeface(Font_e family)
 {
     QFont font;
     font.setFamilies(familiesOf(family));
-    const bool isSmall = height * inch * resolution() < smallText;
-    const bool isPlain = edges.arePlain || (edges.arePlainWhereSmall && isSmall);
-    font.setStyleHint(hintOf(family), isPlain ? QFont::NoAntialias : QFont::PreferDefault);
+    font.setStyleHint(hintOf(family));
     font.setBold(family == Font_HelveticaBold || family == Font_TimesBold || family == Font_TimesItalicBold ||
                  family == Font_CourierBold);
     font.setItalic(family == Font_TimesItalic || family == Font_TimesItalicBold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QFont Canvas::font(Font_e family, double height) const
+{
+    QFont font = typeface(family);
+    const bool isSmall = height * inch * resolution() < smallText;
+    const bool isPlain = edges.arePlain || (edges.arePlainWhereSmall && isSmall);
+    font.setStyleHint(hintOf(family), isPlain ? QFont::NoAntialias : QFont::PreferDefault);
     // A size in points is a fraction of an inch of the device, not of the paper.
     font.setPointSizeF(std::max(1.0, height * inch * 72.0 / painter.device()->logicalDpiY()));
-    font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
 

@@ -47,6 +47,9 @@ public:
     QFont font(double height, bool isBold = false) const;
     QFont font(Font_e family, double height) const;
 
+    /* The typeface of a family, of no size yet. */
+    static QFont typeface(Font_e family);
+
     /* A line never thinner than a pixel of the device. */
     QPen pen(const QColor& color, double thickness) const;
 

@@ -11,6 +11,7 @@
 #include <vtkMatrix4x4.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>
+#include <vtkPolyData.h>
 #include <vtkRenderWindow.h>
 #include <vtkRenderer.h>
 #include <vtkStructuredGrid.h>
@@ -99,7 +100,6 @@ FieldScene::FieldScene(OffscreenWindow& window)
 {
     m_renderer->SetAutomaticLightCreation(false);
     m_renderer->SetTwoSidedLighting(true);
-    m_renderer->SetMaximumNumberOfPeels(8);
     m_renderer->SetOcclusionRatio(0.0);
     m_light->SetLightTypeToCameraLight();
     m_light->SetFocalPoint(0.0, 0.0, 0.0);
@@ -131,10 +131,12 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
     const bool isTranslucent =
         std::any_of(style.zones.begin(), style.zones.end(), [](const ZoneStyle& zone) { return zone.opacity < 1.0; });
     m_renderer->SetUseDepthPeeling(isTranslucent);
+    m_renderer->SetMaximumNumberOfPeels(quality.sortedSurfaces);
     m_samples = isTranslucent ? 0 : quality.samples;
     m_oversampling = isTranslucent && quality.samples > 0 ? 2 : 1;
     const bool isThreeD = style.type == PlotType_Cartesian3D;
-    m_scale = isThreeD ? style.axisScale : std::array<double, 3>{1.0, 1.0, 0.0};
+    m_scale = isThreeD ? style.worldScale() : std::array<double, 3>{1.0, 1.0, 0.0};
+    m_shift = isThreeD ? style.worldShift() : std::array<double, 3>{};
     const LayerContext context{isThreeD,      m_oversampling * frameHeightPixels / 100.0,
                                style.light,   style.vectors,
                                style.scatter, quality.keptPoints};
@@ -195,7 +197,14 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
     if (zoneStyle.scatter.isShown && zoneStyle.scatter.isSizedByVariable) {
         values.sizes = loaded(dataSet.field(zoneStyle.zone, style.scatter.variable));
     }
+    for (const BlankingBoundaryStyle& boundary : style.blankingBoundaries) {
+        values.boundaries.push_back({boundary, loaded(dataSet.field(zoneStyle.zone, boundary.constraint.variable)),
+                                     loaded(dataSet.field(zoneStyle.zone, boundary.constraint.otherVariable))});
+    }
     const auto blanked = style.blanking.isActive() ? style.blanking.of(dataSet, zoneStyle.zone) : nullptr;
+    const bool hasLabels = zoneStyle.contour.hasLines() &&
+                           style.contourGroups[std::size_t(zoneStyle.contour.lineGroup - 1)].labels.isShown;
+    zone.labelledGroup = hasLabels ? zoneStyle.contour.lineGroup : 0;
     zone.layers->update(zone.shape, blanked, zoneStyle, values, context);
     zone.layers->place(m_placement);
 }
@@ -234,7 +243,8 @@ QImage FieldScene::picture(const AxisScale& x, const AxisScale& y, QSize size)
     // The world of a flat plot is the picture itself: one unit a pixel.
     Placement placement;
     placement.scale[2] = 0.0;
-    placement.diagonal = std::hypot(double(pixels.width()), double(pixels.height()));
+    placement.size = {double(pixels.width()), double(pixels.height())};
+    placement.diagonal = std::hypot(placement.size[0], placement.size[1]);
     const std::array<const AxisScale*, 2> axes{&x, &y};
     const std::array<double, 2> lengths{double(pixels.width()), double(pixels.height())};
     for (std::size_t i = 0; i < 2; ++i) {
@@ -261,6 +271,7 @@ QImage FieldScene::picture(const Camera3D& view, QSize size)
     view.apply(*camera);
     Placement placement;
     placement.scale = m_scale;
+    placement.shift = m_shift;
     placement.diagonal = m_boxDiagonal;
     const double height =
         camera->GetParallelProjection()
@@ -294,7 +305,7 @@ std::optional<Point3> FieldScene::pick(double across, double up) const
     Point3 point{};
     picker->GetPickPosition(point.data());
     for (std::size_t i = 0; i < 3; ++i) {
-        point[i] /= m_scale[i] != 0.0 ? m_scale[i] : 1.0;
+        point[i] = (point[i] - m_shift[i]) / (m_scale[i] != 0.0 ? m_scale[i] : 1.0);
     }
     return point;
 }
@@ -330,6 +341,66 @@ std::vector<QPointF> FieldScene::zoneCorners(long zone) const
         corners.emplace_back(0.5 + 0.5 * view[0] / view[3], 0.5 + 0.5 * view[1] / view[3]);
     }
     return corners;
+}
+
+std::vector<SeenContourLine> FieldScene::contourLines() const
+{
+    std::vector<SeenContourLine> seen;
+    if (m_pixels.isEmpty()) {
+        return seen;
+    }
+    const double aspect = double(m_pixels.width()) / m_pixels.height();
+    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
+    for (const auto& [number, zone] : m_zones) {
+        ContourLineLayer& layer = zone.layers->contourLines();
+        vtkPolyData* lines = layer.lines();
+        vtkDataArray* levels = lines ? lines->GetPointData()->GetScalars() : nullptr;
+        if (!levels || zone.labelledGroup < 1) {
+            continue;
+        }
+        for (const LineChain& chain : layer.chains()) {
+            SeenContourLine line;
+            line.group = std::size_t(zone.labelledGroup - 1);
+            line.level = levels->GetComponent(chain.points.front(), 0);
+            for (const vtkIdType point : chain.points) {
+                Point3 place{};
+                lines->GetPoint(point, place.data());
+                const Point3 world = m_placement.place(place);
+                const std::array<double, 4> from{world[0], world[1], world[2], 1.0};
+                std::array<double, 4> to{};
+                toView->MultiplyPoint(from.data(), to.data());
+                line.places << QPointF(0.5 + 0.5 * to[0] / to[3], 0.5 + 0.5 * to[1] / to[3]);
+                line.depths.push_back(to[2] / to[3]);
+            }
+            seen.push_back(std::move(line));
+        }
+    }
+    return seen;
+}
+
+bool FieldScene::isInFront(QPointF place, double depth) const
+{
+    constexpr double tolerance = 0.01; /* of the depth of the picture, -1 to 1 */
+    const auto picker = vtkSmartPointer<vtkCellPicker>::New();
+    if (m_placement.isFlat() || !pick(*picker, place.x(), place.y())) {
+        return true;
+    }
+    const double aspect = double(m_pixels.width()) / m_pixels.height();
+    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
+    const double* hit = picker->GetPickPosition();
+    const std::array<double, 4> from{hit[0], hit[1], hit[2], 1.0};
+    std::array<double, 4> to{};
+    toView->MultiplyPoint(from.data(), to.data());
+    return depth <= to[2] / to[3] + tolerance;
+}
+
+long FieldScene::geometryCount() const
+{
+    long count = 0;
+    for (const auto& [number, zone] : m_zones) {
+        count += zone.layers->geometryCount();
+    }
+    return count;
 }
 
 long FieldScene::surfacePointCount() const

@@ -2,6 +2,7 @@
 
 #include "view/AxisTicks.h"
 #include "view/Camera3D.h"
+#include "view/ContourLabels.h"
 #include "view/OffscreenWindow.h"
 #include "view/PlotStyle.h"
 #include "view/RenderSettings.h"
@@ -41,6 +42,7 @@ public:
     struct Quality
     {
         int samples = 0;         /* of each pixel; 0 for no smoothing */
+        int sortedSurfaces = 8;  /* translucent ones behind each other */
         double keptPoints = 1.0; /* of the points of surfaces, above 0 to 1 */
     };
 
@@ -66,9 +68,19 @@ public:
     /* Where the corners of the box around a zone lie in that picture; none for a zone that is not drawn. */
     std::vector<QPointF> zoneCorners(long zone) const;
 
-    /* Zones whose layers are kept at present, and the points of their surfaces. */
+    /* The contour lines that have labels, as they lie in that picture. */
+    std::vector<SeenContourLine> contourLines() const;
+
+    /* Whether nothing of that picture is in front of a place of such a line. */
+    bool isInFront(QPointF place, double depth) const;
+
+    /* Zones whose layers are kept at present, and the points of their surfaces.
+     */
     long zoneCount() const { return static_cast<long>(m_zones.size()); }
     long surfacePointCount() const;
+
+    /* How often a layer of these zones was made anew. */
+    long geometryCount() const;
 
 private:
     struct Zone
@@ -77,6 +89,7 @@ private:
         vtkSmartPointer<vtkDataSet> shape;
         std::array<bool, 3> isLogarithmic{};
         bool isFlat = false;
+        long labelledGroup = 0;                 /* of the contour lines; 0 without labels */
         std::map<long, ContourValues> contours; /* by group; those that a layer asked for */
         std::unique_ptr<ZoneLayers> layers;
     };
@@ -99,6 +112,7 @@ private:
     std::map<long, Zone> m_zones;
     std::vector<Group> m_groups;
     std::array<double, 3> m_scale{1.0, 1.0, 1.0};
+    std::array<double, 3> m_shift{0.0, 0.0, 0.0};
     Placement m_placement;      /* as of the last picture */
     double m_boxDiagonal = 1.0; /* of a 3D plot, in the world */
     QSize m_pixels;             /* of the picture rendered last */

@@ -4,10 +4,9 @@
 #include "kernel/DataSet.h"
 #include "view/AxisBoxPainter.h"
 #include "view/AxisPainter.h"
-#include "view/ContourLegend.h"
 #include "view/GeometryPainter.h"
-#include "view/LineLegend.h"
 #include "view/LinePlot.h"
+#include "view/PlotLegends.h"
 #include "view/PlotMeasures.h"
 #include "view/PolarAxisPainter.h"
 #include "view/TextPainter.h"
@@ -20,26 +19,13 @@ namespace vantrix::view {
 namespace {
 
 constexpr int smoothSamples = 8;
+constexpr int sortedSurfaces = 8; /* translucent ones behind each other; more take longer */
+constexpr int allSurfaces = 200;
 
 /* Whether the frame's plot draws anything of a field. */
 bool hasField(const PlotStyle& style)
 {
     return (style.type == PlotType_Cartesian2D || style.type == PlotType_Cartesian3D) && !style.zones.empty();
-}
-
-/* The contour group whose legend is shown: the first that a zone uses. */
-const ContourGroupStyle* legendGroup(const PlotStyle& style)
-{
-    for (const ZoneStyle& zone : style.zones) {
-        const long number = zone.contour.hasFlood() ? zone.contour.floodGroup : zone.contour.lineGroup;
-        if (zone.contour.isShown && number >= 1 && number <= long(style.contourGroups.size())) {
-            const ContourGroupStyle& group = style.contourGroups[std::size_t(number - 1)];
-            if (group.hasLegend && !group.levels.empty()) {
-                return &group;
-            }
-        }
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -97,11 +83,13 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
     } catch (const kernel::DataError& error) {
         paintNotice(canvas, inside, QString::fromStdString(error.what()));
     }
-    for (const auto& geometry : m_geometries) {
-        GeometryPainter(canvas, rect, m_plot, *geometry).paint();
-    }
-    for (const auto& text : m_texts) {
-        TextPainter(canvas, rect, m_plot, *text, request.latex).paint();
+    if (hasTexts()) {
+        for (const auto& geometry : m_geometries) {
+            GeometryPainter(canvas, rect, m_plot, *geometry).paint();
+        }
+        for (const auto& text : m_texts) {
+            TextPainter(canvas, rect, m_plot, *text, request.latex).paint();
+        }
     }
     painter.restore();
     if (style.hasBorder) {
@@ -139,22 +127,8 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
         paintNotice(canvas, inside, QStringLiteral("Field plots need a graphics display"));
         return;
     }
-    const PlotMeasures measures = PlotMeasures::forFrame(m_plot.frameSize);
-    const double gap = measures.gap * canvas.inch;
-    QRectF room = inside;
-    const ContourGroupStyle* group = hasField(style) ? legendGroup(style) : nullptr;
-    const LineLegend lineLegend(canvas, frameHeightInches(canvas), style);
-    const bool hasLineColumn = lineLegend.isShown() && !style.lineLegend.isPlaced;
-    double legendWidth = 0.0;
-    if (group) {
-        legendWidth = ContourLegend(canvas, measures, *group).width();
-    } else if (hasLineColumn) {
-        legendWidth = lineLegend.size().width();
-    }
-    legendWidth = std::min(legendWidth, 0.4 * inside.width());
-    if (legendWidth > 0.0) {
-        room.setRight(room.right() - legendWidth - 3.0 * gap);
-    }
+    const PlotLegends legends(canvas, frameHeightInches(canvas), style);
+    const QRectF room = legends.room(inside);
     switch (style.type) {
     case PlotType_Cartesian3D:
         paintThreeD(canvas, room);
@@ -166,23 +140,8 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
         paintFlat(canvas, room);
         break;
     }
-    if (legendWidth > 0.0) {
-        const bool isThreeD = style.type == PlotType_Cartesian3D;
-        const QRectF area(m_rect.topLeft() + m_plot.area.topLeft() * canvas.inch, m_plot.area.size() * canvas.inch);
-        const double left = isThreeD || hasLineColumn ? room.right() : area.right() + 2.0 * gap;
-        const QRectF column(left, isThreeD ? inside.top() + 3.0 * gap : area.top(), legendWidth,
-                            isThreeD ? inside.height() - 6.0 * gap : area.height());
-        if (group) {
-            ContourLegend(canvas, measures, *group).paint(column);
-        } else {
-            lineLegend.paint({column.topLeft(), QSizeF(legendWidth, lineLegend.size().height())});
-        }
-        canvas.markArea({.type = group ? PickObject_ContourLegend : PickObject_LineLegend}, column);
-    }
-    if (lineLegend.isShown() && style.lineLegend.isPlaced) {
-        lineLegend.paint(lineLegend.placedRect(m_rect));
-        canvas.markArea({.type = PickObject_LineLegend}, lineLegend.placedRect(m_rect));
-    }
+    legends.paint(m_rect, inside,
+                  {m_rect.topLeft() + m_plot.area.topLeft() * canvas.inch, m_plot.area.size() * canvas.inch});
 }
 
 double FramePainter::frameHeightInches(const Canvas& canvas) const
@@ -275,15 +234,21 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     const QSize pixels(int(std::lround(device.width())), int(std::lround(device.height())));
     const RenderSettings& settings = m_request.settings;
     const bool isExport = !m_request.isForScreen;
-    const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0};
+    const int sorted = isExport && settings.exportsSorted ? allSurfaces : sortedSurfaces;
+    const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0, hasTexts(), sorted};
     const bool takesScreen =
         isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.revision == m_revision;
+    const ContourLabels labels(canvas, frameHeightInches(canvas), area, m_plot.style.contourGroups);
     KeptPicture& kept = isExport && !takesScreen ? m_exported : m_onScreen;
     if (!takesScreen && (key != kept.key || kept.image.isNull())) {
         const auto begin = std::chrono::steady_clock::now();
-        const FieldScene::Quality quality{m_isApproximate ? 0 : smoothSamples, key.keptPoints};
+        const FieldScene::Quality quality{m_isApproximate ? 0 : smoothSamples, sorted, key.keptPoints};
         scene().update(*m_dataSet, m_plot.style, m_frameHeight * canvas.resolution(), quality);
-        kept = {key, render(pixels.expandedTo({1, 1}))};
+        kept = {key, render(pixels.expandedTo({1, 1})), {}};
+        if (hasTexts()) {
+            kept.labels = labels.place(scene().contourLines(),
+                                       [&](QPointF place, double depth) { return scene().isInFront(place, depth); });
+        }
         m_paintedPoints = scene().surfacePointCount();
         scene().release(settings.cache);
         ++m_renderCount;
@@ -294,6 +259,12 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     }
     canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, kept.image.size() != pixels);
     canvas.painter.drawImage(area, kept.image);
+    labels.paint(kept.labels);
+}
+
+bool FramePainter::hasTexts() const
+{
+    return !m_isApproximate || m_request.settings.approximatesTexts;
 }
 
 bool FramePainter::mayApproximate() const
@@ -333,7 +304,8 @@ std::optional<Point3> FramePainter::pick(QPointF place)
         return std::nullopt;
     }
     if (scene().zoneCount() == 0) { /* not kept from the last picture */
-        scene().update(*m_dataSet, m_plot.style, m_frameHeight, {smoothSamples, m_onScreen.key.keptPoints});
+        scene().update(*m_dataSet, m_plot.style, m_frameHeight,
+                       {smoothSamples, sortedSurfaces, m_onScreen.key.keptPoints});
     }
     const std::optional<Point3> point = scene().pick((place.x() - m_plot.area.left()) / m_plot.area.width(),
                                                      (m_plot.area.bottom() - place.y()) / m_plot.area.height());

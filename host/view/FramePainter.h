@@ -60,6 +60,7 @@ public:
     /* Where an object that was picked shows handles; none for what was not painted. */
     QPolygonF handles(const kernel::PickedObject& object);
     long renderCount() const { return m_renderCount; }
+    long geometryCount() const { return m_scene.geometryCount(); }
 
     /* Whether the plot was painted thinned last, and how many points it had. */
     bool isApproximate() const { return m_isApproximate; }
@@ -75,12 +76,15 @@ private:
         unsigned long revision = 0;
         QSize pixels;
         double keptPoints = 1.0;
+        bool hasTexts = true;
+        int sortedSurfaces = 0;
         bool operator==(const PictureKey&) const = default;
     };
     struct KeptPicture
     {
         PictureKey key;
         QImage image;
+        std::vector<ContourLabel> labels;
     };
 
     void paintHeader(const Canvas& canvas, const QRectF& header) const;
@@ -94,6 +98,7 @@ private:
     template<typename Render>
     void paintPicture(const Canvas& canvas, const QRectF& area, Render render);
     bool mayApproximate() const;
+    bool hasTexts() const;
     FieldScene& scene();
 
     OffscreenWindow& m_window;

@@ -22,8 +22,10 @@ std::optional<QPointF> FramePlot::dataAt(QPointF place) const
 std::optional<QPointF> FramePlot::placeOf(const Point3& data) const
 {
     if (camera) {
-        const QPointF seen =
-            camera->project({data[0] * style.axisScale[0], data[1] * style.axisScale[1], data[2] * style.axisScale[2]});
+        const Point3 scale = style.worldScale();
+        const Point3 shift = style.worldShift();
+        const QPointF seen = camera->project(
+            {data[0] * scale[0] + shift[0], data[1] * scale[1] + shift[1], data[2] * scale[2] + shift[2]});
         return area.center() + QPointF(seen.x(), -seen.y()) * area.width();
     }
     if (polar) {

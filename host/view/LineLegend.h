@@ -1,7 +1,6 @@
 #pragma once
 
-#include "view/Canvas.h"
-#include "view/PlotStyle.h"
+#include "view/LegendBox.h"
 
 #include <QRectF>
 
@@ -19,27 +18,24 @@ public:
     /* False when it is off or there is nothing to show. */
     bool isShown() const;
 
+    const LegendStyle& style() const { return m_box.style(); }
+
     /* Room that it takes, its box included, in logical units. */
     QSizeF size() const;
 
     /* Where it lies in the frame when the user has placed it. */
-    QRectF placedRect(const QRectF& frame) const;
+    QRectF placedRect(const QRectF& frame) const { return m_box.placedRect(frame, size()); }
 
     /* Rows that do not fit are left away. */
     void paint(const QRectF& rect) const;
 
 private:
-    double margin() const;
-    double sampleWidth() const;
-    double rowHeight() const;
+    double sampleWidth() const { return 2.4 * m_box.textHeight(); }
 
     const Canvas& m_canvas;
     double m_frameHeight;
-    const PlotStyle& m_style;
-    const LegendStyle& m_legend;
+    LegendBox m_box;
     std::vector<const LineMapStyle*> m_maps; /* those that draw something */
-    QFont m_font;
-    double m_textHeight;
 };
 
 } // namespace vantrix::view

@@ -3,10 +3,7 @@
 #include <algorithm>
 
 namespace vantrix::view {
-namespace {
-
-/* Dashes and gaps in parts of one repetition. */
-QList<double> parts(LinePattern_e pattern)
+QList<double> dashParts(LinePattern_e pattern)
 {
     switch (pattern) {
     case LinePattern_Dashed:
@@ -25,14 +22,12 @@ QList<double> parts(LinePattern_e pattern)
     return {};
 }
 
-} // namespace
-
 QPen patternPen(const Canvas& canvas, const QColor& color, double thickness, LinePattern_e pattern,
                 double patternLength)
 {
     QPen pen = canvas.pen(color, thickness);
     pen.setJoinStyle(Qt::RoundJoin);
-    QList<double> dashes = parts(pattern);
+    QList<double> dashes = dashParts(pattern);
     if (dashes.isEmpty()) {
         pen.setCapStyle(Qt::RoundCap);
         return pen;

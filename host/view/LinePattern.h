@@ -5,6 +5,9 @@
 
 namespace vantrix::view {
 
+/* Dashes and gaps in turn, in parts of one repetition; none of a solid line. */
+QList<double> dashParts(LinePattern_e pattern);
+
 /*
  * A pen that draws a pattern: `thickness` and `patternLength` (of one repetition) in inches. A pattern never gets so
  * short that its parts run together.

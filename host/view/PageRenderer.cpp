@@ -219,6 +219,12 @@ long PageRenderer::surfacePointCount(long frameId) const
     return painter ? painter->surfacePointCount() : 0;
 }
 
+long PageRenderer::geometryCount(long frameId) const
+{
+    const FramePainter* painter = m_impl->painterOf(frameId);
+    return painter ? painter->geometryCount() : 0;
+}
+
 long PageRenderer::keptZoneCount() const
 {
     long count = 0;

@@ -81,6 +81,10 @@ public:
     bool isApproximate(long frameId) const;
     long surfacePointCount(long frameId) const;
 
+    /* How often the geometry of a layer was made for the full plot of a frame:
+     * surfaces, lines, symbols. */
+    long geometryCount(long frameId) const;
+
     /* Zones of all frames whose graphics objects are in memory. */
     long keptZoneCount() const;
 

@@ -56,6 +56,36 @@ AxisNames axisNames(PlotType_e type)
     return {"TwoDAxis", {"XDetail", "YDetail"}};
 }
 
+LegendStyle readLegend(const StyleReader& style)
+{
+    LegendStyle legend;
+    legend.isShown = style.flag("Show");
+    legend.isPlaced = style.flag("IsPlaced");
+    legend.position = {style.real("XYPos/X") / 100.0, style.real("XYPos/Y") / 100.0};
+    legend.anchor = style.enumerator<AnchorAlignment_e>("AnchorAlignment");
+    legend.text = TextStyle::read(style.below("TextShape"));
+    legend.text.color = style.color("TextColor");
+    legend.rowSpacing = style.real("RowSpacing");
+    legend.box = style.enumerator<TextBox_e>("Box/BoxType");
+    legend.boxColor = style.color("Box/Color");
+    legend.boxFill = style.color("Box/FillColor");
+    legend.boxThickness = style.real("Box/LineThickness");
+    legend.boxMargin = style.real("Box/Margin");
+    return legend;
+}
+
+ContourLabelStyle readContourLabels(const StyleReader& style)
+{
+    ContourLabelStyle labels;
+    labels.isShown = style.flag("Show");
+    labels.text = TextStyle::read(style.below("TextShape"));
+    labels.text.color = style.color("Color");
+    labels.isFilled = style.flag("IsFilled");
+    labels.fill = style.color("FillColor");
+    labels.skip = static_cast<int>(style.integer("Skip"));
+    return labels;
+}
+
 ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataSet& dataSet)
 {
     ContourGroupStyle group;
@@ -70,7 +100,10 @@ ContourGroupStyle readContourGroup(const StyleReader& style, const kernel::DataS
     if (style.flag("ColorCutoff/UseMax")) {
         group.cutoff.maximum = style.real("ColorCutoff/Max");
     }
-    group.hasLegend = style.flag("Legend/Show");
+    group.legend = readLegend(style.below("Legend"));
+    group.isLegendUpright = style.flag("Legend/IsVertical");
+    group.legendLabelSkip = static_cast<int>(style.integer("Legend/LabelSkip"));
+    group.labels = readContourLabels(style.below("Labels"));
     const double first = style.real("Levels/Min");
     const double last = style.real("Levels/Max");
     const long count = style.integer("Levels/Count");
@@ -104,21 +137,16 @@ LightStyle readLight(const StyleReader& style)
     light.hasHighlights = style.flag("IncludeSpecularHighlights");
     light.highlight = style.real("SpecularIntensity") / 100.0;
     light.shininess = style.real("SpecularShininess");
+    light.colorContrast = style.real("SurfaceColorContrast") / 100.0;
+    light.forcesGouraud = style.flag("ForceGouraudShading");
+    light.forcesPanels = style.flag("ForcePanelShading");
     light.direction = {style.real("Direction/X"), style.real("Direction/Y"), style.real("Direction/Z")};
     return light;
 }
 
 SymbolStyle readSymbol(const StyleReader& style)
 {
-    const StyleReader shape = style.below("SymbolShape");
-    SymbolStyle symbol;
-    symbol.shape = shape.enumerator<GeomShape_e>("GeomShape");
-    if (shape.flag("IsASCII")) {
-        symbol.character = shape.text("ASCIIShape/ASCIIChar");
-    }
-    if (!shape.flag("ASCIIShape/UseBaseFont")) {
-        symbol.font = shape.enumerator<Font_e>("ASCIIShape/FontOverride");
-    }
+    SymbolStyle symbol = SymbolStyle::read(style.below("SymbolShape"));
     symbol.color = style.color("Color");
     symbol.isFilled = style.flag("IsFilled");
     symbol.fill = style.color("FillColor");
@@ -150,31 +178,30 @@ LineMapStyle readLineMap(const StyleReader& style, const StyleReader& layers, co
     return map;
 }
 
-LegendStyle readLegend(const StyleReader& style)
-{
-    LegendStyle legend;
-    legend.isShown = style.flag("Show");
-    legend.isPlaced = style.flag("IsPlaced");
-    legend.position = {style.real("XYPos/X") / 100.0, style.real("XYPos/Y") / 100.0};
-    legend.anchor = style.enumerator<AnchorAlignment_e>("AnchorAlignment");
-    legend.text = TextStyle::read(style.below("TextShape"));
-    legend.text.color = style.color("TextColor");
-    legend.rowSpacing = style.real("RowSpacing");
-    legend.hasNames = style.flag("ShowText");
-    legend.box = style.enumerator<TextBox_e>("Box/BoxType");
-    legend.boxColor = style.color("Box/Color");
-    legend.boxFill = style.color("Box/FillColor");
-    legend.boxThickness = style.real("Box/LineThickness");
-    legend.boxMargin = style.real("Box/Margin");
-    return legend;
-}
-
 TripodStyle readTripod(const StyleReader& style)
 {
     return {style.flag("Show"),
             style.real("Size"),
             style.color("Color"),
             {style.real("XYPos/X") / 100.0, style.real("XYPos/Y") / 100.0}};
+}
+
+std::vector<BlankingBoundaryStyle> readBoundaries(const kernel::StyleStore& store, long frame)
+{
+    constexpr long constraintCount = 8;
+    std::vector<BlankingBoundaryStyle> boundaries;
+    if (!StyleReader(store, frame, "Blanking/Value").flag("Include")) {
+        return boundaries;
+    }
+    for (long number = 1; number <= constraintCount; ++number) {
+        const StyleReader style(store, frame, "Blanking/Value/Constraint", number);
+        if (style.flag("Include") && style.flag("Show")) {
+            boundaries.push_back({kernel::BlankingConstraint::read(store, frame, number), style.color("Color"),
+                                  style.enumerator<LinePattern_e>("LinePattern"), style.real("PatternLength"),
+                                  style.real("LineThickness")});
+        }
+    }
+    return boundaries;
 }
 
 void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, const kernel::DataSet& dataSet)
@@ -188,10 +215,15 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
     for (long zone = 1; zone <= dataSet.zoneCount(); ++zone) {
         if (dataSet.zoneEnabled[std::size_t(zone - 1)] && store.flag(frame, activeEntry, zone)) {
             plot.zones.push_back(ZoneStyle::read(StyleReader(store, frame, "FieldMap", zone), layers, zone));
+            plot.zones.back().name = dataSet.zones[std::size_t(zone - 1)]->name();
         }
     }
     plot.vectors = VectorScaleStyle::read(style);
     plot.scatter = ScatterScaleStyle::read(style);
+    plot.scatterLegend = readLegend(style.below("GlobalScatter/Legend"));
+    if (plot.type == PlotType_Cartesian2D) {
+        plot.blankingBoundaries = readBoundaries(store, frame);
+    }
     if (plot.type == PlotType_Cartesian3D) {
         plot.view = readView(style.below("ThreeDView"));
         plot.light = readLight(style.below("GlobalThreeD/LightSource"));
@@ -224,6 +256,7 @@ void readLines(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
         }
     }
     plot.lineLegend = readLegend(style.below("GlobalLinePlot/Legend"));
+    plot.lineLegend.hasNames = style.flag("GlobalLinePlot/Legend/ShowText");
 }
 
 /* The names, each once, of what line maps show over an axis. */
@@ -293,6 +326,24 @@ void readAxes(PlotStyle& plot, const kernel::StyleStore& store, long frame, cons
 }
 
 } // namespace
+
+std::array<double, 3> PlotStyle::worldScale() const
+{
+    std::array<double, 3> scale = axisScale;
+    for (std::size_t i = 0; i < scale.size(); ++i) {
+        scale[i] *= axes[i].isReversed ? -1.0 : 1.0;
+    }
+    return scale;
+}
+
+std::array<double, 3> PlotStyle::worldShift() const
+{
+    std::array<double, 3> shift{};
+    for (std::size_t i = 0; i < shift.size(); ++i) {
+        shift[i] = axes[i].isReversed ? (axes[i].minimum + axes[i].maximum) * axisScale[i] : 0.0;
+    }
+    return shift;
+}
 
 PlotStyle PlotStyle::read(const kernel::StyleStore& store, const kernel::Frame& frame)
 {

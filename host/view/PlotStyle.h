@@ -40,6 +40,38 @@ struct ColorCutoff
     bool operator==(const ColorCutoff&) const = default;
 };
 
+/* A legend: where its anchor lies, its text and its box. */
+struct LegendStyle
+{
+    bool isShown = false;
+    bool isPlaced = false; /* by the user; else the plot makes room for it */
+    QPointF position;      /* of the anchor: parts of the frame, from its lower left
+                              corner */
+    AnchorAlignment_e anchor = AnchorAlignment_TopRight;
+    TextStyle text;
+    double rowSpacing = 1.2; /* text heights */
+    bool hasNames = true;
+    TextBox_e box = TextBox_Hollow;
+    QColor boxColor = Qt::black;
+    QColor boxFill = Qt::white;
+    double boxThickness = 0.1;
+    double boxMargin = 10.0; /* per cent of the text's height */
+
+    bool operator==(const LegendStyle&) const = default;
+};
+
+/* The numbers along contour lines. */
+struct ContourLabelStyle
+{
+    bool isShown = false;
+    TextStyle text;
+    bool isFilled = true;
+    QColor fill = Qt::white;
+    int skip = 1; /* every how many levels have labels */
+
+    bool operator==(const ContourLabelStyle&) const = default;
+};
+
 struct ContourGroupStyle
 {
     long variable = 0;
@@ -48,8 +80,11 @@ struct ContourGroupStyle
     bool isReversed = false;
     std::string colorMap;
     ColorCutoff cutoff;
-    bool hasLegend = true;
-    std::string title;
+    LegendStyle legend;
+    bool isLegendUpright = true;
+    int legendLabelSkip = 1; /* every how many levels the legend has a number */
+    std::string title;       /* of the legend; may be empty */
+    ContourLabelStyle labels;
 
     bool operator==(const ContourGroupStyle&) const = default;
 };
@@ -79,24 +114,13 @@ struct LightStyle
     bool hasHighlights = true;
     double highlight = 0.4;
     double shininess = 60.0;                          /* 0 to 100 */
+    double colorContrast = 1.0;                       /* how much of its own colour a lit surface keeps */
+    bool forcesGouraud = false;                       /* flooded surfaces are shaded smoothly, whatever
+                                                         their zone says */
+    bool forcesPanels = false;                        /* or cell by cell; smoothly where both are asked for */
     std::array<double, 3> direction{-0.2, 0.2, 0.96}; /* to the light; X to the right, Y up, Z to the viewer */
 
     bool operator==(const LightStyle&) const = default;
-};
-
-/* A shape, or a character in place of it. */
-struct SymbolStyle
-{
-    GeomShape_e shape = GeomShape_Circle;
-    std::string character; /* empty for the shape */
-    Font_e font = Font_Helvetica;
-    QColor color = Qt::black;
-    bool isFilled = false;
-    QColor fill = Qt::black;
-    double size = 2.5;      /* like all lengths here per cent of the frame's height */
-    double thickness = 0.1; /* of its outline */
-
-    bool operator==(const SymbolStyle&) const = default;
 };
 
 struct LineMapStyle
@@ -118,25 +142,6 @@ struct LineMapStyle
     long skip = 1; /* every how many points have a symbol */
 
     bool operator==(const LineMapStyle&) const = default;
-};
-
-/* A legend: where its anchor lies, its text and its box. */
-struct LegendStyle
-{
-    bool isShown = false;
-    bool isPlaced = false; /* by the user; else the plot makes room for it */
-    QPointF position;      /* of the anchor: parts of the frame, from its lower left corner */
-    AnchorAlignment_e anchor = AnchorAlignment_TopRight;
-    TextStyle text;
-    double rowSpacing = 1.2; /* text heights */
-    bool hasNames = true;
-    TextBox_e box = TextBox_Hollow;
-    QColor boxColor = Qt::black;
-    QColor boxFill = Qt::white;
-    double boxThickness = 0.1;
-    double boxMargin = 10.0; /* per cent of the text's height */
-
-    bool operator==(const LegendStyle&) const = default;
 };
 
 /* The frame around the plot. */
@@ -165,6 +170,19 @@ struct TripodStyle
     bool operator==(const TripodStyle&) const = default;
 };
 
+/* The line where a constraint of value blanking begins to hold. Lengths are per
+ * cent of the frame's height. */
+struct BlankingBoundaryStyle
+{
+    kernel::BlankingConstraint constraint;
+    QColor color = Qt::black;
+    LinePattern_e pattern = LinePattern_Solid;
+    double patternLength = 2.0;
+    double thickness = 0.4;
+
+    bool operator==(const BlankingBoundaryStyle&) const = default;
+};
+
 /* Everything that decides what a frame's plot looks like, read from the style store at once. */
 struct PlotStyle
 {
@@ -178,6 +196,7 @@ struct PlotStyle
     std::vector<ZoneStyle> zones;
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
+    LegendStyle scatterLegend;
     std::vector<LineMapStyle> lineMaps;
     LegendStyle lineLegend;
     FrameStyle frame;
@@ -191,8 +210,14 @@ struct PlotStyle
     double boxPadding = 0.0; /* of a 3D plot: space between data and box, as part of the range */
     TripodStyle tripod;
     kernel::ValueBlanking blanking;
+    std::vector<BlankingBoundaryStyle> blankingBoundaries; /* of a flat field plot */
 
     bool operator==(const PlotStyle&) const = default;
+
+    /* Of a 3D plot: a coordinate of the data is in the world at scale times its value plus shift. A reversed axis runs
+     * the other way through the same part of the world. */
+    std::array<double, 3> worldScale() const;
+    std::array<double, 3> worldShift() const;
 
     static PlotStyle read(const kernel::StyleStore& store, const kernel::Frame& frame);
 };

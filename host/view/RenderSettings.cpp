@@ -25,8 +25,10 @@ RenderSettings RenderSettings::read(const kernel::StyleStore& store)
     settings.approximation = style.enumerator<PlotApproximationMode_e>("PlotApproximationMode");
     settings.keptPoints = style.real("PercentageOfPointsToKeep") / 100.0;
     settings.longestTime = style.real("MaxRenderTimeBeforeApprox");
+    settings.approximatesTexts = style.flag("ShowTextGeomsInApproxViews");
     settings.cache = cacheOf(style);
     settings.exportsAnew = style.flag("UseOffScreenBitMap");
+    settings.exportsSorted = store.flag(kernel::StyleStore::processScope, store.entry("Print/ForceExtra3DSorting"));
     settings.hasPlainTexts = style.flag("UseStrokeFontsOnScreen");
     settings.hasPlainSmallTexts = style.flag("UseStrokeFontsForSmallText");
     return settings;

@@ -22,10 +22,12 @@ struct RenderSettings
     bool redrawsAlways = true; /* else on request only */
     bool approximates = true;
     PlotApproximationMode_e approximation = PlotApproximationMode_Automatic;
-    double keptPoints = 0.25;  /* of an approximate plot, of the points of its surfaces; 0 to 1 */
-    double longestTime = 0.25; /* seconds that rendering may take before a moving plot is approximated */
+    double keptPoints = 0.25;      /* of an approximate plot, of the points of its surfaces; 0 to 1 */
+    double longestTime = 0.25;     /* seconds that rendering may take before a moving plot is approximated */
+    bool approximatesTexts = true; /* an approximate plot has its texts, too */
     GraphicsCache cache = GraphicsCache::All;
     bool exportsAnew = true;    /* exported pictures are rendered for themselves; else they take what the screen has */
+    bool exportsSorted = false; /* however many translucent surfaces lie behind each other, in exported pictures */
     bool hasPlainTexts = false; /* texts on the screen without smoothed edges */
     bool hasPlainSmallTexts = false;
 

@@ -8,7 +8,8 @@
 namespace vantrix::view {
 
 ZoneLayers::ZoneLayers(vtkRenderer* renderer)
-    : m_shade(renderer)
+    : m_renderer(renderer)
+    , m_shade(renderer)
     , m_flood(renderer)
     , m_mesh(renderer)
     , m_lines(renderer)
@@ -41,6 +42,14 @@ void ZoneLayers::update(vtkDataSet* geometry, const std::shared_ptr<const kernel
     const ScatterStyle& scatter = style.scatter;
     m_scatter.update(m_points, scatter, values.sizes, colors(scatter.isShown, scatter.color),
                      colors(scatter.isShown, scatter.fill), context);
+    m_boundaries.resize(values.boundaries.size());
+    for (std::size_t i = 0; i < m_boundaries.size(); ++i) {
+        const ZoneValues::Boundary& boundary = values.boundaries[i];
+        if (!m_boundaries[i]) {
+            m_boundaries[i] = std::make_unique<BlankingBoundaryLayer>(m_renderer);
+        }
+        m_boundaries[i]->update(m_surface, boundary.style, boundary.field, boundary.other, context);
+    }
 }
 
 void ZoneLayers::place(const Placement& placement)
@@ -52,6 +61,9 @@ void ZoneLayers::place(const Placement& placement)
     m_edges.place(placement);
     m_vectors.place(placement);
     m_scatter.place(placement);
+    for (const auto& boundary : m_boundaries) {
+        boundary->place(placement);
+    }
 }
 
 bool ZoneLayers::hasProp(const vtkProp* prop) const
@@ -67,6 +79,15 @@ bool ZoneLayers::worldBounds(std::array<double, 6>& bounds) const
 long ZoneLayers::surfaceCellCount()
 {
     return static_cast<long>(m_surface.surface()->GetNumberOfCells());
+}
+
+long ZoneLayers::geometryCount() const
+{
+    long count = 0;
+    for (const FieldLayer* layer : layers()) {
+        count += layer->geometryCount();
+    }
+    return count;
 }
 
 long ZoneLayers::surfacePointCount()

@@ -2,6 +2,7 @@
 
 #include "view/ZonePoints.h"
 #include "view/ZoneSurface.h"
+#include "view/layers/BlankingBoundaryLayer.h"
 #include "view/layers/ContourLineLayer.h"
 #include "view/layers/EdgeLayer.h"
 #include "view/layers/FloodLayer.h"
@@ -12,6 +13,8 @@
 
 #include <array>
 #include <functional>
+#include <memory>
+#include <vector>
 
 namespace vantrix::view {
 
@@ -22,6 +25,15 @@ struct ZoneValues
     std::function<const ContourValues*(long group)> contour;
     std::array<kernel::FieldArray, 3> vectors;
     kernel::FieldArray sizes; /* of symbols */
+
+    /* A constraint whose boundary is drawn, with the fields that it compares. */
+    struct Boundary
+    {
+        const BlankingBoundaryStyle& style;
+        kernel::FieldArray field;
+        kernel::FieldArray other;
+    };
+    std::vector<Boundary> boundaries;
 };
 
 /*
@@ -47,16 +59,24 @@ public:
     /* The box around what is drawn of the zone, in the renderer's world; false when nothing is. */
     bool worldBounds(std::array<double, 6>& bounds) const;
 
+    /* The contour lines; they have none while they are not shown. */
+    ContourLineLayer& contourLines() { return m_lines; }
+
     /* The number of polygons and lines of the surface, and of its points. */
     long surfaceCellCount();
     long surfacePointCount();
 
+    /* How often a layer was made anew, counted over all. */
+    long geometryCount() const;
+
 private:
+    /* Those that the mouse finds. */
     std::array<const FieldLayer*, 8> layers() const
     {
         return {&m_shade, &m_flood, &m_mesh, &m_lines, &m_edges, &m_vectors, &m_scatter.fill(), &m_scatter.outline()};
     }
 
+    vtkRenderer* m_renderer;
     ZoneSurface m_surface;
     ZonePoints m_points;
     ShadeLayer m_shade;
@@ -66,6 +86,7 @@ private:
     EdgeLayer m_edges;
     VectorLayer m_vectors;
     ScatterLayer m_scatter;
+    std::vector<std::unique_ptr<BlankingBoundaryLayer>> m_boundaries;
 };
 
 } // namespace vantrix::view

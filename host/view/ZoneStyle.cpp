@@ -33,8 +33,12 @@ SurfaceSelection readSurfaces(const StyleReader& style)
 
 MeshStyle readMesh(const StyleReader& style, bool isLayerShown)
 {
-    return {isLayerShown && style.flag("Show"), style.enumerator<MeshType_e>("MeshType"), readColor(style),
-            style.real("LineThickness")};
+    return {isLayerShown && style.flag("Show"),
+            style.enumerator<MeshType_e>("MeshType"),
+            readColor(style),
+            style.real("LineThickness"),
+            style.enumerator<LinePattern_e>("LinePattern"),
+            style.real("PatternLength")};
 }
 
 ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit)
@@ -45,7 +49,9 @@ ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit
             std::clamp(style.integer("LineContourGroup"), 1L, contourGroupCount),
             readColor(style),
             style.real("LineThickness"),
-            isLit && style.flag("UseLightingEffect")};
+            isLit && style.flag("UseLightingEffect"),
+            style.enumerator<LinePattern_e>("LinePattern"),
+            style.real("PatternLength")};
 }
 
 VectorStyle readVector(const StyleReader& style, bool isLayerShown)
@@ -60,17 +66,35 @@ VectorStyle readVector(const StyleReader& style, bool isLayerShown)
 
 ScatterStyle readScatter(const StyleReader& style, bool isLayerShown)
 {
-    return {isLayerShown && style.flag("Show"),
-            style.enumerator<GeomShape_e>("SymbolShape/GeomShape"),
-            readColor(style),
-            style.flag("IsFilled"),
-            readColor(style, "FillColor"),
-            style.flag("SizeByVariable"),
-            style.real("FrameSize"),
-            style.real("LineThickness")};
+    const SymbolStyle symbol = SymbolStyle::read(style.below("SymbolShape"));
+    ScatterStyle scatter;
+    scatter.isShown = isLayerShown && style.flag("Show");
+    scatter.shape = symbol.shape;
+    scatter.character = symbol.character;
+    scatter.font = symbol.font;
+    scatter.color = readColor(style);
+    scatter.isFilled = style.flag("IsFilled");
+    scatter.fill = readColor(style, "FillColor");
+    scatter.isSizedByVariable = style.flag("SizeByVariable");
+    scatter.size = style.real("FrameSize");
+    scatter.thickness = style.real("LineThickness");
+    return scatter;
 }
 
 } // namespace
+
+SymbolStyle SymbolStyle::read(const StyleReader& shape)
+{
+    SymbolStyle symbol;
+    symbol.shape = shape.enumerator<GeomShape_e>("GeomShape");
+    if (shape.flag("IsASCII")) {
+        symbol.character = shape.text("ASCIIShape/ASCIIChar");
+    }
+    if (!shape.flag("ASCIIShape/UseBaseFont")) {
+        symbol.font = shape.enumerator<Font_e>("ASCIIShape/FontOverride");
+    }
+    return symbol;
+}
 
 ZoneStyle ZoneStyle::read(const StyleReader& map, const StyleReader& layers, long zone)
 {

@@ -5,6 +5,7 @@
 #include <QColor>
 
 #include <array>
+#include <string>
 
 namespace vantrix::view {
 
@@ -19,7 +20,26 @@ struct LayerColor
     bool operator==(const LayerColor&) const = default;
 };
 
-/* Some indices of an ordered zone, from 1; `last` 0 stands for the zone's last. */
+/* A shape, or a character in place of it. */
+struct SymbolStyle
+{
+    GeomShape_e shape = GeomShape_Circle;
+    std::string character; /* empty for the shape */
+    Font_e font = Font_Helvetica;
+    QColor color = Qt::black;
+    bool isFilled = false;
+    QColor fill = Qt::black;
+    double size = 2.5;      /* like all lengths here per cent of the frame's height */
+    double thickness = 0.1; /* of its outline */
+
+    bool operator==(const SymbolStyle&) const = default;
+
+    /* Shape, or character and font; the rest stays with its default. */
+    static SymbolStyle read(const StyleReader& shape);
+};
+
+/* Some indices of an ordered zone, from 1; `last` 0 stands for the zone's last.
+ */
 struct IndexRange
 {
     long first = 1;
@@ -54,6 +74,8 @@ struct MeshStyle
     MeshType_e type = MeshType_Overlay;
     LayerColor color;
     double thickness = 0.1;
+    LinePattern_e pattern = LinePattern_Solid;
+    double patternLength = 2.0;
 
     bool operator==(const MeshStyle&) const = default;
 };
@@ -67,6 +89,8 @@ struct ContourStyle
     LayerColor lineColor;
     double thickness = 0.1;
     bool isLit = true;
+    LinePattern_e pattern = LinePattern_Solid;
+    double patternLength = 2.0;
 
     bool hasFlood() const { return isShown && type != ContourType_Lines; }
     bool hasLines() const { return isShown && (type == ContourType_Lines || type == ContourType_LinesAndFlood); }
@@ -89,12 +113,17 @@ struct ScatterStyle
 {
     bool isShown = false;
     GeomShape_e shape = GeomShape_Circle;
+    std::string character; /* drawn in place of the shape; empty for the shape */
+    Font_e font = Font_Helvetica;
     LayerColor color;
     bool isFilled = true;
     LayerColor fill;
     bool isSizedByVariable = false;
     double size = 1.5;
     double thickness = 0.1;
+
+    /* One symbol as a legend has it; contour groups do not count. */
+    SymbolStyle symbol() const { return {shape, character, font, color.color, isFilled, fill.color, size, thickness}; }
 
     bool operator==(const ScatterStyle&) const = default;
 };
@@ -122,6 +151,7 @@ struct EdgeStyle
 struct ZoneStyle
 {
     long zone = 0;
+    std::string name;
     MeshStyle mesh;
     ContourStyle contour;
     VectorStyle vector;

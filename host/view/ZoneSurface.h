@@ -38,6 +38,9 @@ public:
     const kernel::BlankedZone* blanked() const { return m_blanked.get(); }
     bool isEmpty();
 
+    /* The surface with what is blanked, made anew each time. */
+    vtkSmartPointer<vtkPolyData> wholeSurface() const;
+
     vtkPolyData* surface();
     vtkPolyData* litSurface();
     vtkPolyData* edges(EdgeType_e type);
@@ -51,7 +54,6 @@ public:
     vtkSmartPointer<vtkPolyData> withValues(vtkPolyData* surface, const kernel::FieldArray& field) const;
 
 private:
-    vtkSmartPointer<vtkPolyData> wholeSurface() const;
     vtkSmartPointer<vtkPolyData> makeSurface();
     vtkSmartPointer<vtkPolyData> makeEdges(EdgeType_e type);
 

@@ -1,7 +1,10 @@
+#include "kernel/ApplicationLock.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
+#include "kernel/PickList.h"
 #include "kernel/StyleStore.h"
+#include "view/FramePlot.h"
 #include "view/PageRenderer.h"
 #include "view/ShownSample.h"
 
@@ -166,4 +169,149 @@ TEST_F(FieldLayers, LeavesAwayWhatACutoffExcludes)
     sample->set("GlobalContour/ColorCutoff/UseMin", 1L, 1);
     sample->set("GlobalContour/ColorCutoff/Min", 0.5 * (low + high), 1);
     EXPECT_GT(count(image(), Qt::white), before + 1000);
+}
+
+TEST_F(FieldLayers, AreSortedHoweverManyThereAreWhereThatIsAskedFor)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    sample->set("FieldLayers/ShowShade", 1L);
+    sample->set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IPlanes}, 1);
+    sample->set("FieldMap/Effects/UseTranslucency", 1L, 1);
+    sample->set("FieldMap/Effects/SurfaceTranslucency", 90L, 1);
+    const QImage nearest = image();
+    kernel::StyleStore& style = sample->kernel.style();
+    sample->kernel.lock().start(true);
+    ASSERT_EQ(style.set(style.entry("Print/ForceExtra3DSorting"), -1, -1, 1L), SetValueReturnCode_Ok);
+    sample->kernel.lock().finish();
+    EXPECT_NE(image(), nearest);
+}
+
+TEST_F(FieldLayers, ANewColourMakesNoGeometryAgain)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    for (const char* layer : {"ShowMesh", "ShowContour", "ShowShade", "ShowScatter", "ShowVector", "ShowEdge"}) {
+        sample->set(std::string("FieldLayers/") + layer, 1L);
+    }
+    sample->set("FieldMap/Contour/ContourType", long{ContourType_LinesAndFlood}, 1);
+    for (const char* skip : {"FieldMap/Points/ISkip", "FieldMap/Points/JSkip", "FieldMap/Points/KSkip"}) {
+        sample->set(skip, 8L, 1);
+    }
+    image();
+    const long id = sample->frame().id();
+    const long made = renderer->geometryCount(id);
+    EXPECT_GT(made, 5);
+    const long painted = renderer->renderCount();
+    for (const char* path : {"FieldMap/Mesh/Color", "FieldMap/Shade/Color", "FieldMap/Edge/Color",
+                             "FieldMap/Scatter/Color", "FieldMap/Contour/Color"}) {
+        sample->set(path, blue, 1);
+        image();
+    }
+    sample->set("GlobalContour/ColorMap/Name", std::string("Heat"), 1);
+    sample->set("FieldMap/Mesh/LineThickness", 0.3, 1);
+    image();
+    EXPECT_EQ(renderer->renderCount(), painted + 6);
+    EXPECT_EQ(renderer->geometryCount(id), made);
+    sample->set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IPlanes}, 1);
+    image();
+    EXPECT_GT(renderer->geometryCount(id), made) << "other surfaces are other geometry";
+}
+
+TEST_F(FieldLayers, MeshesContoursAndBoundariesHavePatterns)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const auto drawn = [&](const std::string& layer, const char* onOff) {
+        sample->set(onOff, 1L);
+        sample->set(layer + "/Color", red, 1);
+        const int solid = count(image(), Qt::red);
+        sample->set(layer + "/LinePattern", long{LinePattern_Dashed}, 1);
+        const int dashed = count(image(), Qt::red);
+        sample->set(onOff, 0L);
+        EXPECT_GT(solid, 100) << layer;
+        return double(dashed) / solid;
+    };
+    sample->set("FieldMap/Contour/ContourType", long{ContourType_LinesAndFlood}, 1);
+    sample->set("GlobalContour/ColorMap/Name", std::string("Grayscale"), 1);
+    EXPECT_NEAR(drawn("FieldMap/Mesh", "FieldLayers/ShowMesh"), 0.6, 0.15);
+    EXPECT_NEAR(drawn("FieldMap/Contour", "FieldLayers/ShowContour"), 0.6, 0.15);
+
+    const auto range = kernel::valueRange(*sample->frame().dataSet()->field(1, 1)->values);
+    ASSERT_TRUE(range);
+    sample->set("Blanking/Value/Constraint/Include", 1L, 1);
+    sample->set("Blanking/Value/Constraint/Show", 1L, 1);
+    sample->set("Blanking/Value/Constraint/LineThickness", 1.0, 1);
+    sample->set("Blanking/Value/Constraint/VarA", 1L, 1);
+    sample->set("Blanking/Value/Constraint/ValueCutoff", std::lerp(range->minimum, range->maximum, 0.4), 1);
+    EXPECT_NEAR(drawn("Blanking/Value/Constraint", "Blanking/Value/Include"), 0.6, 0.15);
+}
+
+TEST_F(FieldLayers, DrawCharactersAsSymbols)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    sample->set("FieldLayers/ShowScatter", 1L);
+    sample->set("FieldMap/Scatter/Color", red, 1);
+    sample->set("FieldMap/Scatter/FillColor", red, 1);
+    sample->set("FieldMap/Scatter/FrameSize", 4.0, 1);
+    sample->set("FieldMap/Points/ISkip", 40L, 1);
+    sample->set("ActiveFieldMaps", 0L, 2);
+    const int circles = count(image(), Qt::red);
+    sample->set("FieldMap/Scatter/SymbolShape/IsASCII", 1L, 1);
+    const auto characters = [&](const char* character) {
+        sample->set("FieldMap/Scatter/SymbolShape/ASCIIShape/ASCIIChar", std::string(character), 1);
+        return count(image(), Qt::red);
+    };
+    const int dots = characters(".");
+    const int letters = characters("O");
+    EXPECT_GT(dots, 0);
+    EXPECT_GT(letters, 3 * dots);
+    EXPECT_LT(letters, circles) << "a letter has a hole";
+}
+
+TEST_F(FieldLayers, NumberContourLines)
+{
+    for (const PlotType_e type : {PlotType_Cartesian2D, PlotType_Cartesian3D}) {
+        show("fe2d", type);
+        sample->set("FieldLayers/ShowContour", 1L);
+        sample->set("FieldMap/Contour/ContourType", long{ContourType_Lines}, 1);
+        sample->set("GlobalContour/ColorMap/Name", std::string("Grayscale"), 1);
+        sample->set("GlobalContour/Labels/Color", red, 1);
+        sample->set("GlobalContour/Labels/TextShape/Height", 5.0, 1);
+        EXPECT_EQ(count(image(), Qt::red), 0);
+        sample->set("GlobalContour/Labels/Show", 1L, 1);
+        const int all = count(image(), Qt::red);
+        EXPECT_GT(all, 50);
+        sample->set("GlobalContour/Labels/Skip", 2L, 1);
+        EXPECT_LT(count(image(), Qt::red), all) << "the level 1 has no label any more";
+    }
+}
+
+TEST_F(FieldLayers, HaveALegendForEachGroupInUse)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const long id = sample->frame().id();
+    const auto legendAt = [&](double across, double down) {
+        image();
+        const QSizeF size = renderer->plot(id)->frameSize;
+        return renderer->objectAt(id, {across * size.width(), down * size.height()}, 0.02).type ==
+               PickObject_ContourLegend;
+    };
+    EXPECT_FALSE(legendAt(0.9, 0.4));
+    sample->set("FieldLayers/ShowContour", 1L);
+    EXPECT_TRUE(legendAt(0.9, 0.4));
+    const double alone = renderer->plot(id)->area.width();
+    sample->set("GlobalContour/Legend/IsPlaced", 1L, 1);
+    sample->set("GlobalContour/Legend/XYPos/X", 10.0, 1);
+    sample->set("GlobalContour/Legend/XYPos/Y", 90.0, 1);
+    sample->set("GlobalContour/Legend/AnchorAlignment", long{AnchorAlignment_TopLeft}, 1);
+    EXPECT_FALSE(legendAt(0.9, 0.4));
+    EXPECT_TRUE(legendAt(0.12, 0.3));
+    EXPECT_GT(renderer->plot(id)->area.width(), alone);
+    sample->set("GlobalContour/Legend/IsVertical", 0L, 1);
+    EXPECT_TRUE(legendAt(0.4, 0.12));
+    EXPECT_FALSE(legendAt(0.12, 0.5));
+    // The mesh takes its colours from another group, which has a legend of its
+    // own beside the plot.
+    sample->set("FieldLayers/ShowMesh", 1L);
+    sample->set("FieldMap/Mesh/Color", firstContourColor + 1, 1);
+    EXPECT_TRUE(legendAt(0.9, 0.4));
+    EXPECT_TRUE(legendAt(0.4, 0.12));
 }

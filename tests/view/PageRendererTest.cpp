@@ -5,6 +5,7 @@
 #include "view/FramePlot.h"
 #include "view/ShownSample.h"
 
+#include <QLineF>
 #include <gtest/gtest.h>
 
 #include <map>
@@ -104,4 +105,26 @@ TEST(PageRenderer, FindsTheSurfaceUnderAPlaceOfA3DPlot)
     EXPECT_NEAR(place.x(), 0.0, 0.005);
     EXPECT_NEAR(place.y(), 0.0, 0.005);
     EXPECT_FALSE(renderer.pick(sample.frame().id(), plot.area.topLeft() + QPointF(0.05, 0.05)));
+}
+
+TEST(PageRenderer, TurnsReversedAxesOfA3DPlotRound)
+{
+    ShownSample sample("mixed", PlotType_Cartesian3D);
+    view::PageRenderer renderer(sample.kernel);
+    const QImage before = renderer.frameImage(sample.frame(), 600);
+    const view::FramePlot& plot = *renderer.plot(sample.frame().id());
+    const double first = plot.style.axes[0].minimum;
+    const double last = plot.style.axes[0].maximum;
+    const std::optional<QPointF> firstPlace = plot.placeOf({first, 0.0, 0.0});
+    const std::optional<QPointF> lastPlace = plot.placeOf({last, 0.0, 0.0});
+    ASSERT_TRUE(firstPlace && lastPlace);
+    sample.set("ThreeDAxis/XDetail/IsReversed", 1L);
+    EXPECT_NE(renderer.frameImage(sample.frame(), 600), before);
+    EXPECT_NEAR(QLineF(*plot.placeOf({first, 0.0, 0.0}), *lastPlace).length(), 0.0, 0.15);
+    EXPECT_NEAR(QLineF(*plot.placeOf({last, 0.0, 0.0}), *firstPlace).length(), 0.0, 0.15);
+    const auto hit = renderer.pick(sample.frame().id(), plot.area.center());
+    ASSERT_TRUE(hit) << "the data lie where they did";
+    const QPointF seen = *plot.placeOf(*hit) - plot.area.center();
+    EXPECT_NEAR(seen.x(), 0.0, 0.01);
+    EXPECT_NEAR(seen.y(), 0.0, 0.01);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/layers/PolyDataLayer.h"
+#include "view/layers/LinePatternLayer.h"
 
 #include <vtkDataArray.h>
 
@@ -11,17 +11,22 @@ namespace vantrix::view {
 class ZoneSurface;
 
 /* Lines on the surface where a contour group's variable has the values of the levels. */
-class ContourLineLayer : public PolyDataLayer
+class ContourLineLayer : public LinePatternLayer
 {
 public:
     explicit ContourLineLayer(vtkRenderer* renderer)
-        : PolyDataLayer(renderer, 3.0)
+        : LinePatternLayer(renderer, 3.0)
     {}
 
     /* `values` place the lines, `colors` colour them where the style has a contour group for that; null draws nothing.
      */
     void update(ZoneSurface& surface, const ContourStyle& style, const ContourValues* values,
                 const ContourValues* colors, const LayerContext& context);
+
+    /* The lines with their levels as scalars, and their chains; null while
+     * nothing is shown. */
+    vtkPolyData* lines() const { return isShown() ? lineGeometry().Get() : nullptr; }
+    using LinePatternLayer::chains;
 
 private:
     struct Source

@@ -7,6 +7,7 @@
 #include <vtkRenderer.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace vantrix::view {
 
@@ -96,6 +97,12 @@ void FieldLayer::setColors(const ContourColors& colors, bool byCell)
     m_mapper->SetInterpolateScalarsBeforeMapping(!byCell);
     m_mapper->SetLookupTable(colors.table);
     m_mapper->UseLookupTableScalarRangeOn();
+}
+
+QColor FieldLayer::contrasted(const QColor& color, double contrast)
+{
+    const auto part = [&](double channel) { return float(std::lerp(1.0, channel, contrast)); };
+    return QColor::fromRgbF(part(color.redF()), part(color.greenF()), part(color.blueF()));
 }
 
 void FieldLayer::setLines(float width)

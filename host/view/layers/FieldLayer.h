@@ -28,6 +28,9 @@ struct LayerContext
 
     /* The width of a line in pixels, never less than one. */
     float lineWidth(double percent) const;
+
+    /* A length in pixels. */
+    double pixels(double percent) const { return percent * pixelsPerPercent; }
 };
 
 /* How coordinates of the data become places in the renderer's world, and how that is seen. */
@@ -35,8 +38,9 @@ struct Placement
 {
     std::array<double, 3> scale{1.0, 1.0, 1.0}; /* the third is 0 in a flat plot */
     std::array<double, 3> shift{0.0, 0.0, 0.0};
-    double diagonal = 1.0;  /* of the axes' area or box, in the world */
-    double pixelSize = 1.0; /* of a pixel in the world; in perspective, at the middle of the plot */
+    std::array<double, 2> size{0.0, 0.0}; /* of the picture of a flat plot, in the world: it begins at 0 */
+    double diagonal = 1.0;                /* of the axes' area or box, in the world */
+    double pixelSize = 1.0;               /* of a pixel in the world; in perspective, at the middle of the plot */
     std::array<double, 3> toViewer{0.0, 0.0, 1.0};
     std::array<double, 3> up{0.0, 1.0, 0.0}; /* on the screen */
 
@@ -70,6 +74,9 @@ public:
     /* The box around what is drawn, in the renderer's world; false when nothing is. */
     bool shownBounds(std::array<double, 6>& bounds) const;
 
+    /* How often what is drawn was made anew. */
+    long geometryCount() const { return m_geometryCount; }
+
 protected:
     vtkActor& actor() const;
     double order() const { return m_order; }
@@ -80,6 +87,12 @@ protected:
     void setColor(const QColor& color);
     void setColors(const ContourColors& colors, bool byCell);
 
+    /* What a light leaves of a colour, see LightStyle::colorContrast. */
+    static QColor contrasted(const QColor& color, double contrast);
+
+    /* To be called with whatever makes the layer's geometry another one. */
+    void countGeometry() { ++m_geometryCount; }
+
     /* Unlit lines of a thickness in pixels. */
     void setLines(float width);
     void setLighting(LightingEffect_e effect, double opacity, bool isLit, const LayerContext& context);
@@ -89,6 +102,7 @@ private:
     vtkSmartPointer<vtkMapper> m_mapper;
     vtkSmartPointer<vtkActor> m_actor;
     double m_order;
+    long m_geometryCount = 0;
 };
 
 } // namespace vantrix::view

@@ -7,6 +7,7 @@
 #include <vtkClipPolyData.h>
 #include <vtkFloatArray.h>
 #include <vtkGeometryFilter.h>
+#include <vtkLookupTable.h>
 #include <vtkPointData.h>
 #include <vtkPolyData.h>
 #include <vtkProperty.h>
@@ -79,6 +80,18 @@ vtkSmartPointer<vtkPolyData> cutOff(vtkSmartPointer<vtkPolyData> surface, const 
 
 } // namespace
 
+vtkSmartPointer<vtkLookupTable> FloodLayer::contrastedTable(vtkLookupTable& table, double contrast)
+{
+    const auto result = vtkSmartPointer<vtkLookupTable>::New();
+    result->DeepCopy(&table);
+    for (vtkIdType i = 0; i < table.GetNumberOfTableValues(); ++i) {
+        const double* rgba = table.GetTableValue(i);
+        const QColor color = contrasted(QColor::fromRgbF(float(rgba[0]), float(rgba[1]), float(rgba[2])), contrast);
+        result->SetTableValue(i, color.redF(), color.greenF(), color.blueF(), 1.0);
+    }
+    return result;
+}
+
 void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const ContourValues* values,
                         const LayerContext& context)
 {
@@ -98,8 +111,17 @@ void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const Cont
         }
         setGeometry(source.cutoff.isActive() ? cutOff(flood, source.cutoff, isFlat) : flood);
     }
-    setColors(values->colors, isFlat);
-    setLighting(style.lighting, style.opacity, style.contour.isLit, context);
+    const LightStyle& light = context.light;
+    const bool isLit = style.contour.isLit && context.isThreeD;
+    if (isLit && light.colorContrast < 1.0) {
+        setColors({values->colors.levels, contrastedTable(*values->colors.table, light.colorContrast), {}}, isFlat);
+    } else {
+        setColors(values->colors, isFlat);
+    }
+    const LightingEffect_e effect = light.forcesGouraud  ? LightingEffect_Gouraud
+                                    : light.forcesPanels ? LightingEffect_Paneled
+                                                         : style.lighting;
+    setLighting(effect, style.opacity, style.contour.isLit, context);
     actor().GetProperty()->SetLineWidth(context.lineWidth(std::max(style.mesh.thickness, 0.3)));
 }
 

@@ -33,6 +33,8 @@ private:
         bool operator==(const Source&) const = default;
     };
 
+    static vtkSmartPointer<vtkLookupTable> contrastedTable(vtkLookupTable& table, double contrast);
+
     Source m_source;
 };
 

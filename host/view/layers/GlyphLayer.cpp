@@ -85,6 +85,7 @@ void GlyphLayer::setPoints(std::vector<std::array<double, 3>> places, const std:
     }
     m_mapper->SetInputData(m_points);
     m_arePlaced = false;
+    countGeometry();
 }
 
 void GlyphLayer::setColors(const ContourColors& colors)

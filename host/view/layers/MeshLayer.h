@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/layers/PolyDataLayer.h"
+#include "view/layers/LinePatternLayer.h"
 
 #include <vtkDataArray.h>
 
@@ -9,7 +9,7 @@ namespace vantrix::view {
 class ZoneSurface;
 
 /* Lines along the cells of the surface. */
-class MeshLayer : public PolyDataLayer
+class MeshLayer : public LinePatternLayer
 {
 public:
     explicit MeshLayer(vtkRenderer* renderer);
@@ -22,6 +22,7 @@ private:
     {
         unsigned long surface = 0;
         vtkSmartPointer<vtkDataArray> values;
+        bool hasPattern = false;
         bool operator==(const Source&) const = default;
     };
 

@@ -16,7 +16,10 @@ PolyDataLayer::PolyDataLayer(vtkRenderer* renderer, vtkSmartPointer<vtkPolyDataM
 
 void PolyDataLayer::setGeometry(vtkPolyData* geometry)
 {
-    m_mapper->SetInputData(geometry);
+    if (geometry != m_mapper->GetInput()) {
+        m_mapper->SetInputData(geometry);
+        countGeometry();
+    }
 }
 
 } // namespace vantrix::view

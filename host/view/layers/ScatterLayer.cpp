@@ -1,9 +1,14 @@
 #include "view/layers/ScatterLayer.h"
 
+#include "view/Canvas.h"
 #include "view/SymbolShape.h"
 #include "view/ZonePoints.h"
 
+#include <QPainterPath>
+#include <QTransform>
+
 #include <vtkCellArray.h>
+#include <vtkContourTriangulator.h>
 #include <vtkCubeSource.h>
 #include <vtkPlatonicSolidSource.h>
 #include <vtkPoints.h>
@@ -69,6 +74,36 @@ vtkSmartPointer<vtkPolyData> solidSymbol(GeomShape_e shape)
     return source->GetOutput();
 }
 
+/* A character as triangles about the origin, the height of its font being 1. */
+vtkSmartPointer<vtkPolyData> characterSymbol(const std::string& character, Font_e family)
+{
+    constexpr int fontPixels = 100;
+    QFont font = Canvas::typeface(family);
+    font.setPixelSize(fontPixels);
+    QPainterPath path;
+    path.addText(QPointF(), font, QString::fromStdString(character));
+    path.translate(-path.boundingRect().center());
+    const auto points = vtkSmartPointer<vtkPoints>::New();
+    const auto outlines = vtkSmartPointer<vtkCellArray>::New();
+    for (const QPolygonF& outline :
+         path.toSubpathPolygons(QTransform::fromScale(1.0 / fontPixels, -1.0 / fontPixels))) {
+        const vtkIdType first = points->GetNumberOfPoints();
+        const vtkIdType count = outline.isClosed() ? outline.size() - 1 : outline.size();
+        outlines->InsertNextCell(static_cast<int>(count + 1));
+        for (vtkIdType i = 0; i < count; ++i) {
+            outlines->InsertCellPoint(points->InsertNextPoint(outline[i].x(), outline[i].y(), 0.0));
+        }
+        outlines->InsertCellPoint(first);
+    }
+    const auto contours = vtkSmartPointer<vtkPolyData>::New();
+    contours->SetPoints(points);
+    contours->SetLines(outlines);
+    const auto filter = vtkSmartPointer<vtkContourTriangulator>::New();
+    filter->SetInputData(contours);
+    filter->Update();
+    return filter->GetOutput();
+}
+
 } // namespace
 
 ScatterLayer::ScatterLayer(vtkRenderer* renderer)
@@ -76,18 +111,19 @@ ScatterLayer::ScatterLayer(vtkRenderer* renderer)
     , m_outline(renderer, outlineOrder)
 {}
 
-void ScatterLayer::setShape(GeomShape_e shape, bool isThreeD)
+void ScatterLayer::setShape(const Shape& shape)
 {
-    const int wanted = 2 * static_cast<int>(shape) + (isThreeD ? 1 : 0);
-    if (wanted == m_shape) {
+    if (shape == m_shape) {
         return;
     }
-    m_shape = wanted;
-    if (isThreeD && isSolidSymbol(shape)) {
-        m_fill.setShape(solidSymbol(shape), false);
+    m_shape = shape;
+    if (!shape.character.empty()) {
+        m_fill.setShape(characterSymbol(shape.character, shape.font), true);
+    } else if (shape.isThreeD && isSolidSymbol(shape.shape)) {
+        m_fill.setShape(solidSymbol(shape.shape), false);
     } else {
-        m_fill.setShape(flatSymbol(shape, true), true);
-        m_outline.setShape(flatSymbol(shape, false), true);
+        m_fill.setShape(flatSymbol(shape.shape, true), true);
+        m_outline.setShape(flatSymbol(shape.shape, false), true);
     }
 }
 
@@ -95,18 +131,19 @@ void ScatterLayer::update(const ZonePoints& points, const ScatterStyle& style, c
                           const ContourValues* lineColors, const ContourValues* fillColors, const LayerContext& context)
 {
     const bool isShown = style.isShown && !points.places().empty();
-    const bool isSolid = context.isThreeD && isSolidSymbol(style.shape);
-    m_fill.setShown(isShown && (style.isFilled || isSolid));
-    m_outline.setShown(isShown && !isSolid);
+    const bool isCharacter = !style.character.empty();
+    const bool isSolid = !isCharacter && context.isThreeD && isSolidSymbol(style.shape);
+    m_fill.setShown(isShown && (style.isFilled || isSolid || isCharacter));
+    m_outline.setShown(isShown && !isSolid && !isCharacter);
     if (!isShown) {
         return;
     }
-    setShape(style.shape, context.isThreeD);
+    setShape({style.shape, style.character, style.font, context.isThreeD});
     const auto colors = [](const LayerColor& color, const ContourValues* values) {
         return color.contourGroup > 0 && values && values->field.values ? values : nullptr;
     };
     const ContourValues* lines = colors(style.color, lineColors);
-    const ContourValues* fill = colors(style.fill, fillColors);
+    const ContourValues* fill = isCharacter ? lines : colors(style.fill, fillColors);
     const Source source{points.revision(), style.isSizedByVariable ? sizes.values : nullptr,
                         lines ? lines->field.values : nullptr, fill ? fill->field.values : nullptr};
     if (source != m_source) {
@@ -124,7 +161,7 @@ void ScatterLayer::update(const ZonePoints& points, const ScatterStyle& style, c
     const double percent = source.sizes ? context.scatter.relativeSize : style.size;
     m_fill.setSize(percent * context.pixelsPerPercent);
     m_outline.setSize(percent * context.pixelsPerPercent);
-    m_fill.setColor(style.isFilled ? style.fill.color : style.color.color);
+    m_fill.setColor(style.isFilled && !isCharacter ? style.fill.color : style.color.color);
     if (fill) {
         m_fill.setColors(fill->colors);
     }

@@ -4,6 +4,9 @@
 
 #include <vtkDataArray.h>
 
+#include <optional>
+#include <string>
+
 namespace vantrix::view {
 
 class ZonePoints;
@@ -34,12 +37,22 @@ private:
         bool operator==(const Source&) const = default;
     };
 
-    void setShape(GeomShape_e shape, bool isThreeD);
+    /* What the glyphs show, and in which kind of plot. */
+    struct Shape
+    {
+        GeomShape_e shape = GeomShape_Circle;
+        std::string character;
+        Font_e font = Font_Helvetica;
+        bool isThreeD = false;
+        bool operator==(const Shape&) const = default;
+    };
+
+    void setShape(const Shape& shape);
 
     GlyphLayer m_fill;
     GlyphLayer m_outline;
     Source m_source;
-    int m_shape = -1; /* what the glyphs show, and in which kind of plot; -1 before the first */
+    std::optional<Shape> m_shape;
 };
 
 } // namespace vantrix::view

@@ -16,7 +16,9 @@ void ShadeLayer::update(ZoneSurface& surface, const ZoneStyle& style, bool isCov
     if (isShown()) {
         setGeometry(surface.litSurface());
         setLighting(style.lighting, style.opacity, style.shade.isShown && style.shade.isLit, context);
-        setColor(style.shade.isShown ? style.shade.color : QColor(Qt::white));
+        const bool isLit = style.shade.isLit && context.isThreeD;
+        const QColor color = isLit ? contrasted(style.shade.color, context.light.colorContrast) : style.shade.color;
+        setColor(style.shade.isShown ? color : QColor(Qt::white));
         actor().GetProperty()->SetLineWidth(context.lineWidth(style.mesh.thickness));
     }
 }

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "view/Canvas.h"
+#include "view/PlotStyle.h"
+
+#include <QRectF>
+
+namespace vantrix::view {
+
+/* What all legends have in common: font, measures, place and box. */
+class LegendBox
+{
+public:
+    /* `frameHeight` in inches. Canvas and style must outlive this. */
+    LegendBox(const Canvas& canvas, double frameHeight, const LegendStyle& style);
+
+    const LegendStyle& style() const { return m_style; }
+    const QFont& font() const { return m_font; }
+
+    /* In logical units: the height of a line of text, the distance of rows, and that of the box from what it holds. */
+    double textHeight() const { return m_textHeight; }
+    double rowHeight() const { return m_style.rowSpacing * m_textHeight; }
+    double margin() const;
+    double gap() const { return 0.5 * m_textHeight; }
+
+    double textWidth(const QString& text) const { return m_canvas.textSize(text, m_font).width(); }
+
+    /* Where a legend of a size lies in the frame when the user has placed it. */
+    QRectF placedRect(const QRectF& frame, QSizeF size) const;
+
+    void paintBox(const QRectF& rect) const;
+    void drawText(QPointF point, Qt::Alignment alignment, const QString& text) const;
+
+private:
+    const Canvas& m_canvas;
+    double m_frameHeight;
+    const LegendStyle& m_style;
+    QFont m_font;
+    double m_textHeight;
+};
+
+} // namespace vantrix::view
