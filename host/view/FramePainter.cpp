@@ -20,7 +20,7 @@ namespace {
 
 constexpr int smoothSamples = 8;
 constexpr int sortedSurfaces = 8; /* translucent ones behind each other; more take longer */
-constexpr int allSurfaces = 200;
+constexpr int mostSurfaces = 64;
 
 /* Whether the frame's plot draws anything of a field. */
 bool hasField(const PlotStyle& style)
@@ -234,7 +234,7 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     const QSize pixels(int(std::lround(device.width())), int(std::lround(device.height())));
     const RenderSettings& settings = m_request.settings;
     const bool isExport = !m_request.isForScreen;
-    const int sorted = isExport && settings.exportsSorted ? allSurfaces : sortedSurfaces;
+    const int sorted = isExport && settings.exportsSorted ? mostSurfaces : sortedSurfaces;
     const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0, hasTexts(), sorted};
     const bool takesScreen =
         isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.revision == m_revision;

@@ -27,7 +27,7 @@ struct RenderSettings
     bool approximatesTexts = true; /* an approximate plot has its texts, too */
     GraphicsCache cache = GraphicsCache::All;
     bool exportsAnew = true;    /* exported pictures are rendered for themselves; else they take what the screen has */
-    bool exportsSorted = false; /* however many translucent surfaces lie behind each other, in exported pictures */
+    bool exportsSorted = false; /* up to 64 translucent surfaces behind each other, in exported pictures */
     bool hasPlainTexts = false; /* texts on the screen without smoothed edges */
     bool hasPlainSmallTexts = false;
 

@@ -1,4 +1,3 @@
-#include "kernel/ApplicationLock.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
@@ -169,21 +168,6 @@ TEST_F(FieldLayers, LeavesAwayWhatACutoffExcludes)
     sample->set("GlobalContour/ColorCutoff/UseMin", 1L, 1);
     sample->set("GlobalContour/ColorCutoff/Min", 0.5 * (low + high), 1);
     EXPECT_GT(count(image(), Qt::white), before + 1000);
-}
-
-TEST_F(FieldLayers, AreSortedHoweverManyThereAreWhereThatIsAskedFor)
-{
-    show("flow3d", PlotType_Cartesian3D);
-    sample->set("FieldLayers/ShowShade", 1L);
-    sample->set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IPlanes}, 1);
-    sample->set("FieldMap/Effects/UseTranslucency", 1L, 1);
-    sample->set("FieldMap/Effects/SurfaceTranslucency", 90L, 1);
-    const QImage nearest = image();
-    kernel::StyleStore& style = sample->kernel.style();
-    sample->kernel.lock().start(true);
-    ASSERT_EQ(style.set(style.entry("Print/ForceExtra3DSorting"), -1, -1, 1L), SetValueReturnCode_Ok);
-    sample->kernel.lock().finish();
-    EXPECT_NE(image(), nearest);
 }
 
 TEST_F(FieldLayers, ANewColourMakesNoGeometryAgain)
