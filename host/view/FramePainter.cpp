@@ -235,14 +235,17 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     const RenderSettings& settings = m_request.settings;
     const bool isExport = !m_request.isForScreen;
     const int sorted = isExport && settings.exportsSorted ? mostSurfaces : sortedSurfaces;
-    const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0, hasTexts(), sorted};
+    // Smooth edges take longest; what moves is not looked at so closely.
+    const bool isPlain = m_isApproximate || (settings.approximates && m_request.isMoving && !isExport);
+    const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0,
+                         hasTexts(), sorted, isPlain ? 0 : smoothSamples};
     const bool takesScreen =
         isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.revision == m_revision;
     const ContourLabels labels(canvas, frameHeightInches(canvas), area, m_plot.style.contourGroups);
     KeptPicture& kept = isExport && !takesScreen ? m_exported : m_onScreen;
     if (!takesScreen && (key != kept.key || kept.image.isNull())) {
         const auto begin = std::chrono::steady_clock::now();
-        const FieldScene::Quality quality{m_isApproximate ? 0 : smoothSamples, sorted, key.keptPoints};
+        const FieldScene::Quality quality{key.samples, sorted, key.keptPoints};
         scene().update(*m_dataSet, m_plot.style, m_frameHeight * canvas.resolution(), quality);
         kept = {key, render(pixels.expandedTo({1, 1})), {}};
         if (hasTexts()) {
@@ -252,7 +255,7 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
         m_paintedPoints = scene().surfacePointCount();
         scene().release(settings.cache);
         ++m_renderCount;
-        if (!m_isApproximate) {
+        if (!isPlain) {
             const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
             m_fullTime = time.count();
         }

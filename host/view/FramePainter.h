@@ -78,6 +78,7 @@ private:
         double keptPoints = 1.0;
         bool hasTexts = true;
         int sortedSurfaces = 0;
+        int samples = 0;
         bool operator==(const PictureKey&) const = default;
     };
     struct KeptPicture
