@@ -16,7 +16,8 @@ VTX_BEGIN_DECLS
  * there is no data to fit to. */
 bool VtxUtilViewAxisFit(char axis, int axisNumber);
 
-/* The same, widened to the nearest nice values: multiples of 1, 2 or 5 times a power of ten, of a log axis powers of ten. */
+/* The same, widened to the nearest nice values: multiples of 1, 2 or 5 times a power of ten, of a log axis powers of
+ * ten. */
 bool VtxUtilViewAxisNiceFit(char axis, int axisNumber);
 
 /* Sets the range of theta to one period that starts at its present minimum, or of R to begin at the value at the
@@ -32,12 +33,14 @@ bool VtxUtilViewAxisMakeCurValsNice(char axis, int axisNumber);
  *   "Axis"              long    the axis character; for `ViewOp_AxisFit`
  *   "AxisNum"           long    its number; for `ViewOp_AxisFit`, 1 when it is left out
  *   "ConsiderBlanking"  long    whether blanked data are left out of what is fitted to (optional, false)
- * `ViewOp_Fit` fits the plot to the frame, `ViewOp_DataFit` to the data alone, `ViewOp_AxisFit` is VtxUtilViewAxisFit().
+ * `ViewOp_Fit` fits the plot to the frame, `ViewOp_DataFit` to the data alone, `ViewOp_AxisFit` is
+ * VtxUtilViewAxisFit().
  */
 bool VtxUtilViewX(VtxArgListHandle arguments);
 
-/* The next value that a range field steps to from `value`, up or down: a twentieth of the axis' range on, or with `nice`
- * the next nice value at that size of step. A log axis steps by factors. `value` itself where there is no such axis. */
+/* The next value that a range field steps to from `value`, up or down: a twentieth of the axis' range on, or with
+ * `nice` the next nice value at that size of step. A log axis steps by factors. `value` itself where there is no such
+ * axis. */
 double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice);
 
 /* Puts the size factors of a 3D plot and the dependency of its axes back to what suits its data. */
@@ -59,9 +62,10 @@ bool VtxUtilAxisLabelGetTimeDateFormat(char axis, int axisNumber, char** format)
 
 /*
  * Writes a number as a time and date: days since 1899-12-30, the fraction being the time of day. In the format "yyyy"
- * and "yy" are the year, "mmmm", "mmm", "mm", "m" the month, "dddd", "ddd", "dd", "d" the day, "hh", "h" hours, "mm" and
- * "m" behind hours or before seconds minutes, "ss" and "s" seconds, "AM/PM" half days; anything else stands for itself,
- * and a backslash takes its meaning from the letter behind it. False for a number that is no date of years 1 to 9999.
+ * and "yy" are the year, "mmmm", "mmm", "mm", "m" the month, "dddd", "ddd", "dd", "d" the day, "hh", "h" hours, "mm"
+ * and "m" behind hours or before seconds minutes, "ss" and "s" seconds, "AM/PM" half days; anything else stands for
+ * itself, and a backslash takes its meaning from the letter behind it. False for a number that is no date of years 1 to
+ * 9999.
  */
 bool VtxUtilStringFormatTimeDate(double value, const char* format, char** text);
 

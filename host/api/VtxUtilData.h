@@ -38,15 +38,15 @@ void VtxUtilZoneGetIJK(long zone, long* iMax, long* jMax, long* kMax);
 bool VtxUtilZoneIsOrdered(long zone);
 ZoneType_e VtxUtilZoneGetType(long zone);
 
-/* The number of different faces (of flat cells: edges) of all cells of a finite-element zone; 0 of another. Counted once,
- * so the first call for a large zone takes time. */
+/* The number of different faces (of flat cells: edges) of all cells of a finite-element zone; 0 of another. Counted
+ * once, so the first call for a large zone takes time. */
 long VtxUtilZoneGetFaceCount(long zone);
 
 /* Where the values of a variable in a zone belong: to the points or to the cells. Nodal where there is none. */
 ValueLocation_e VtxUtilDataValueGetLocation(long zone, long variable);
 
-/* A value of a zone's variable by its position (from 1) among the points, or cells; false, with nothing written, for one
- * that is not there. A variable that is not loaded is loaded first. */
+/* A value of a zone's variable by its position (from 1) among the points, or cells; false, with nothing written, for
+ * one that is not there. A variable that is not loaded is loaded first. */
 bool VtxUtilDataValueGetByZoneVar(long zone, long variable, long position, double* value);
 
 /* Whether the values of a variable of a zone are in memory, or, false, can be loaded; true where the zone does not have
@@ -73,7 +73,8 @@ long VtxUtilVarGetNumByAssignment(char axis);
  * Circular: I points along the radius (at least 2), from the origin outwards; J around the circumference (at least 2),
  * the last on the first; K from zMin to zMax. `radius` is above 0.
  *
- * Rectangular: I, J, K points (at least 1 each) spaced evenly from the minima to the maxima, which may lie the other way round.
+ * Rectangular: I, J, K points (at least 1 each) spaced evenly from the minima to the maxima, which may lie the other
+ * way round.
  */
 bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, double yOrigin, double radius,
                                double zMin, double zMax, FieldDataType_e dataType);

@@ -23,8 +23,8 @@ bool VtxUtilFrameSetRect(long frameId, double left, double top, double width, do
 long VtxUtilFrameGetIdAt(long position);
 
 /*
- * Data sets that frames show, numbered from 1 in the order of pages and frames. Frames may show the same one; a change of
- * its data is then seen in all of them, while each has a plot type and style of its own.
+ * Data sets that frames show, numbered from 1 in the order of pages and frames. Frames may show the same one; a change
+ * of its data is then seen in all of them, while each has a plot type and style of its own.
  */
 long VtxUtilFrameGetDataSetCount(void);
 
@@ -38,8 +38,8 @@ long VtxUtilFrameGetDataSetNumber(void);
  * `StateChange_DataSetReset`. */
 bool VtxUtilFrameAttachDataSet(long number);
 
-/* Adds a frame that shows the same data on top of the active one, from half an inch right of and below its corner to its
- * opposite corner, and makes it active. */
+/* Adds a frame that shows the same data on top of the active one, from half an inch right of and below its corner to
+ * its opposite corner, and makes it active. */
 bool VtxUtilFrameCreateOnSameData(void);
 
 /* Adds a page with one empty frame behind the others and makes it active. The last page cannot be deleted. */
@@ -49,10 +49,10 @@ bool VtxUtilPageActivate(long position);
 long VtxUtilPageGetActive(void);
 
 /*
- * A layout is a readable file of every page and frame, their style, texts, and how their data came to be; the settings of
- * the program itself (style values of the process) are not in it. Saving replaces the file at
- * once or leaves it as it was. Opening replaces everything, or on any error nothing; entries that are not known are kept
- * for the next save and named in the status line. Not to be called under the lock.
+ * A layout is a readable file of every page and frame, their style, texts, and how their data came to be; the settings
+ * of the program itself (style values of the process) are not in it. Saving replaces the file at once or leaves it as
+ * it was. Opening replaces everything, or on any error nothing; entries that are not known are kept for the next save
+ * and named in the status line. Not to be called under the lock.
  */
 bool VtxUtilLayoutNew(void);
 bool VtxUtilLayoutSave(const char* file);
@@ -64,8 +64,8 @@ bool VtxUtilDataReadSample(const char* name);
 
 /*
  * A macro is a text file with one command a line. Recording writes one line for each outermost lock that asks for it.
- * Running stops at the first command that fails; what the commands before it did stays, as steps that can be undone, and
- * the error names file and line.
+ * Running stops at the first command that fails; what the commands before it did stays, as steps that can be undone,
+ * and the error names file and line.
  */
 bool VtxUtilMacroRecordStart(const char* file);
 bool VtxUtilMacroRecordStop(void);

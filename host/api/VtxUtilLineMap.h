@@ -25,8 +25,8 @@ bool VtxUtilLineMapGetAssignment(long lineMap, long* zone, long* xVariable, long
  * data set has no such zone or variable. Sends `StateChange_LineMapsAddedOrDeleted`. */
 bool VtxUtilLineMapCreate(long zone, long xVariable, long yVariable);
 
-/* Deletes line maps; those behind a deleted one move down with their style. Refused for a set that is empty or names one
- * that does not exist. Sends `StateChange_LineMapsAddedOrDeleted`. */
+/* Deletes line maps; those behind a deleted one move down with their style. Refused for a set that is empty or names
+ * one that does not exist. Sends `StateChange_LineMapsAddedOrDeleted`. */
 bool VtxUtilLineMapDelete(VtxSetHandle lineMaps);
 
 VTX_END_DECLS

@@ -1,7 +1,7 @@
 /*
  * The pick list: the objects that were clicked in the work area, or picked by a function. It belongs to the active
- * frame's page, is no step of undo, and is emptied when one of its objects goes. Positions count from 1; a function asked
- * for an object that is not there, or for what the object's type does not have, answers 0 (`PickObject_None`).
+ * frame's page, is no step of undo, and is emptied when one of its objects goes. Positions count from 1; a function
+ * asked for an object that is not there, or for what the object's type does not have, answers 0 (`PickObject_None`).
  */
 #ifndef VTX_UTIL_PICK_H
 #define VTX_UTIL_PICK_H

@@ -17,11 +17,12 @@ bool VtxUtilLockIsOn(void);
 /* How many calls that change state were made without the lock since the process began. A correct program has none. */
 long VtxUtilLockGetViolationCount(void);
 
-/* Takes back everything that was changed under the outermost lock so far and sends the state changes that tell of it, so
- * that an action that fails half-way leaves nothing half done. The lock stays on. False when it is not on. */
+/* Takes back everything that was changed under the outermost lock so far and sends the state changes that tell of it,
+ * so that an action that fails half-way leaves nothing half done. The lock stays on. False when it is not on. */
 bool VtxUtilLockRollBack(void);
 
-/* Names the step under way for the menu ("Create Circular Zone"). The first name given under an outermost lock stays. */
+/* Names the step under way for the menu ("Create Circular Zone"). The first name given under an outermost lock stays.
+ */
 void VtxUtilUndoSetStepName(const char* name);
 
 /* Takes back, or brings again, the last step. False when there is none. Not to be called under the lock. */

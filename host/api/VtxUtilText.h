@@ -31,9 +31,9 @@ VTX_BEGIN_DECLS
  *   "Color"                 long    of the box' line
  *   "FillColor"             long    of the box
  *   "Margin"                double  between text and box, % of the text's height, not below 0
- * A LaTeX text is set by the programs `latex` and `dvipng`; where they fail it is shown as it stands and the status line
- * tells why. "Text" with the words that a LaTeX text has already sets it anew.
- * What is left out keeps its value, or of a new text its default. An error names the value; nothing is changed then.
+ * A LaTeX text is set by the programs `latex` and `dvipng`; where they fail it is shown as it stands and the status
+ * line tells why. "Text" with the words that a LaTeX text has already sets it anew. What is left out keeps its value,
+ * or of a new text its default. An error names the value; nothing is changed then.
  */
 bool VtxUtilTextSetX(VtxArgListHandle arguments);
 

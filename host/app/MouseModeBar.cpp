@@ -24,7 +24,8 @@ struct Mode
 
 const Mode modes[] = {
     {MouseMode_Selector, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Selector"),
-     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to pick, drag to move or resize a frame"), "selector", Qt::Key_S},
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to pick, drag to move or resize a frame"), "selector",
+     Qt::Key_S},
     {MouseMode_Zoom, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Zoom"),
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag a rectangle to enlarge it"), "zoom", Qt::Key_Z},
     {MouseMode_Translate, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Translate"),
