@@ -31,7 +31,7 @@ target_compile_options(vx_compile_options INTERFACE
 # Optimising, GCC 12 warns of what std::string and std::vector do inside (its bugs 105329, 105651 and 105562).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(vx_compile_options INTERFACE
-      $<$<CONFIG:Release>:-Wno-restrict -Wno-stringop-overflow -Wno-maybe-uninitialized>)
+      $<$<CONFIG:Release>:-Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-maybe-uninitialized>)
 endif()
 
 function(vx_compile_options target)
