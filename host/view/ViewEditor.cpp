@@ -113,7 +113,7 @@ void ViewEditor::end()
     }
 }
 
-void ViewEditor::write(const kernel::Frame& frame, const std::string& path, double value, long offset)
+void ViewEditor::write([[maybe_unused]] const kernel::Frame& frame, const std::string& path, double value, long offset)
 {
     assert(m_kernel.document().activeFrame() == &frame);
     kernel::StyleActions::set(m_kernel.style().entry(path.c_str()), {offset}, -1, value);
