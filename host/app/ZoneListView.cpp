@@ -41,10 +41,11 @@ ZoneListView::ZoneListView(QWidget* parent)
     layout->addWidget(m_list, 1);
     layout->addWidget(m_count);
 
-    for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        for (const QAbstractItemModel* model :
-             {static_cast<QAbstractItemModel*>(m_model), static_cast<QAbstractItemModel*>(m_filter)})
-            connect(model, signal, this, &ZoneListView::updateCount); // the filter's rows go before the model's
+    // Of both models: the filter's rows go before those of the model that it filters.
+    for (const QAbstractItemModel* model : std::initializer_list<const QAbstractItemModel*>{m_model, m_filter}) {
+        connect(model, &QAbstractItemModel::rowsInserted, this, &ZoneListView::updateCount);
+        connect(model, &QAbstractItemModel::rowsRemoved, this, &ZoneListView::updateCount);
+    }
     connect(m_filter, &QAbstractItemModel::modelReset, this, &ZoneListView::updateCount);
     updateCount();
 }

@@ -20,9 +20,10 @@ struct ObjectValueRange
     bool isMinimumExcluded = false;
 };
 
-/* The value as the type that `present` has; a whole number serves as a real one. Throws DataError, which names the
- * value
- * ("Height" of a text) and what would be right, for another type or one out of range. */
+/*
+ * The value as the type that `present` has; a whole number serves as a real one. Throws DataError, which names the
+ * value ("Height" of a text) and what would be right, for another type or one out of range.
+ */
 ObjectData checkedObjectData(std::string_view name, const char* noun, const ObjectValueRange& range,
                              const ObjectData& present, const ObjectData& given);
 

@@ -18,7 +18,6 @@ namespace {
 using Comparison = BlankedZoneCache::Comparison;
 using Entry = BlankedZoneCache::Entry;
 
-constexpr long constraintCount = 8;
 constexpr std::size_t keptResults = 4; /* more than two frames rarely show a zone */
 
 bool holds(RelOp_e relation, double value, double other)
@@ -271,7 +270,7 @@ ValueBlanking ValueBlanking::read(const StyleStore& style, const Frame& frame)
     blanking.cellMode = static_cast<ValueBlankCellMode_e>(integer("Blanking/Value/ValueBlankCellMode"));
     blanking.isFlat = integer("PlotType") == PlotType_Cartesian2D;
     blanking.trimsCells = blanking.isFlat && !style.flag(frame.id(), entry("Blanking/Value/BlankEntireCell"));
-    for (long number = 1; number <= constraintCount; ++number) {
+    for (long number = 1; number <= BlankingConstraint::count; ++number) {
         if (!style.flag(frame.id(), entry("Blanking/Value/Constraint/Include"), number)) {
             continue;
         }

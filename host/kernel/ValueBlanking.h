@@ -22,7 +22,9 @@ struct BlankingConstraint
 
     bool operator==(const BlankingConstraint&) const = default;
 
-    /* The constraint of a number, 1 to 8, in use or not. */
+    static constexpr long count = 8; /* of a frame */
+
+    /* The constraint of a number, 1 to `count`, in use or not. */
     static BlankingConstraint read(const StyleStore& style, long frame, long number);
 };
 

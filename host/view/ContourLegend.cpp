@@ -8,6 +8,7 @@
 
 namespace vantrix::view {
 
+/* As few digits as tell every two neighbours apart. */
 std::vector<QString> levelTexts(const ContourGroupStyle& group)
 {
     std::vector<QString> texts;
@@ -15,10 +16,10 @@ std::vector<QString> levelTexts(const ContourGroupStyle& group)
         texts.clear();
         bool isExact = true;
         for (const double level : group.levels) {
-            const std::string text = numberText(level, digits);
-            texts.push_back(QString::fromStdString(text));
+            texts.push_back(QString::fromStdString(numberText(level, digits)));
             const double range = group.levels.back() - group.levels.front();
-            isExact = isExact && std::abs(std::stod(text) - level) <= 0.005 * range / double(group.levels.size());
+            isExact =
+                isExact && std::abs(texts.back().toDouble() - level) <= 0.005 * range / double(group.levels.size());
         }
         if (isExact) {
             break;
@@ -40,8 +41,7 @@ bool ContourLegend::isContinuous() const
     return m_group.isContinuous && m_group.levels.size() > 1;
 }
 
-/* Bands of one colour from end to end; a continuous run has one from level to
- * level. */
+/* Bands of one colour from end to end; a continuous run has one from level to level. */
 double ContourLegend::bands() const
 {
     return isContinuous() ? double(m_group.levels.size() - 1) : double(m_group.levels.size() + 1);

@@ -42,6 +42,21 @@ void LegendBox::paintBox(const QRectF& rect) const
     }
 }
 
+void LegendBox::paintRows(const QRectF& rect, std::size_t count,
+                          const std::function<void(std::size_t row, QPointF left)>& paintRow) const
+{
+    QPainter& painter = m_canvas.painter;
+    painter.save();
+    paintBox(rect);
+    painter.setClipRect(rect.adjusted(-1.0, -1.0, 1.0, 1.0), Qt::IntersectClip);
+    QPointF left(rect.left() + margin(), rect.top() + margin() + 0.5 * rowHeight());
+    for (std::size_t row = 0; row < count && left.y() + 0.5 * m_textHeight <= rect.bottom() + 1.0; ++row) {
+        paintRow(row, left);
+        left.ry() += rowHeight();
+    }
+    painter.restore();
+}
+
 void LegendBox::drawText(QPointF point, Qt::Alignment alignment, const QString& text) const
 {
     m_canvas.drawText(point, alignment, text, m_font, m_style.text.color);

@@ -5,6 +5,9 @@
 
 #include <QRectF>
 
+#include <cstddef>
+#include <functional>
+
 namespace vantrix::view {
 
 /* What all legends have in common: font, measures, place and box. */
@@ -29,6 +32,14 @@ public:
     QRectF placedRect(const QRectF& frame, QSizeF size) const;
 
     void paintBox(const QRectF& rect) const;
+
+    /*
+     * Paints the box and calls `paintRow` with the number of each row, from 0, and the middle of its left end. Rows
+     * that do not fit are left away.
+     */
+    void paintRows(const QRectF& rect, std::size_t count,
+                   const std::function<void(std::size_t row, QPointF left)>& paintRow) const;
+
     void drawText(QPointF point, Qt::Alignment alignment, const QString& text) const;
 
 private:

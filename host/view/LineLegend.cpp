@@ -38,29 +38,20 @@ QSizeF LineLegend::size() const
 void LineLegend::paint(const QRectF& rect) const
 {
     QPainter& painter = m_canvas.painter;
-    painter.save();
-    m_box.paintBox(rect);
-    painter.setClipRect(rect.adjusted(-1.0, -1.0, 1.0, 1.0), Qt::IntersectClip);
-    const double left = rect.left() + m_box.margin();
-    double y = rect.top() + m_box.margin() + 0.5 * m_box.rowHeight();
-    for (const LineMapStyle* map : m_maps) {
-        if (y + 0.5 * m_box.textHeight() > rect.bottom() + 1.0) {
-            break;
+    m_box.paintRows(rect, m_maps.size(), [&](std::size_t row, QPointF left) {
+        const LineMapStyle& map = *m_maps[row];
+        if (map.hasLines) {
+            painter.setPen(LinePlot::pen(m_canvas, m_frameHeight, map));
+            painter.drawLine(left, left + QPointF(sampleWidth(), 0.0));
         }
-        if (map->hasLines) {
-            painter.setPen(LinePlot::pen(m_canvas, m_frameHeight, *map));
-            painter.drawLine(QPointF(left, y), QPointF(left + sampleWidth(), y));
-        }
-        if (map->hasSymbols) {
-            MarkSymbol(m_canvas, m_frameHeight, map->symbol).draw({left + 0.5 * sampleWidth(), y});
+        if (map.hasSymbols) {
+            MarkSymbol(m_canvas, m_frameHeight, map.symbol).draw(left + QPointF(0.5 * sampleWidth(), 0.0));
         }
         if (style().hasNames) {
-            m_box.drawText({left + sampleWidth() + m_box.gap(), y}, Qt::AlignLeft | Qt::AlignVCenter,
-                           QString::fromStdString(map->name));
+            m_box.drawText(left + QPointF(sampleWidth() + m_box.gap(), 0.0), Qt::AlignLeft | Qt::AlignVCenter,
+                           QString::fromStdString(map.name));
         }
-        y += m_box.rowHeight();
-    }
-    painter.restore();
+    });
 }
 
 } // namespace vantrix::view

@@ -188,12 +188,11 @@ TripodStyle readTripod(const StyleReader& style)
 
 std::vector<BlankingBoundaryStyle> readBoundaries(const kernel::StyleStore& store, long frame)
 {
-    constexpr long constraintCount = 8;
     std::vector<BlankingBoundaryStyle> boundaries;
     if (!StyleReader(store, frame, "Blanking/Value").flag("Include")) {
         return boundaries;
     }
-    for (long number = 1; number <= constraintCount; ++number) {
+    for (long number = 1; number <= kernel::BlankingConstraint::count; ++number) {
         const StyleReader style(store, frame, "Blanking/Value/Constraint", number);
         if (style.flag("Include") && style.flag("Show")) {
             boundaries.push_back({kernel::BlankingConstraint::read(store, frame, number), style.color("Color"),

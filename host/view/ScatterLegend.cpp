@@ -30,26 +30,16 @@ QSizeF ScatterLegend::size() const
 
 void ScatterLegend::paint(const QRectF& rect) const
 {
-    QPainter& painter = m_canvas.painter;
-    painter.save();
-    m_box.paintBox(rect);
-    painter.setClipRect(rect.adjusted(-1.0, -1.0, 1.0, 1.0), Qt::IntersectClip);
-    const double left = rect.left() + m_box.margin();
-    double y = rect.top() + m_box.margin() + 0.5 * m_box.rowHeight();
-    for (const ZoneStyle* zone : m_zones) {
-        if (y + 0.5 * m_box.textHeight() > rect.bottom() + 1.0) {
-            break;
-        }
-        SymbolStyle symbol = zone->scatter.symbol();
-        // A symbol sized by its variable has no size of its own, and a large one must not cover other rows.
-        const double row = 90.0 * m_box.textHeight() / (m_frameHeight * m_canvas.inch);
-        symbol.size = zone->scatter.isSizedByVariable ? row : std::min(symbol.size, row);
-        MarkSymbol(m_canvas, m_frameHeight, symbol).draw({left + 0.5 * symbolWidth(), y});
-        m_box.drawText({left + symbolWidth() + m_box.gap(), y}, Qt::AlignLeft | Qt::AlignVCenter,
-                       QString::fromStdString(zone->name));
-        y += m_box.rowHeight();
-    }
-    painter.restore();
+    // A symbol sized by its variable has no size of its own, and a large one must not cover other rows.
+    const double most = 90.0 * m_box.textHeight() / (m_frameHeight * m_canvas.inch);
+    m_box.paintRows(rect, m_zones.size(), [&](std::size_t row, QPointF left) {
+        const ZoneStyle& zone = *m_zones[row];
+        SymbolStyle symbol = zone.scatter.symbol();
+        symbol.size = zone.scatter.isSizedByVariable ? most : std::min(symbol.size, most);
+        MarkSymbol(m_canvas, m_frameHeight, symbol).draw(left + QPointF(0.5 * symbolWidth(), 0.0));
+        m_box.drawText(left + QPointF(symbolWidth() + m_box.gap(), 0.0), Qt::AlignLeft | Qt::AlignVCenter,
+                       QString::fromStdString(zone.name));
+    });
 }
 
 } // namespace vantrix::view

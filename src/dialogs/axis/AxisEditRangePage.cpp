@@ -83,7 +83,6 @@ void AxisEditRangePage::bindRelevanciesToControls()
                                           m_form.axisEdit_RangeAxisSpec3DZScaleFact_1Text});
 
     m_bindings.apply(m.flatRelevance(), {m_form.axisEdit_RangePreserveLength_ToggleButton});
-    m_bindings.apply(m.reversibleRelevance(), {m_form.axisEdit_RangeReverseDir_ToggleButton});
     m_bindings.show(m.logScaleRelevance(), {m_form.axisEdit_RangeLogScale_ToggleButton});
     m_bindings.show(m.polarRelevance(), {m_form.axisEdit_RangePolarClipToAxis_ToggleButton});
     m_bindings.show(m.autoAdjustRelevance(), {m_form.axisEdit_RangeAutoAdjustToNiceValues_ToggleButton});

@@ -297,7 +297,7 @@ TEST_F(AxisEditRangePageTest, AnAxisThatDependsOnXHasNoSizeFactor)
 TEST_F(AxisEditRangePageTest, WhatDoesNothingToAPlotCannotBeChanged)
 {
     auto const& dialog = openOn(PlotType_Cartesian3D);
-    EXPECT_FALSE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton"));
+    EXPECT_TRUE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton"));
     EXPECT_FALSE(isEnabled(dialog, "axisEdit_RangePreserveLength_ToggleButton"));
     setPlotType(PlotType_PolarLine);
     EXPECT_TRUE(isEnabled(dialog, "axisEdit_RangeReverseDir_ToggleButton"));

@@ -104,7 +104,6 @@ AxisEditRangePageManager::AxisEditRangePageManager(AxisEditProperties& propertie
     , m_logScaleRelevance(whileAxis(
           [this] { return VtxUtilFrameGetPlotType() == PlotType_XYLine || this->properties().axisChar() == 'R'; }))
     , m_autoAdjustRelevance(whilePlotType({PlotType_XYLine, PlotType_Sketch, PlotType_Cartesian2D}))
-    , m_reversibleRelevance(whilePlotType({PlotType_XYLine, PlotType_Sketch, PlotType_Cartesian2D, PlotType_PolarLine}))
     , m_flatDependencyRelevance(whilePlotType({PlotType_XYLine, PlotType_Cartesian2D}))
     , m_threeDRelevance(whilePlotType({PlotType_Cartesian3D}))
     , m_polarRelevance(whilePlotType({PlotType_PolarLine}))

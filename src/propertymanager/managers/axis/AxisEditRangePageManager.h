@@ -65,9 +65,8 @@ public:
     Relevance zSizeRelevance() const { return m_zSizeRelevance; }
     Relevance logScaleRelevance() const { return m_logScaleRelevance; }
     Relevance autoAdjustRelevance() const { return m_autoAdjustRelevance; }
-    /// Whether the length of an axis and its range can change without each other, and whether values can fall along it.
+    /// Whether the length of an axis and its range can change without each other.
     Relevance flatRelevance() const { return m_autoAdjustRelevance; }
-    Relevance reversibleRelevance() const { return m_reversibleRelevance; }
     Relevance flatDependencyRelevance() const { return m_flatDependencyRelevance; }
     Relevance threeDRelevance() const { return m_threeDRelevance; }
     Relevance polarRelevance() const { return m_polarRelevance; }
@@ -125,7 +124,6 @@ private:
     Relevance m_zSizeRelevance;
     Relevance m_logScaleRelevance;
     Relevance m_autoAdjustRelevance;
-    Relevance m_reversibleRelevance;
     Relevance m_flatDependencyRelevance;
     Relevance m_threeDRelevance;
     Relevance m_polarRelevance;
