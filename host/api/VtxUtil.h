@@ -23,6 +23,7 @@
 #include "api/VtxUtilPick.h"
 #include "api/VtxUtilProbe.h"
 #include "api/VtxUtilState.h"
+#include "api/VtxUtilStreamtrace.h"
 #include "api/VtxUtilStyle.h"
 #include "api/VtxUtilText.h"
 

@@ -16,9 +16,12 @@ PickObject_e VtxUtilPickListGetType(long position);
 /* The frame that an object belongs to, or that it is. */
 long VtxUtilPickListGetFrame(long position);
 
-/* Of a zone, or of what was derived from one, its number. */
+/* Of a zone, or of a surface that was derived from one, its number. */
 long VtxUtilPickListGetZoneNumber(long position);
 long VtxUtilPickListGetLineMapNumber(long position);
+
+/* The number that a streamtrace has in its frame now. */
+long VtxUtilPickListGetStreamtrace(long position);
 
 /* The handle of a text or geometry. */
 long VtxUtilPickListGetText(long position);
@@ -38,6 +41,7 @@ bool VtxUtilPickGeometry(long geometry);
 bool VtxUtilPickFrame(long frameId);
 bool VtxUtilPickZone(long zone);
 bool VtxUtilPickLineMap(long lineMap);
+bool VtxUtilPickStreamtrace(long streamtrace);
 bool VtxUtilPickAxis(char axis, int axisNumber, AxisSubObject_e part);
 
 /* The contour legend or that of the line maps. */
@@ -45,12 +49,12 @@ bool VtxUtilPickLegend(PickObject_e legend);
 
 /*
  * Picks what is seen at a place of the paper (inches from its lower left corner): a text or geometry before an axis
- * title, an axis line, a legend, a zone or line map, the grid area, a frame. `collect` keeps what was picked before.
- * False, with nothing picked, where there is nothing.
+ * title, an axis line, a legend, a streamtrace, a zone or line map, the grid area, a frame. `collect` keeps what was
+ * picked before. False, with nothing picked, where there is nothing.
  */
 bool VtxUtilPickAtPosition(double x, double y, bool collect);
 
-/* Deletes the picked objects that can be deleted (texts, geometries, line maps, frames); one step. */
+/* Deletes the picked objects that can be deleted (texts, geometries, streamtraces, line maps, frames); one step. */
 bool VtxUtilPickDelete(void);
 
 VTX_END_DECLS

@@ -2,6 +2,7 @@
 
 #include "kernel/DataSet.h"
 #include "kernel/Geometry.h"
+#include "kernel/Streamtrace.h"
 #include "kernel/Text.h"
 
 #include <memory>
@@ -32,7 +33,7 @@ public:
     /* Only Document calls this; see Document::replaceDataSet() and Document::attachDataSet(). */
     void setDataSet(std::shared_ptr<const DataSet> dataSet) { m_dataSet = std::move(dataSet); }
 
-    /* The texts, or the geometries, the last on top. */
+    /* The texts, or the geometries, the last on top; or the streamtraces, in the order of their numbers. */
     template<class Object>
     const ObjectList<Object>& objects() const
     {
@@ -40,6 +41,7 @@ public:
     }
     const ObjectList<Text>& texts() const { return objects<Text>(); }
     const ObjectList<Geometry>& geometries() const { return objects<Geometry>(); }
+    const ObjectList<Streamtrace>& streamtraces() const { return objects<Streamtrace>(); }
 
     /* Only FrameObjects and who makes new frames call this. */
     template<class Object>
@@ -51,7 +53,7 @@ public:
 private:
     long m_id;
     std::shared_ptr<const DataSet> m_dataSet;
-    std::tuple<ObjectList<Text>, ObjectList<Geometry>> m_objects;
+    std::tuple<ObjectList<Text>, ObjectList<Geometry>, ObjectList<Streamtrace>> m_objects;
 };
 
 } // namespace vantrix::kernel

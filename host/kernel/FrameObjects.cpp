@@ -3,6 +3,7 @@
 #include "kernel/Document.h"
 #include "kernel/GeometryValues.h"
 #include "kernel/StateChanges.h"
+#include "kernel/StreamtraceValues.h"
 #include "kernel/TextValues.h"
 #include "kernel/UndoStack.h"
 
@@ -77,6 +78,21 @@ long FrameObjects<Object>::add(Frame& frame, Object object)
 }
 
 template<class Object>
+void FrameObjects<Object>::add(Frame& frame, std::vector<Object> added)
+{
+    if (added.empty()) {
+        return;
+    }
+    List objects = frame.objects<Object>();
+    for (Object& object : added) {
+        object.handle = m_document.newId();
+        objects.push_back(std::make_shared<const Object>(std::move(object)));
+    }
+    const long handle = added.size() == 1 ? objects.back()->handle : 0;
+    replace(frame, std::move(objects), handle);
+}
+
+template<class Object>
 bool FrameObjects<Object>::change(Object object)
 {
     Frame* frame = frameOf(object.handle);
@@ -107,6 +123,19 @@ bool FrameObjects<Object>::remove(long handle)
 }
 
 template<class Object>
+void FrameObjects<Object>::remove(const std::set<long>& handles)
+{
+    for (const auto& page : m_document.pages()) {
+        for (const auto& frame : page->frames) {
+            List objects = frame->template objects<Object>();
+            if (std::erase_if(objects, [&](const auto& object) { return handles.contains(object->handle); }) > 0) {
+                replace(*frame, std::move(objects), handles.size() == 1 ? *handles.begin() : 0);
+            }
+        }
+    }
+}
+
+template<class Object>
 Frame* FrameObjects<Object>::frameOf(long handle) const
 {
     for (const auto& page : m_document.pages()) {
@@ -133,5 +162,6 @@ const Object* FrameObjects<Object>::find(long handle) const
 
 template class FrameObjects<Text>;
 template class FrameObjects<Geometry>;
+template class FrameObjects<Streamtrace>;
 
 } // namespace vantrix::kernel

@@ -14,6 +14,7 @@
 #include "kernel/UndoStack.h"
 #include "kernel/VariableMemory.h"
 #include "kernel/macro/MacroRecorder.h"
+#include "kernel/streamtrace/StreamtracePaths.h"
 
 namespace vantrix::kernel {
 
@@ -32,6 +33,8 @@ Kernel::Kernel()
     , m_document(std::make_unique<Document>(*m_undo, *m_stateChanges, *m_style))
     , m_texts(std::make_unique<Texts>(*m_document, *m_undo, *m_stateChanges))
     , m_geometries(std::make_unique<Geometries>(*m_document, *m_undo, *m_stateChanges))
+    , m_streamtraces(std::make_unique<Streamtraces>(*m_document, *m_undo, *m_stateChanges))
+    , m_streamtracePaths(std::make_unique<StreamtracePaths>(*m_document, *m_style))
     , m_mouseModes(std::make_unique<MouseModes>(*m_document, *m_style, *m_stateChanges))
     , m_probes(std::make_unique<ProbeService>(*this))
     , m_variableMemory(std::make_unique<VariableMemory>(*m_document, *m_style, *m_stateChanges, *m_undo))

@@ -14,14 +14,17 @@ class MouseModes;
 class PickList;
 class ProbeService;
 class StateChanges;
+class StreamtracePaths;
 class StyleStore;
 class UndoStack;
 class VariableMemory;
 struct Geometry;
+struct Streamtrace;
 struct Text;
 template<class Object>
 class FrameObjects;
 using Geometries = FrameObjects<Geometry>;
+using Streamtraces = FrameObjects<Streamtrace>;
 using Texts = FrameObjects<Text>;
 
 /*
@@ -53,6 +56,8 @@ public:
     ProbeService& probes() const { return *m_probes; }
     PickList& pickList() const { return *m_pickList; }
     StateChanges& stateChanges() const { return *m_stateChanges; }
+    StreamtracePaths& streamtracePaths() const { return *m_streamtracePaths; }
+    Streamtraces& streamtraces() const { return *m_streamtraces; }
     StyleStore& style() const { return *m_style; }
     Texts& texts() const { return *m_texts; }
     UndoStack& undoStack() const { return *m_undo; }
@@ -76,6 +81,8 @@ private:
     std::unique_ptr<Document> m_document;
     std::unique_ptr<Texts> m_texts;
     std::unique_ptr<Geometries> m_geometries;
+    std::unique_ptr<Streamtraces> m_streamtraces;
+    std::unique_ptr<StreamtracePaths> m_streamtracePaths;
     std::unique_ptr<MouseModes> m_mouseModes;
     std::unique_ptr<ProbeService> m_probes;
     std::unique_ptr<VariableMemory> m_variableMemory;

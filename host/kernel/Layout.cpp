@@ -10,6 +10,7 @@
 #include "kernel/LayoutReader.h"
 #include "kernel/ProbeService.h"
 #include "kernel/StateChanges.h"
+#include "kernel/StreamtraceValues.h"
 #include "kernel/StyleActions.h"
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
@@ -82,7 +83,7 @@ public:
         }
     }
 
-    /* What differs from a text, or a geometry, as it is made. */
+    /* What differs from a text, a geometry or a streamtrace as it is made. */
     template<class Object>
     void writeObject(int depth, const char* entry, const Object& object)
     {
@@ -174,6 +175,9 @@ std::string Layout::text(const std::string& folder) const
             }
             writer.write(1, frameHead);
             writer.writeStyle(2, frame.id(), frame.dataSet() ? frame.dataSet()->zoneCount() : 0);
+            for (const auto& streamtrace : frame.streamtraces()) {
+                writer.writeObject(2, "Streamtrace", *streamtrace);
+            }
             for (const auto& geometry : frame.geometries()) {
                 writer.writeObject(2, "Geometry", *geometry);
             }

@@ -3,6 +3,7 @@
 #include "kernel/DataError.h"
 #include "kernel/GeometryValues.h"
 #include "kernel/PlotAxes.h"
+#include "kernel/StreamtraceValues.h"
 #include "kernel/StyleActions.h"
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
@@ -99,6 +100,8 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
         addObject<Text>(command);
     } else if (command.name == "Geometry" && m_frame) {
         addObject<Geometry>(command);
+    } else if (command.name == "Streamtrace" && m_frame) {
+        addObject<Streamtrace>(command);
     } else {
         unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
     }

@@ -25,10 +25,11 @@ namespace {
 bool mayTakeObjectsAway(int kind)
 {
     static const std::set<int> kinds{
-        StateChange_ZonesDeleted,   StateChange_FrameDeleted,           StateChange_DataSetReset, StateChange_NewLayout,
-        StateChange_CompleteReset,  StateChange_LineMapsAddedOrDeleted, StateChange_Text,         StateChange_Geometry,
-        StateChange_PageDeleted,    StateChange_NewActivePage,          StateChange_HistoryStep,  StateChange_Style,
-        StateChange_NewActiveFrame,
+        StateChange_ZonesDeleted, StateChange_FrameDeleted,   StateChange_DataSetReset,
+        StateChange_NewLayout,    StateChange_CompleteReset,  StateChange_LineMapsAddedOrDeleted,
+        StateChange_Text,         StateChange_Geometry,       StateChange_Streamtrace,
+        StateChange_PageDeleted,  StateChange_NewActivePage,  StateChange_HistoryStep,
+        StateChange_Style,        StateChange_NewActiveFrame,
     };
     return kinds.contains(kind);
 }
@@ -145,6 +146,8 @@ std::string PickList::problemWith(const PickedObject& object) const
         return m_kernel.texts().find(object.number) ? std::string() : noSuch("text", object.number);
     case PickObject_Geometry:
         return m_kernel.geometries().find(object.number) ? std::string() : noSuch("geometry", object.number);
+    case PickObject_Streamtrace:
+        return m_kernel.streamtraces().find(object.number) ? std::string() : noSuch("streamtrace", object.number);
     default:
         return "Objects of type " + std::to_string(object.type) + " cannot be picked.";
     }
@@ -181,18 +184,21 @@ void PickList::deleteObjects()
     std::set<long> frames;
     std::set<long> texts;
     std::set<long> geometries;
+    std::set<long> streamtraces;
     for (const PickedObject& object : m_objects) {
         if (object.type == PickObject_Text) {
             texts.insert(object.number);
         } else if (object.type == PickObject_Geometry) {
             geometries.insert(object.number);
+        } else if (object.type == PickObject_Streamtrace) {
+            streamtraces.insert(object.number);
         } else if (object.type == PickObject_LineMap) {
             lineMaps[object.frameId].insert(object.number);
         } else if (object.type == PickObject_Frame) {
             frames.insert(object.frameId);
         }
     }
-    if (frames.empty() && lineMaps.empty() && texts.empty() && geometries.empty()) {
+    if (frames.empty() && lineMaps.empty() && texts.empty() && geometries.empty() && streamtraces.empty()) {
         throw DataError(m_objects.empty() ? "Nothing is picked that could be deleted."
                                           : "Nothing that is picked can be deleted.");
     }
@@ -202,6 +208,7 @@ void PickList::deleteObjects()
     for (const long geometry : geometries) {
         m_kernel.geometries().remove(geometry);
     }
+    m_kernel.streamtraces().remove(streamtraces);
     for (const auto& [frame, numbers] : lineMaps) {
         LineMaps(m_kernel.style(), *m_kernel.document().frameById(frame)).remove(numbers);
     }

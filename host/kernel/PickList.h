@@ -15,7 +15,7 @@ struct PickedObject
 {
     PickObject_e type = PickObject_None;
     long frameId = 0;
-    long number = 0; /* of a zone or line map, the handle of a text or geometry */
+    long number = 0; /* of a zone or line map, the handle of a text, geometry or streamtrace */
     char axis = 0;   /* 'X', 'Y', 'Z', 'T' or 'R' */
     int axisNumber = 0;
     AxisSubObject_e part = AxisSubObject_GridArea;

@@ -296,6 +296,38 @@ TEST_F(MacroTest, NamesTextsByTheirPlaces)
     expectReplayed(lines);
 }
 
+TEST_F(MacroTest, RecordsStreamtracesByTheirNumbers)
+{
+    const auto place = [](ArgList& list) {
+        list.appendArbParam("StreamType", Streamtrace_VolumeLine);
+        for (const auto& [name, value] :
+             {std::pair{"X1", -3.0}, {"Y1", -1.0}, {"Z1", 2.5}, {"X2", -3.0}, {"Y2", 1.0}, {"Z2", 2.5}}) {
+            list.appendDouble(name, value);
+        }
+        list.appendArbParam("NumPts", 4);
+    };
+    ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilDataReadSample("flow3d"));
+    }
+    {
+        const LockScope lock;
+        ASSERT_TRUE(call(&VtxUtilStreamtraceAddX, place)) << kernel().lastError();
+    }
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilStreamtraceDeleteRange(2, 3));
+        ASSERT_TRUE(VtxUtilPickStreamtrace(2));
+    }
+    const std::vector<std::string> lines = recorded();
+    EXPECT_THAT(lines, ElementsAre("DataReadSample Name=flow3d",
+                                   "StreamtraceAdd StreamType=2 X1=-3.0 Y1=-1.0 Z1=2.5 X2=-3.0 Y2=1.0 Z2=2.5 NumPts=4",
+                                   "StreamtraceDeleteRange First=2 Last=3; PickStreamtrace Streamtrace=2"));
+    expectReplayed(lines);
+    EXPECT_EQ(VtxUtilPickListGetStreamtrace(1), 2);
+}
+
 TEST_F(MacroTest, RecordsAxesAndProbesHoweverTheyAreAskedFor)
 {
     show("lines");

@@ -2,9 +2,12 @@
 #include "api/VtxUtilDocument.h"
 #include "api/VtxUtilFrame.h"
 
+#include "kernel/Document.h"
 #include "kernel/PickList.h"
 #include "kernel/UndoStack.h"
 #include "kernel/interface/Boundary.h"
+
+#include <algorithm>
 
 using namespace vantrix::kernel;
 
@@ -39,6 +42,25 @@ bool pick(const PickedObject& object, const Arguments&... arguments)
     return boundary::change<Function>(false, add, arguments...);
 }
 
+/* Handles count for the kernel, numbers for the interface. */
+long streamtraceHandle(long number)
+{
+    const Frame* frame = Kernel::instance().document().activeFrame();
+    const bool isThere = frame && number >= 1 && number <= static_cast<long>(frame->streamtraces().size());
+    return isThere ? frame->streamtraces()[static_cast<std::size_t>(number - 1)]->handle : 0;
+}
+
+long streamtraceNumber(const PickedObject& object)
+{
+    const Frame* frame = Kernel::instance().document().frameById(object.frameId);
+    if (!frame) {
+        return 0;
+    }
+    const auto& all = frame->streamtraces();
+    const auto found = std::ranges::find_if(all, [&](const auto& each) { return each->handle == object.number; });
+    return found == all.end() ? 0 : static_cast<long>(found - all.begin()) + 1;
+}
+
 /* By the function for its type, which is what a macro records. */
 bool pickObject(const PickedObject& object)
 {
@@ -55,6 +77,8 @@ bool pickObject(const PickedObject& object)
         return VtxUtilPickText(object.number);
     case PickObject_Geometry:
         return VtxUtilPickGeometry(object.number);
+    case PickObject_Streamtrace:
+        return VtxUtilPickStreamtrace(streamtraceNumber(object));
     case PickObject_LineMap:
         return VtxUtilPickLineMap(object.number);
     case PickObject_ContourLegend:
@@ -86,13 +110,18 @@ long VtxUtilPickListGetFrame(long position)
 
 long VtxUtilPickListGetZoneNumber(long position)
 {
-    return ofType(position, {PickObject_Zone, PickObject_Streamtrace, PickObject_IsoSurface, PickObject_Slice},
-                  &PickedObject::number);
+    return ofType(position, {PickObject_Zone, PickObject_IsoSurface, PickObject_Slice}, &PickedObject::number);
 }
 
 long VtxUtilPickListGetLineMapNumber(long position)
 {
     return ofType(position, {PickObject_LineMap}, &PickedObject::number);
+}
+
+long VtxUtilPickListGetStreamtrace(long position)
+{
+    const PickedObject* object = pickList().at(position);
+    return object && object->type == PickObject_Streamtrace ? streamtraceNumber(*object) : 0;
 }
 
 long VtxUtilPickListGetText(long position)
@@ -152,6 +181,15 @@ bool VtxUtilPickZone(long zone)
 bool VtxUtilPickLineMap(long lineMap)
 {
     return pick<&VtxUtilPickLineMap>({.type = PickObject_LineMap, .number = lineMap}, lineMap);
+}
+
+bool VtxUtilPickStreamtrace(long streamtrace)
+{
+    const long handle = streamtraceHandle(streamtrace);
+    if (handle == 0) {
+        return boundary::fail("There is no streamtrace " + std::to_string(streamtrace) + " in the active frame.");
+    }
+    return pick<&VtxUtilPickStreamtrace>({.type = PickObject_Streamtrace, .number = handle}, streamtrace);
 }
 
 bool VtxUtilPickAxis(char axis, int axisNumber, AxisSubObject_e part)

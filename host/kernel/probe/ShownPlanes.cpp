@@ -83,4 +83,15 @@ std::optional<ShownPlanes::Plane> ShownPlanes::at(const std::array<double, 3>& p
     return nearest;
 }
 
+std::vector<ShownPlanes::Plane> ShownPlanes::all() const
+{
+    std::vector<Plane> planes;
+    for (std::size_t axis = 0; axis < m_ranges.size(); ++axis) {
+        for (long index = m_ranges[axis].first; index <= m_ranges[axis].last; index += m_ranges[axis].skip) {
+            planes.push_back({static_cast<IJKPlanes_e>(axis), index});
+        }
+    }
+    return planes;
+}
+
 } // namespace vantrix::kernel

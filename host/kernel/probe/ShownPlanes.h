@@ -4,6 +4,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace vantrix::kernel {
 
@@ -20,6 +21,8 @@ public:
     {
         IJKPlanes_e family;
         long index; /* from 0 */
+
+        bool operator==(const Plane&) const = default;
     };
 
     /* `dimensions` are those of the zone. */
@@ -27,6 +30,8 @@ public:
 
     /* The plane that a place is on, in indices from 0 and between them; nothing where it is on none. */
     std::optional<Plane> at(const std::array<double, 3>& place) const;
+
+    std::vector<Plane> all() const;
 
 private:
     struct Range
