@@ -55,6 +55,7 @@ FieldProbe::FieldProbe(const StyleStore& style, const Frame& frame, ProbeMeshes&
     , m_frameId(frame.id())
     , m_meshes(meshes)
     , m_dataSet(frame.dataSet())
+    , m_blanking(ValueBlanking::read(style, frame))
 {
     const long plotType = style.integer(frame.id(), style.entry("PlotType"));
     m_isThreeD = plotType == PlotType_Cartesian3D;
@@ -111,7 +112,11 @@ std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVo
     case SurfacesToPlot_None:
         return std::nullopt;
     case SurfacesToPlot_BoundaryFaces:
+        break;
     case SurfacesToPlot_ExposedFaces:
+        if (m_isThreeD || !zone.isOrdered()) {
+            return ProbeMesh::Part::ExposedFaces;
+        }
         break;
     default: // faces inside of the volume are drawn: they are found through its cells
         if (m_isThreeD) {
@@ -124,7 +129,13 @@ std::optional<ProbeMesh::Part> FieldProbe::partToSearch(long number, bool isInVo
 
 std::shared_ptr<ProbeMesh> FieldProbe::mesh(long zone, ProbeMesh::Part part)
 {
-    return m_meshes.mesh(*m_dataSet, zone, m_coordinates, part);
+    return m_meshes.mesh(*m_dataSet, zone, m_coordinates, part, m_blanking.of(*m_dataSet, zone));
+}
+
+/* All cells of a zone, those included that the plot leaves out. */
+std::shared_ptr<ProbeMesh> FieldProbe::wholeMesh(long zone)
+{
+    return m_meshes.mesh(*m_dataSet, zone, m_coordinates, ProbeMesh::Part::Cells);
 }
 
 bool FieldProbe::findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell)
@@ -276,7 +287,7 @@ FieldProbeResult FieldProbe::newResult(long number) const
 void FieldProbe::findNeighborsInOtherZones(ProbedCell& cell, long zone)
 {
     const int dimension = m_dataSet->zone(zone)->topologicalDimension();
-    const std::shared_ptr<ProbeMesh> own = mesh(zone, ProbeMesh::Part::Cells);
+    const std::shared_ptr<ProbeMesh> own = wholeMesh(zone);
     std::vector<std::pair<ProbedCell::Face*, std::vector<Position>>> borders;
     for (ProbedCell::Face& face : cell.faces) {
         if (face.neighbor == 0 && static_cast<int>(face.points.size()) >= dimension) {
@@ -289,7 +300,7 @@ void FieldProbe::findNeighborsInOtherZones(ProbedCell& cell, long zone)
             otherZone.topologicalDimension() != dimension) {
             continue;
         }
-        const std::shared_ptr<ProbeMesh> searched = mesh(other, ProbeMesh::Part::Cells);
+        const std::shared_ptr<ProbeMesh> searched = wholeMesh(other);
         std::erase_if(borders, [&](const auto& border) {
             const long found = searched->cellWithCorners(border.second);
             if (found >= 0) {
@@ -357,7 +368,7 @@ FieldProbeResult FieldProbe::probe(const FieldIndexRequest& request)
             value = field->values->GetComponent(point, 0);
         } else if (field) {
             if (cells.empty()) {
-                cells = mesh(request.zone, ProbeMesh::Part::Cells)->cellsAround(point);
+                cells = wholeMesh(request.zone)->cellsAround(point);
             }
             if (!cells.empty()) {
                 value = mean(*field->values, cells);

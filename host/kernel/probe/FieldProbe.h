@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/Frame.h"
+#include "kernel/ValueBlanking.h"
 #include "kernel/probe/ProbeMeshes.h"
 #include "kernel/probe/ShownPlanes.h"
 
@@ -62,7 +63,7 @@ struct FieldProbeResult
 /*
  * Probes the field plot of one frame, with the data and style that it has when this is made. A position on a surface
  * need not be exact: the closest place of what the plot shows is taken, no further away than a hundredth of the size of
- * its zone.
+ * its zone. What value blanking leaves out of the plot is not found by position; any point is by its index.
  */
 class FieldProbe
 {
@@ -90,7 +91,7 @@ public:
     std::optional<double> value(const FieldPlace& place, long variable) const;
 
     /* See VtxUtilZoneGetFaceCount(); the zone is a finite-element one. */
-    long faceCount(long zone) { return mesh(zone, ProbeMesh::Part::Cells)->faceCount(); }
+    long faceCount(long zone) { return wholeMesh(zone)->faceCount(); }
 
     const DataSet& dataSet() const { return *m_dataSet; }
 
@@ -108,6 +109,7 @@ private:
     std::vector<Candidate> candidatesAmong(const std::set<long>& zones, bool isInVolume) const;
     std::optional<ProbeMesh::Part> partToSearch(long zone, bool isInVolume) const;
     std::shared_ptr<ProbeMesh> mesh(long zone, ProbeMesh::Part part);
+    std::shared_ptr<ProbeMesh> wholeMesh(long zone);
     Candidate candidate(long zone, ProbeMesh::Part part, bool isInVolume) const;
     static bool putOnPlane(const Zone& zone, const ShownPlanes& planes, FieldPlace& place);
     bool findIn(Candidate& candidate, const FieldPositionRequest& request, FieldPlace& best, long startCell);
@@ -120,6 +122,7 @@ private:
     std::shared_ptr<const DataSet> m_dataSet;
     CoordinateVariables m_coordinates{0, 0, 0};
     bool m_isThreeD = false;
+    ValueBlanking m_blanking;
     std::array<std::optional<std::vector<Candidate>>, 2> m_candidates; /* on surfaces, inside of volumes */
 };
 

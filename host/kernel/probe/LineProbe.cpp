@@ -21,27 +21,43 @@ std::optional<double> positionBetween(double low, double high, double position, 
 }
 
 /* `period` is that of the values along the line, 0 for none. */
-std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, double position, double period)
+template<class IsBlanked>
+std::optional<double> interpolated(vtkDataArray& along, vtkDataArray& values, double position, double period,
+                                   const IsBlanked& isBlanked)
 {
     const vtkIdType count = std::min(along.GetNumberOfTuples(), values.GetNumberOfTuples());
-    for (vtkIdType i = 0; i < count; ++i) {
+    const auto leftFrom = [&](vtkIdType point) {
+        while (point < count && isBlanked(static_cast<long>(point))) {
+            ++point;
+        }
+        return point;
+    };
+    for (vtkIdType i = leftFrom(0), after = 0; i < count; i = after) {
+        after = leftFrom(i + 1);
         const double here = along.GetComponent(i, 0);
-        const double next = i + 1 < count ? along.GetComponent(i + 1, 0) : here;
+        const double next = after < count ? along.GetComponent(after, 0) : here;
         const auto met = positionBetween(std::min(here, next), std::max(here, next), position, period);
         if (!met || (*met == next && next != here)) {
             continue; // the next point is met by itself
         }
         const double value = values.GetComponent(i, 0);
-        return *met == here ? value : value + (*met - here) / (next - here) * (values.GetComponent(i + 1, 0) - value);
+        return *met == here ? value : value + (*met - here) / (next - here) * (values.GetComponent(after, 0) - value);
     }
     return std::nullopt;
 }
 
 } // namespace
 
+bool LineProbe::Map::isBlanked(long point) const
+{
+    const auto at = static_cast<std::size_t>(point);
+    return blanked && at < blanked->points.size() && blanked->points[at] != 0;
+}
+
 LineProbe::LineProbe(StyleStore& style, const Frame& frame)
     : m_lineMaps(style, frame)
     , m_dataSet(frame.dataSet())
+    , m_blanking(ValueBlanking::read(style, frame))
 {
     const long plotType = style.integer(frame.id(), style.entry("PlotType"));
     m_isPolar = plotType == PlotType_PolarLine;
@@ -67,6 +83,7 @@ LineProbe::Map LineProbe::map(long number) const
     if (x && y && x->isLoaded() && y->isLoaded() && x->location == y->location) {
         result.x = x;
         result.y = y;
+        result.blanked = m_blanking.of(*m_dataSet, assignment.zone);
     }
     return result;
 }
@@ -105,7 +122,8 @@ std::optional<LineProbeResult> LineProbe::probe(const LinePositionRequest& reque
         if (shown.x) {
             vtkDataArray& along = isAlongX ? *shown.x->values : *shown.y->values;
             vtkDataArray& across = isAlongX ? *shown.y->values : *shown.x->values;
-            value.value = interpolated(along, across, request.position, isAlongX ? m_thetaPeriod : 0.0);
+            value.value = interpolated(along, across, request.position, isAlongX ? m_thetaPeriod : 0.0,
+                                       [&shown](long point) { return shown.isBlanked(point); });
         }
         hasValue = hasValue || value.value;
         result.values.push_back(value);
@@ -167,6 +185,9 @@ std::optional<LineProbeResult> LineProbe::probe(const LineNearestRequest& reques
             continue;
         }
         for (long point = 0; point < shown.x->values->GetNumberOfTuples(); ++point) {
+            if (shown.isBlanked(point)) {
+                continue;
+            }
             const auto drawn = request.placeOf(shown.number, shown.x->values->GetComponent(point, 0),
                                                shown.y->values->GetComponent(point, 0));
             const double distance = drawn ? std::hypot((*drawn)[0] - request.place[0], (*drawn)[1] - request.place[1])

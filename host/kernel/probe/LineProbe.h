@@ -2,6 +2,7 @@
 
 #include "kernel/Frame.h"
 #include "kernel/LineMaps.h"
+#include "kernel/ValueBlanking.h"
 
 #include <array>
 #include <functional>
@@ -60,7 +61,8 @@ struct LineProbeResult
 
 /*
  * Probes the line plot of one frame. Between its points a line is straight in the variables; where it passes a position
- * more than once, its first passage counts. Theta is the same a full circle on.
+ * more than once, its first passage counts. Theta is the same a full circle on. Points that value blanking leaves out
+ * of the plot are not there but for a probe by index: the line goes on to the next one.
  */
 class LineProbe
 {
@@ -82,6 +84,9 @@ private:
         long yAxis = 1;
         const FieldArray* x = nullptr; /* null where there is nothing to draw */
         const FieldArray* y = nullptr;
+        std::shared_ptr<const BlankedZone> blanked = nullptr;
+
+        bool isBlanked(long point) const;
     };
     Map map(long number) const;
     std::vector<Map> shownMaps() const;
@@ -89,6 +94,7 @@ private:
 
     LineMaps m_lineMaps;
     std::shared_ptr<const DataSet> m_dataSet;
+    ValueBlanking m_blanking;
     bool m_isPolar = false;
     double m_thetaPeriod = 0.0;
 };

@@ -51,6 +51,37 @@ vtkSmartPointer<vtkDataSet> firstLayerOf(const Zone& zone, vtkDataSet* grid)
     return layer;
 }
 
+/* The cells of a shape that are not blanked, over the same points, and their numbers in the shape. */
+struct LeftCells
+{
+    vtkSmartPointer<vtkUnstructuredGrid> shape = vtkSmartPointer<vtkUnstructuredGrid>::New();
+    std::vector<long> numbers;
+};
+
+template<class IsBlanked>
+LeftCells leftCells(vtkDataSet& shape, const IsBlanked& isBlanked)
+{
+    LeftCells left;
+    auto* polyhedra = vtkUnstructuredGrid::SafeDownCast(&shape);
+    vtkNew<vtkIdList> corners;
+    left.shape->SetPoints(vtkPointSet::SafeDownCast(&shape)->GetPoints());
+    left.shape->Allocate(shape.GetNumberOfCells());
+    for (vtkIdType cell = 0; cell < shape.GetNumberOfCells(); ++cell) {
+        if (isBlanked(static_cast<long>(cell))) {
+            continue;
+        }
+        const int type = shape.GetCellType(cell);
+        if (type == VTK_POLYHEDRON) {
+            polyhedra->GetFaceStream(cell, corners);
+        } else {
+            shape.GetCellPoints(cell, corners);
+        }
+        left.shape->InsertNextCell(type, corners);
+        left.numbers.push_back(static_cast<long>(cell));
+    }
+    return left;
+}
+
 /* The family of the cells of an ordered zone that is no volume. */
 IJKPlanes_e flatPlane(const Zone& zone)
 {
@@ -66,31 +97,74 @@ IJKPlanes_e flatPlane(const Zone& zone)
 
 } // namespace
 
-ProbeMesh::ProbeMesh(const Zone& zone, vtkDataSet& grid, Part part)
+ProbeMesh::ProbeMesh(const Zone& zone, vtkDataSet& grid, Part part, std::shared_ptr<const BlankedZone> blanked)
     : m_part(part)
     , m_grid(structureOf(grid))
+    , m_blanked(std::move(blanked))
 {
     switch (part) {
     case Part::Cells:
         m_shape = m_grid;
         break;
-    case Part::Surface: {
-        const vtkSmartPointer<vtkPolyData> surface = surfaceOf(m_grid);
-        m_pointNumbers = vtkIdTypeArray::FastDownCast(surface->GetPointData()->GetAbstractArray("vtkOriginalPointIds"));
-        m_cellNumbers = vtkIdTypeArray::FastDownCast(surface->GetCellData()->GetAbstractArray("vtkOriginalCellIds"));
-        m_shape = surface;
+    case Part::Surface:
+    case Part::ExposedFaces:
+        makeSurface();
         break;
-    }
     case Part::FirstLayer:
         m_shape = firstLayerOf(zone, m_grid);
         break;
     }
+    if (m_blanked && part != Part::ExposedFaces) {
+        leaveOutBlanked();
+    }
     m_weights.resize(static_cast<std::size_t>(std::max(m_shape->GetMaxCellSize(), 8)));
 }
 
-bool ProbeMesh::isOf(vtkDataSet& grid) const
+void ProbeMesh::makeSurface()
 {
-    return haveSameShape(m_grid, &grid);
+    LeftCells left;
+    const bool isExposed = m_blanked && m_part == Part::ExposedFaces;
+    if (isExposed) {
+        left = leftCells(*m_grid, [&](long cell) { return m_blanked->cells[static_cast<std::size_t>(cell)] != 0; });
+    }
+    const vtkSmartPointer<vtkPolyData> surface = surfaceOf(isExposed ? left.shape.Get() : m_grid.Get());
+    m_pointNumbers = vtkIdTypeArray::FastDownCast(surface->GetPointData()->GetAbstractArray("vtkOriginalPointIds"));
+    const auto* numbers = vtkIdTypeArray::FastDownCast(surface->GetCellData()->GetAbstractArray("vtkOriginalCellIds"));
+    m_cellNumbers.emplace(static_cast<std::size_t>(surface->GetNumberOfCells()));
+    for (std::size_t i = 0; i < m_cellNumbers->size(); ++i) {
+        const auto number = static_cast<long>(numbers->GetValue(static_cast<vtkIdType>(i)));
+        (*m_cellNumbers)[i] = isExposed ? left.numbers[static_cast<std::size_t>(number)] : number;
+    }
+    m_shape = surface;
+}
+
+void ProbeMesh::leaveOutBlanked()
+{
+    LeftCells left =
+        leftCells(*m_shape, [&](long cell) { return m_blanked->cells[static_cast<std::size_t>(zoneCell(cell))] != 0; });
+    for (long& number : left.numbers) {
+        number = zoneCell(number);
+    }
+    m_cellNumbers = std::move(left.numbers);
+    m_shape = left.shape;
+}
+
+/* Whether blanking leaves out just this part of a cell. */
+bool ProbeMesh::isTrimmed(const MeshPlace& place) const
+{
+    const auto isLeftOut = [&](const std::vector<double>& kept) {
+        double sum = 0.0;
+        for (std::size_t i = 0; i < place.points.size(); ++i) {
+            sum += place.weights[i] * kept[static_cast<std::size_t>(place.points[i])];
+        }
+        return sum <= 0.0;
+    };
+    return m_blanked && std::any_of(m_blanked->trimming.begin(), m_blanked->trimming.end(), isLeftOut);
+}
+
+bool ProbeMesh::isOf(vtkDataSet& grid, const BlankedZone* blanked) const
+{
+    return m_blanked.get() == blanked && haveSameShape(m_grid, &grid);
 }
 
 double ProbeMesh::size() const
@@ -119,12 +193,31 @@ vtkStaticCellLocator& ProbeMesh::cellLocator()
     return *m_cellLocator;
 }
 
+/* The points that are not blanked; m_leftPoints says which of the mesh they are. */
+vtkSmartPointer<vtkDataSet> ProbeMesh::leftPoints()
+{
+    const auto points = vtkSmartPointer<vtkPoints>::New();
+    points->SetDataType(VTK_DOUBLE);
+    m_leftPoints.clear();
+    for (vtkIdType point = 0; point < m_shape->GetNumberOfPoints(); ++point) {
+        if (!m_blanked->points[static_cast<std::size_t>(zonePoint(point))]) {
+            points->InsertNextPoint(m_shape->GetPoint(point));
+            m_leftPoints.push_back(point);
+        }
+    }
+    const auto left = vtkSmartPointer<vtkPolyData>::New();
+    left->SetPoints(points);
+    return left;
+}
+
 vtkStaticPointLocator& ProbeMesh::pointLocator()
 {
     if (!m_pointLocator) {
         m_pointLocator = vtkSmartPointer<vtkStaticPointLocator>::New();
-        m_pointLocator->SetDataSet(m_shape);
-        m_pointLocator->BuildLocator();
+        m_pointLocator->SetDataSet(m_blanked ? leftPoints() : m_shape);
+        if (m_pointLocator->GetDataSet()->GetNumberOfPoints() > 0) { // which the locator complains of
+            m_pointLocator->BuildLocator();
+        }
     }
     return *m_pointLocator;
 }
@@ -132,6 +225,11 @@ vtkStaticPointLocator& ProbeMesh::pointLocator()
 long ProbeMesh::zonePoint(vtkIdType meshPoint) const
 {
     return static_cast<long>(m_pointNumbers ? m_pointNumbers->GetValue(meshPoint) : meshPoint);
+}
+
+long ProbeMesh::zoneCell(long meshCell) const
+{
+    return m_cellNumbers ? (*m_cellNumbers)[static_cast<std::size_t>(meshCell)] : meshCell;
 }
 
 /* Takes corners and weights from what was evaluated last. */
@@ -167,14 +265,14 @@ bool ProbeMesh::findInside(const Position& position, MeshPlace& place, long star
     place.position = position;
     place.distance2 = 0.0;
     if (startCell >= 0 && startCell < m_shape->GetNumberOfCells() && evaluate(startCell, position, place)) {
-        return true;
+        return !isTrimmed(place);
     }
     Position parametric{};
     Position at = position;
     const vtkIdType cell = cellLocator().FindCell(at.data(), 0.0, m_cell, parametric.data(), m_weights.data());
     if (cell >= 0) {
         take(static_cast<long>(cell), place);
-        return true;
+        return !isTrimmed(place);
     }
     return false;
 }
@@ -195,14 +293,18 @@ bool ProbeMesh::findClosest(const Position& position, double radius, MeshPlace& 
     evaluate(static_cast<long>(cell), closest, place);
     place.position = closest;
     place.distance2 = distance2;
-    return place.cell == cell;
+    return place.cell == cell && !isTrimmed(place);
 }
 
 bool ProbeMesh::findNearestPoint(const Position& position, MeshPlace& place)
 {
-    const vtkIdType point = pointLocator().FindClosestPoint(position.data());
+    vtkStaticPointLocator& locator = pointLocator();
+    vtkIdType point = locator.GetDataSet()->GetNumberOfPoints() > 0 ? locator.FindClosestPoint(position.data()) : -1;
     if (point < 0) {
         return false;
+    }
+    if (m_blanked) {
+        point = m_leftPoints[static_cast<std::size_t>(point)];
     }
     vtkNew<vtkIdList> cells;
     m_shape->GetPointCells(point, cells);
@@ -250,16 +352,16 @@ CellIndex ProbeMesh::cellIndex(const Zone& zone, long meshCell) const
 {
     CellIndex index;
     if (!zone.isOrdered()) {
-        index.storage = static_cast<long>(m_cellNumbers ? m_cellNumbers->GetValue(meshCell) : meshCell);
+        index.storage = zoneCell(meshCell);
         return index;
     }
-    if (m_part != Part::Surface) {
+    if (!isSurface()) {
+        const long cell = zoneCell(meshCell);
         const auto [iMax, jMax, kMax] = zone.dimensions();
         const long iCells = std::max(iMax - 1, 1L);
         const long jCells = std::max(jMax - 1, 1L);
         const IJKPlanes_e plane = m_part == Part::FirstLayer ? IJKPlanes_K : flatPlane(zone);
-        return orderedCellIndex(zone, {meshCell % iCells, meshCell / iCells % jCells, meshCell / iCells / jCells},
-                                plane);
+        return orderedCellIndex(zone, {cell % iCells, cell / iCells % jCells, cell / iCells / jCells}, plane);
     }
     vtkNew<vtkIdList> corners;
     m_shape->GetCellPoints(meshCell, corners);
@@ -285,7 +387,7 @@ ProbedCell ProbeMesh::probedCell(const Zone& zone, long meshCell) const
         return ProbedCell::ofOrdered(zone, index);
     }
     ProbedCell cell = ProbedCell::ofElement(*vtkUnstructuredGrid::SafeDownCast(m_grid), index.storage);
-    if (m_part == Part::Surface) {
+    if (isSurface()) {
         vtkNew<vtkIdList> corners;
         m_shape->GetCellPoints(meshCell, corners);
         std::vector<long> points;
@@ -299,10 +401,15 @@ ProbedCell ProbeMesh::probedCell(const Zone& zone, long meshCell) const
 
 long ProbeMesh::findCell(const Zone& zone, const CellIndex& index) const
 {
-    if (m_part == Part::Surface) {
+    if (isSurface()) {
         return -1; // a surface has its own numbers; a search is as quick as finding one of them
     }
-    return index.storage >= 0 && index.storage < zone.cellCount() ? index.storage : -1;
+    if (!m_cellNumbers) {
+        return index.storage >= 0 && index.storage < zone.cellCount() ? index.storage : -1;
+    }
+    const auto found = std::lower_bound(m_cellNumbers->begin(), m_cellNumbers->end(), index.storage);
+    return found != m_cellNumbers->end() && *found == index.storage ? static_cast<long>(found - m_cellNumbers->begin())
+                                                                    : -1;
 }
 
 std::vector<long> ProbeMesh::cellsAround(long point)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kernel/BlankedZone.h"
 #include "kernel/probe/ProbedCell.h"
 
 #include <vtkDataSet.h>
@@ -11,6 +12,8 @@
 #include <vtkStaticPointLocator.h>
 
 #include <array>
+#include <memory>
+#include <optional>
 #include <vector>
 
 namespace vantrix::kernel {
@@ -36,16 +39,17 @@ class ProbeMesh
 public:
     enum class Part
     {
-        Cells,     /* the zone's own */
-        Surface,   /* the outer faces of a volume */
-        FirstLayer /* the first K plane of an ordered volume, which a flat plot shows */
+        Cells,        /* the zone's own */
+        Surface,      /* the outer faces of a volume */
+        ExposedFaces, /* the same, and the faces that blanking lays open */
+        FirstLayer    /* the first K plane of an ordered volume, which a flat plot shows */
     };
 
-    /* `grid` is the zone's, see zoneGrid(). */
-    ProbeMesh(const Zone& zone, vtkDataSet& grid, Part part);
+    /* `grid` is the zone's, see zoneGrid(); `blanked`, which may be null, is not found. */
+    ProbeMesh(const Zone& zone, vtkDataSet& grid, Part part, std::shared_ptr<const BlankedZone> blanked = nullptr);
 
-    /* Whether the grid still has the very points and cells that this mesh was made of. */
-    bool isOf(vtkDataSet& grid) const;
+    /* Whether the grid still has the very points and cells that this mesh was made of, and the same are blanked. */
+    bool isOf(vtkDataSet& grid, const BlankedZone* blanked) const;
 
     /* Finds the cell that holds a position, beginning with `startCell` where that is not -1. */
     bool findInside(const Position& position, MeshPlace& place, long startCell = -1);
@@ -53,7 +57,8 @@ public:
     /* Finds the place of the mesh that is closest, no further away than `radius`. */
     bool findClosest(const Position& position, double radius, MeshPlace& place);
 
-    /* Finds the point that is closest, and a cell that it is a corner of; the point counts for everything. */
+    /* Finds the point that is closest, and a cell, if there is one, that it is a corner of; the point counts for
+     * everything. */
     bool findNearestPoint(const Position& position, MeshPlace& place);
 
     /* Whether it has a cell with corners at all of these positions: that cell, or -1. */
@@ -81,17 +86,25 @@ public:
     long faceCount();
 
 private:
+    bool isSurface() const { return m_part == Part::Surface || m_part == Part::ExposedFaces; }
+    void makeSurface();
+    void leaveOutBlanked();
+    bool isTrimmed(const MeshPlace& place) const;
     bool evaluate(long cell, const Position& position, MeshPlace& place);
     void take(long cell, MeshPlace& place);
     vtkStaticCellLocator& cellLocator();
+    vtkSmartPointer<vtkDataSet> leftPoints();
     vtkStaticPointLocator& pointLocator();
     long zonePoint(vtkIdType meshPoint) const;
+    long zoneCell(long meshCell) const;
 
     Part m_part;
     vtkSmartPointer<vtkDataSet> m_grid;             /* points and cells of the zone */
     vtkSmartPointer<vtkDataSet> m_shape;            /* what is searched */
-    vtkSmartPointer<vtkIdTypeArray> m_pointNumbers; /* of a surface: those of the zone */
-    vtkSmartPointer<vtkIdTypeArray> m_cellNumbers;
+    std::shared_ptr<const BlankedZone> m_blanked;   /* null where nothing is */
+    vtkSmartPointer<vtkIdTypeArray> m_pointNumbers; /* those of the zone; null where they are the mesh's own */
+    std::optional<std::vector<long>> m_cellNumbers; /* the same; ascending but for a surface */
+    std::vector<vtkIdType> m_leftPoints;            /* those that the point locator has, where some are blanked */
     vtkSmartPointer<vtkStaticCellLocator> m_cellLocator;
     vtkSmartPointer<vtkStaticPointLocator> m_pointLocator;
     vtkNew<vtkGenericCell> m_cell;

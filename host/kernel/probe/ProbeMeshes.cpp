@@ -3,20 +3,21 @@
 #include "kernel/Document.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vantrix::kernel {
 
 std::shared_ptr<ProbeMesh> ProbeMeshes::mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
-                                             ProbeMesh::Part part)
+                                             ProbeMesh::Part part, std::shared_ptr<const BlankedZone> blanked)
 {
     const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, zone, coordinates);
-    const Key key{dataSet.id(), zone, coordinates, part};
+    const Key key{dataSet.id(), zone, coordinates, part, blanked != nullptr};
     const auto found = m_meshes.find(key);
-    if (found != m_meshes.end() && found->second->isOf(*grid)) {
+    if (found != m_meshes.end() && found->second->isOf(*grid, blanked.get())) {
         return found->second;
     }
     dropUnused();
-    return m_meshes[key] = std::make_shared<ProbeMesh>(*dataSet.zone(zone), *grid, part);
+    return m_meshes[key] = std::make_shared<ProbeMesh>(*dataSet.zone(zone), *grid, part, std::move(blanked));
 }
 
 void ProbeMeshes::dropUnused()

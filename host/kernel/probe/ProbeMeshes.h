@@ -22,14 +22,14 @@ public:
         : m_document(document)
     {}
 
-    /* The zone must be there. */
+    /* The zone must be there. What is `blanked`, which may be null, is left out. */
     std::shared_ptr<ProbeMesh> mesh(const DataSet& dataSet, long zone, const CoordinateVariables& coordinates,
-                                    ProbeMesh::Part part);
+                                    ProbeMesh::Part part, std::shared_ptr<const BlankedZone> blanked = nullptr);
 
     void clear() { m_meshes.clear(); }
 
 private:
-    using Key = std::tuple<long, long, CoordinateVariables, ProbeMesh::Part>;
+    using Key = std::tuple<long, long, CoordinateVariables, ProbeMesh::Part, bool>; /* whether some is blanked */
     void dropUnused();
 
     const Document& m_document;
