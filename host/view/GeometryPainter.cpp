@@ -1,11 +1,11 @@
 #include "view/GeometryPainter.h"
 
 #include "view/ColorMap.h"
+#include "view/GeometryShape.h"
 #include "view/LinePattern.h"
-#include "view/ObjectPlace.h"
 
 #include <QLineF>
-#include <QPainterPath>
+#include <QTransform>
 
 #include <cmath>
 
@@ -21,71 +21,19 @@ GeometryPainter::GeometryPainter(const Canvas& canvas, const QRectF& frame, cons
     , m_geometry(geometry)
 {}
 
-std::optional<QPointF> GeometryPainter::place(double x, double y, double z) const
-{
-    const auto inches = objectPlace(m_plot, m_frame.size() / m_canvas.inch, m_geometry.coordSys,
-                                    {m_geometry.x + x, m_geometry.y + y, m_geometry.z + z});
-    return inches ? std::optional(m_frame.topLeft() + *inches * m_canvas.inch) : std::nullopt;
-}
-
 double GeometryPainter::ofFrameHeight(double percent) const
 {
     return percent / 100.0 * m_frame.height() / m_canvas.inch;
 }
 
-std::vector<QPolygonF> GeometryPainter::lines() const
-{
-    std::vector<QPolygonF> found;
-    for (const auto& line : kernel::parseGeometryPoints(m_geometry.points)) {
-        QPolygonF polygon;
-        for (const kernel::GeometryPoint& point : line) {
-            if (const auto at = place(point[0], point[1], point[2])) {
-                polygon << *at;
-            }
-        }
-        if (polygon.size() > 1) {
-            found.push_back(std::move(polygon));
-        }
-    }
-    return found;
-}
-
-std::optional<QRectF> GeometryPainter::rect() const
-{
-    const bool isRound = m_geometry.type == GeomType_Circle || m_geometry.type == GeomType_Ellipse;
-    const bool isSquare = kernel::isAsHighAsWide(m_geometry.type);
-    const double before = isRound ? -0.5 : 0.0; /* of the size: the part left of and below the place */
-    const double height = isSquare ? 0.0 : m_geometry.height;
-    const auto from = place(before * m_geometry.width, before * height);
-    const auto to = place((1.0 + before) * m_geometry.width, (1.0 + before) * height);
-    if (!from || !to) {
-        return std::nullopt;
-    }
-    QRectF found = QRectF(*from, *to).normalized();
-    if (isSquare) {
-        const double middle = found.center().y();
-        found.setTop(isRound ? middle - 0.5 * found.width() : middle - found.width());
-        found.setHeight(found.width());
-    }
-    return found;
-}
-
 std::vector<QPolygonF> GeometryPainter::outlines() const
 {
-    if (m_geometry.type == GeomType_Line) {
-        return lines();
+    std::vector<QPolygonF> found = GeometryShape(m_plot, m_frame.size() / m_canvas.inch, m_geometry).outlines();
+    const QTransform onCanvas = QTransform(m_canvas.inch, 0.0, 0.0, m_canvas.inch, m_frame.left(), m_frame.top());
+    for (QPolygonF& outline : found) {
+        outline = onCanvas.map(outline);
     }
-    const auto area = rect();
-    if (!area) {
-        return {};
-    }
-    QPainterPath path;
-    if (m_geometry.type == GeomType_Circle || m_geometry.type == GeomType_Ellipse) {
-        path.addEllipse(*area);
-    } else {
-        path.addRect(*area);
-    }
-    return {path.toFillPolygon()};
+    return found;
 }
 
 QPointF GeometryPainter::arrowBase(QPointF tip, QPointF from) const

@@ -6,15 +6,13 @@
 
 #include <QPolygonF>
 
-#include <optional>
 #include <vector>
 
 namespace vantrix::view {
 
 /*
  * Paints a geometry of a frame. `frame` is the frame's rectangle in the canvas' logical units; a place in data
- * coordinates needs the plot that was painted there. What has no place on the paper, such as a line in 3D coordinates
- * while the plot is flat, is not painted.
+ * coordinates needs the plot that was painted there. What has no shape there (see GeometryShape) is not painted.
  */
 class GeometryPainter
 {
@@ -23,13 +21,10 @@ public:
 
     void paint() const;
 
-    /* What is drawn: each line, or the closed outline. */
+    /* Each line, or the closed outline, in the canvas' logical units. */
     std::vector<QPolygonF> outlines() const;
 
 private:
-    std::optional<QPointF> place(double x, double y, double z = 0.0) const;
-    std::vector<QPolygonF> lines() const;
-    std::optional<QRectF> rect() const;
     double ofFrameHeight(double percent) const; /* in inches */
 
     QPointF arrowBase(QPointF tip, QPointF from) const;

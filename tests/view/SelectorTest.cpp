@@ -17,6 +17,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace vantrix;
 
 namespace {
@@ -263,7 +265,9 @@ TEST_F(SelectorTest, GeometriesAreDrawnByDragging)
     EXPECT_NEAR(drawn.width, 20.0, 0.5);
     EXPECT_NEAR(drawn.height, 40.0, 0.5);
 
-    drag(at(30, 60), at(50, 60), Qt::AltModifier); // the selector is back, the outline is under the pointer
+    const double diagonal = std::sqrt(0.5); // the outline, between two handles
+    const QPointF onOutline = at(30 + 10 * diagonal, 40 + 20 * diagonal);
+    drag(onOutline, onOutline + at(20, 0) - at(0, 0), Qt::AltModifier); // the selector is back
     EXPECT_NEAR(kernel().geometries().find(ellipse)->x, 50.0, 0.5);
     EXPECT_EQ(kernel().undoStack().undoName(), "Move Geometry");
 
@@ -282,6 +286,61 @@ TEST_F(SelectorTest, GeometriesAreDrawnByDragging)
     QTest::keyClick(m_area.get(), Qt::Key_Escape);
     drag(at(60, 80), at(70, 90));
     EXPECT_EQ(VtxUtilGeometryGetNext(ellipse), 0) << "Escape ended it";
+}
+
+TEST_F(SelectorTest, GeometriesAreResizedByTheirHandles)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const auto create = [&](std::vector<VtxArgList::Argument> values) {
+        long handle = 0;
+        VtxArgList list{std::move(values)};
+        list.arguments.push_back({"Result", &handle});
+        const kernel::ActionLock lock(kernel().lock());
+        EXPECT_TRUE(VtxUtilGeometrySetX(&list)) << kernel().lastError();
+        VtxUtilPickClear();
+        VtxUtilPickGeometry(handle);
+        m_area->repaint();
+        return handle;
+    };
+    const auto shown = [&](long handle) { return *kernel().geometries().find(handle); };
+    const auto at = [&](double across, double up) {
+        const QRectF frame = activeRect();
+        return frame.bottomLeft() + QPointF(across / 100.0 * frame.width(), -up / 100.0 * frame.height());
+    };
+    const long ellipse = create({{"GeomType", long{GeomType_Ellipse}}, {"XPos", 30.0}, {"YPos", 40.0}});
+    drag(at(35, 40), at(45, 60), Qt::AltModifier); // the middle of the right side
+    EXPECT_NEAR(shown(ellipse).x, 35.0, 0.5);
+    EXPECT_NEAR(shown(ellipse).width, 20.0, 0.5);
+    EXPECT_NEAR(shown(ellipse).height, 10.0, 1e-9);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Resize Geometry");
+    drag(at(25, 45), at(15, 55), Qt::AltModifier); // the upper left corner
+    EXPECT_NEAR(shown(ellipse).x, 30.0, 0.5);
+    EXPECT_NEAR(shown(ellipse).width, 30.0, 0.5);
+    EXPECT_NEAR(shown(ellipse).y, 45.0, 0.5);
+    EXPECT_NEAR(shown(ellipse).height, 20.0, 0.5);
+    drag(at(45, 45), at(0, 45), Qt::AltModifier);
+    EXPECT_GT(shown(ellipse).width, 0.0) << "it does not turn over";
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_TRUE(VtxUtilUndo());
+    }
+    EXPECT_EQ(shown(ellipse).width, 10.0) << "each drag is one step";
+
+    const double aspect = activeRect().width() / activeRect().height();
+    const long square = create({{"GeomType", long{GeomType_Square}}, {"XPos", 50.0}, {"YPos", 50.0}, {"Width", 20.0}});
+    drag(at(50, 50), at(40, 50), Qt::AltModifier); // the lower left corner
+    EXPECT_NEAR(shown(square).x, 40.0, 0.5);
+    EXPECT_NEAR(shown(square).width, 30.0, 0.5);
+    EXPECT_NEAR(shown(square).y, 50.0 - 10.0 * aspect, 0.7) << "the upper right corner stays";
+
+    const long line =
+        create({{"GeomType", long{GeomType_Line}}, {"XPos", 10.0}, {"YPos", 20.0}, {"Points", "0 0; 10 0; 10 10"}});
+    drag(at(20, 20), at(30, 15), Qt::AltModifier);
+    const auto points = kernel::parseGeometryPoints(shown(line).points).front();
+    EXPECT_EQ(points[0], (kernel::GeometryPoint{0.0, 0.0, 0.0}));
+    EXPECT_NEAR(points[1][0], 20.0, 0.5);
+    EXPECT_NEAR(points[1][1], -5.0, 0.5);
+    EXPECT_EQ(points[2], (kernel::GeometryPoint{10.0, 10.0, 0.0}));
+    EXPECT_EQ(kernel().undoStack().undoName(), "Move Point");
 }
 
 TEST_F(SelectorTest, CtrlRunsTheMacroFunctionOfAText)

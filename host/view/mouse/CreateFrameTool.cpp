@@ -15,27 +15,21 @@
 
 namespace vantrix::view {
 
-QPointF CreateFrameTool::corner(const QMouseEvent& event) const
-{
-    const QPointF place = context().paper.toPaper(event.position());
-    return event.modifiers() & Qt::AltModifier ? place : context().snapped(place);
-}
-
 void CreateFrameTool::press(const QMouseEvent& event)
 {
     m_isDragging = context().page() != nullptr;
-    m_from = m_to = corner(event);
+    m_from = m_to = context().pointedPlace(event);
 }
 
 void CreateFrameTool::drag(const QMouseEvent& event)
 {
-    m_to = corner(event);
+    m_to = context().pointedPlace(event);
     context().widget.update();
 }
 
 void CreateFrameTool::release(const QMouseEvent& event)
 {
-    m_to = corner(event);
+    m_to = context().pointedPlace(event);
     const QRectF rect = QRectF(m_from, m_to).normalized();
     if (!std::exchange(m_isDragging, false) || rect.isEmpty()) {
         return;

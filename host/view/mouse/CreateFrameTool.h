@@ -20,8 +20,6 @@ public:
     Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
 
 private:
-    QPointF corner(const QMouseEvent& event) const;
-
     bool m_isDragging = false;
     QPointF m_from; /* inches of the paper */
     QPointF m_to;

@@ -41,22 +41,16 @@ QPointF straightened(QPointF way)
 
 } // namespace
 
-QPointF InsertTool::corner(const QMouseEvent& event) const
-{
-    const QPointF place = context().paper.toPaper(event.position());
-    return event.modifiers() & Qt::AltModifier ? place : context().snapped(place);
-}
-
 void InsertTool::press(const QMouseEvent& event)
 {
     m_isDragging = context().frame() && context().frameAt(event.position()) != 0;
-    m_from = m_to = corner(event);
+    m_from = m_to = context().pointedPlace(event);
 }
 
 void InsertTool::moveTo(const QMouseEvent& event)
 {
     m_isRegular = event.modifiers() & Qt::ShiftModifier;
-    const QPointF way = corner(event) - m_from;
+    const QPointF way = context().pointedPlace(event) - m_from;
     const QPointF regular = m_type == GeomType_Line ? straightened(way) : squared(way);
     m_to = m_from + (m_isRegular ? regular : way);
 }
@@ -93,12 +87,9 @@ bool InsertTool::keyPress(const QKeyEvent& event)
 
 void InsertTool::insert()
 {
-    const QRectF frame = context().renderer.frameRect(*context().frame());
-    const auto position = [&](QPointF paper) { // % of the frame, from its lower left corner
-        return QPointF(100.0 * (paper.x() - frame.left()) / frame.width(),
-                       100.0 * (frame.bottom() - paper.y()) / frame.height());
-    };
-    const QRectF area = QRectF(position(m_from), position(m_to)).normalized();
+    const QPointF from = context().percentOfFrame(m_from);
+    const QPointF to = context().percentOfFrame(m_to);
+    const QRectF area = QRectF(from, to).normalized();
     QPointF place = area.topLeft();
     GeomType_e type = m_type;
     if (m_isRegular && type != GeomType_Line) {
@@ -110,8 +101,8 @@ void InsertTool::insert()
     };
     add("GeomType", long{type});
     if (type == GeomType_Line) {
-        place = position(m_from);
-        const QPointF way = position(m_to) - place;
+        place = from;
+        const QPointF way = to - from;
         add("Points", kernel::geometryPointsText({{{0.0, 0.0, 0.0}, {way.x(), way.y(), 0.0}}}));
         add("ArrowheadAttachment", long{m_hasArrowhead ? ArrowheadAttachment_End : ArrowheadAttachment_None});
         add("ArrowheadStyle", long{ArrowheadStyle_Filled});

@@ -32,7 +32,6 @@ public:
     Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
 
 private:
-    QPointF corner(const QMouseEvent& event) const;
     void moveTo(const QMouseEvent& event);
     void insert();
 

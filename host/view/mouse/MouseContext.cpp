@@ -3,13 +3,18 @@
 #include "api/VtxUtilDocument.h"
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Kernel.h"
+#include "view/BoxHandles.h"
+#include "view/GeometryShape.h"
 #include "view/PaperSpacing.h"
 #include "view/PaperStyle.h"
 #include "view/WorkArea.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vantrix::view {
@@ -57,6 +62,18 @@ QPointF MouseContext::snapped(QPointF place) const
     return {std::round(place.x() / spacing) * spacing, std::round(place.y() / spacing) * spacing};
 }
 
+QPointF MouseContext::pointedPlace(const QMouseEvent& event) const
+{
+    const QPointF place = paper.toPaper(event.position());
+    return event.modifiers() & Qt::AltModifier ? place : snapped(place);
+}
+
+QPointF MouseContext::percentOfFrame(QPointF place) const
+{
+    const QRectF rect = renderer.frameRect(*frame());
+    return {100.0 * (place.x() - rect.left()) / rect.width(), 100.0 * (rect.bottom() - place.y()) / rect.height()};
+}
+
 std::optional<kernel::PickedObject> MouseContext::objectAt(QPointF place) const
 {
     constexpr double reach = 5.0; /* pixels */
@@ -102,11 +119,13 @@ QPolygonF MouseContext::handles(const kernel::PickedObject& object) const
     }
     const QRectF rect = renderer.frameRect(*owner);
     QPolygonF places;
+    const FramePlot* plot = renderer.plot(object.frameId);
+    const kernel::Geometry* geometry =
+        object.type == PickObject_Geometry ? kernel.geometries().find(object.number) : nullptr;
     if (object.type == PickObject_Frame) {
-        const QPointF middle = rect.center();
-        places << rect.topLeft() << QPointF(middle.x(), rect.top()) << rect.topRight()
-               << QPointF(rect.right(), middle.y()) << rect.bottomRight() << QPointF(middle.x(), rect.bottom())
-               << rect.bottomLeft() << QPointF(rect.left(), middle.y());
+        places = boxHandles(rect);
+    } else if (geometry && plot) {
+        places = GeometryShape(*plot, rect.size(), *geometry).handles().translated(rect.topLeft());
     } else {
         places = renderer.handles(object).translated(rect.topLeft());
     }
@@ -120,6 +139,23 @@ QRectF MouseContext::handleRect(QPointF place)
 {
     constexpr double half = 3.5;
     return {place - QPointF(half, half), QSizeF(2.0 * half, 2.0 * half)};
+}
+
+int MouseContext::handleAt(const kernel::PickedObject& object, QPointF place) const
+{
+    constexpr double reach = 3.0; /* pixels around a handle */
+    const QPolygonF places = handles(object);
+    const auto isThere = [&](QPointF handle) {
+        return handleRect(handle).adjusted(-reach, -reach, reach, reach).contains(place);
+    };
+    const auto found = std::find_if(places.begin(), places.end(), isThere);
+    return found != places.end() ? int(found - places.begin()) : -1;
+}
+
+bool MouseContext::isDrag(QPointF way)
+{
+    constexpr double leastPixels = 3.0;
+    return way.manhattanLength() > leastPixels;
 }
 
 void MouseContext::paintRubberBand(QPainter& painter, QPointF from, QPointF to)

@@ -10,6 +10,8 @@
 
 #include <optional>
 
+class QMouseEvent;
+
 namespace vantrix::view {
 
 class WorkArea;
@@ -42,6 +44,12 @@ public:
     /* The nearest point of the paper's grid while it is shown, else the place itself; in inches of the paper. */
     QPointF snapped(QPointF place) const;
 
+    /* Where on the paper the pointer is: as snapped() has it, but with Alt the place itself. */
+    QPointF pointedPlace(const QMouseEvent& event) const;
+
+    /* A place on the paper in % of the active frame's width and height, from its lower left corner. */
+    QPointF percentOfFrame(QPointF paper) const;
+
     /* What is seen at a place in the widget: a frame at least; nothing beside the frames. */
     std::optional<kernel::PickedObject> objectAt(QPointF place) const;
 
@@ -54,10 +62,16 @@ public:
     /* Ends a change of view that is under way: it is one step of undo, and the plot is drawn in full detail again. */
     void endGesture();
 
-    /* Where a picked object shows handles, in the widget. Those of a frame: corners and middles of the sides, clockwise
-     * from the upper left corner. */
+    /* Where a picked object shows handles, in the widget: those of frames are in the order of BoxHandles.h, those of
+     * geometries in that of GeometryShape. */
     QPolygonF handles(const kernel::PickedObject& object) const;
     static QRectF handleRect(QPointF place);
+
+    /* The number of the handle at a place in the widget, from 0; -1 where there is none. */
+    int handleAt(const kernel::PickedObject& object, QPointF place) const;
+
+    /* Whether the mouse moved far enough, in pixels, for more than a click. */
+    static bool isDrag(QPointF way);
 
     /* A dashed rectangle between two places. */
     static void paintRubberBand(QPainter& painter, QPointF from, QPointF to);

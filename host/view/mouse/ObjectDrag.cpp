@@ -80,8 +80,7 @@ ObjectDrag ObjectDrag::begin(const MouseContext& context, QPointF place)
 
 void ObjectDrag::drag(MouseContext& context, QPointF place, bool isFree)
 {
-    constexpr double leastPixels = 3.0; /* below that it was a click */
-    m_isMoving = m_isMoving || (place - m_start).manhattanLength() > leastPixels;
+    m_isMoving = m_isMoving || MouseContext::isDrag(place - m_start);
     if (!m_isMoving) {
         return;
     }

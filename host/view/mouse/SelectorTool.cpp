@@ -23,18 +23,28 @@ void SelectorTool::press(const QMouseEvent& event)
         return;
     }
     if (!collect) {
+        m_resize = GeometryResize::begin(context(), event.position());
+    }
+    if (!collect && !isBegun()) {
         begin(event.position());
     }
-    if (!m_drag.isBegun() && !m_objects.isBegun()) {
+    if (!isBegun()) {
         pick(event.position(), collect);
         begin(event.position());
     }
 }
 
+bool SelectorTool::isBegun() const
+{
+    return m_resize.isBegun() || m_drag.isBegun() || m_objects.isBegun();
+}
+
 void SelectorTool::drag(const QMouseEvent& event)
 {
     const bool isFree = event.modifiers() & Qt::AltModifier;
-    if (m_drag.isBegun()) {
+    if (m_resize.isBegun()) {
+        m_resize.drag(context(), event.position(), isFree);
+    } else if (m_drag.isBegun()) {
         m_drag.drag(context(), event.position(), isFree);
     } else if (m_objects.isBegun()) {
         m_objects.drag(context(), event.position(), isFree);
@@ -48,6 +58,7 @@ void SelectorTool::release(const QMouseEvent& /*event*/)
 
 void SelectorTool::cancel()
 {
+    m_resize = {};
     m_drag = {};
     m_objects = {};
 }
@@ -84,7 +95,8 @@ void SelectorTool::begin(QPointF place)
 
 void SelectorTool::hover(QPointF place)
 {
-    context().widget.setCursor(FrameDrag::byHandle(context(), place).cursor());
+    const GeometryResize resize = GeometryResize::begin(context(), place);
+    context().widget.setCursor(resize.isBegun() ? resize.cursor() : FrameDrag::byHandle(context(), place).cursor());
 }
 
 void SelectorTool::pick(QPointF place, bool collect)
