@@ -47,6 +47,10 @@ InsertMenu::InsertMenu(QMenu* menu, view::WorkArea& workArea)
     : QObject(menu)
     , m_updater(mayConcernFrames, [this] { update(); })
 {
+    QAction* text =
+        addHostAction(*menu, tr("&Text..."), u"insertTextAction"_s, [] { return VtxUtilMouseSetMode(MouseMode_Text); });
+    text->setStatusTip(tr("Click in a frame to put a text there"));
+    m_actions << text;
     for (const Entry& entry : entries) {
         const auto begin = [&entry, &workArea] {
             const bool isReady = VtxUtilMouseSetMode(MouseMode_Selector);

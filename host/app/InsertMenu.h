@@ -13,7 +13,7 @@ class WorkArea;
 
 namespace vantrix::app {
 
-/* Geometries that are drawn with the mouse in a frame. */
+/* Texts and geometries that are put into a frame with the mouse. */
 class InsertMenu : public QObject
 {
     Q_OBJECT

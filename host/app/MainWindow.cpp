@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "api/VtxUtilDocument.h"
+#include "api/VtxUtilPick.h"
 #include "app/AutoSave.h"
 #include "app/DataOpener.h"
 #include "app/HelpWindow.h"
@@ -13,6 +14,7 @@
 #include "app/RecentFiles.h"
 #include "app/SideBar.h"
 #include "app/StatusLine.h"
+#include "app/TextPlacement.h"
 #include "app/ToolTipFilter.h"
 #include "app/WindowFrontEnd.h"
 #include "dialogs/DialogRegistry.h"
@@ -76,6 +78,7 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     , m_recentFiles(new RecentFiles(this))
     , m_layoutFiles(new LayoutFiles(kernel, *this))
     , m_autoSave(new AutoSave(kernel.layout(), AutoSave::defaultFolder(), this))
+    , m_textPlacement(new TextPlacement(this))
     , m_frontEnd(std::make_unique<WindowFrontEnd>(
           WindowFrontEnd::Parts{*this, *m_statusLine, *m_helpWindow, [this] { m_workArea->fitPaper(); }}))
     , m_titleUpdater(mayConcernTitle, [this] { updateTitle(); })
@@ -98,6 +101,7 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     connect(m_workArea, &view::WorkArea::coordinatesChanged, m_statusLine, &StatusLine::setCoordinates);
     connect(m_workArea, &view::WorkArea::statusMessage, m_statusLine, &StatusLine::setText);
     connect(m_workArea, &view::WorkArea::objectActivated, this, &MainWindow::activateObject);
+    connect(m_workArea, &view::WorkArea::textPlaceClicked, m_textPlacement, &TextPlacement::place);
     connect(m_recentFiles, &RecentFiles::chosen, this, &MainWindow::openFiles);
     qApp->installEventFilter(new ToolTipFilter(this));
     m_kernel.setFrontEnd(m_frontEnd.get());
@@ -169,7 +173,9 @@ void MainWindow::offerRecovery()
 
 void MainWindow::activateObject(PickObject_e type)
 {
-    if (!sdk::ui::dialogs::launchDialogForPicked(type, *this))
+    if (type == PickObject_Text)
+        m_textPlacement->edit(VtxUtilPickListGetText(1));
+    else if (!sdk::ui::dialogs::launchDialogForPicked(type, *this))
         m_statusLine->setText(tr("There is no dialog for what was clicked."));
 }
 

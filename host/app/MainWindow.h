@@ -21,6 +21,7 @@ class HelpWindow;
 class LayoutFiles;
 class RecentFiles;
 class StatusLine;
+class TextPlacement;
 class WindowFrontEnd;
 
 /*
@@ -77,6 +78,7 @@ private:
     RecentFiles* m_recentFiles;
     LayoutFiles* m_layoutFiles;
     AutoSave* m_autoSave;
+    TextPlacement* m_textPlacement;
     std::unique_ptr<WindowFrontEnd> m_frontEnd;
     sdk::OnIdleAfterStateChangeActionPerformer m_titleUpdater;
     sdk::OnIdleAfterStateChangeActionPerformer m_memoryTidier;

@@ -34,6 +34,8 @@ const Mode modes[] = {
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag to turn a 3D plot"), "rotate", Qt::Key_R},
     {MouseMode_Probe, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Probe"),
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to see the values at a place"), "probe", Qt::Key_P},
+    {MouseMode_Text, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Te&xt"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click in a frame to put a text there"), "text", Qt::Key_X},
 };
 
 } // namespace
@@ -44,7 +46,7 @@ MouseModeBar::MouseModeBar(QWidget* parent)
     , m_updater([](const toolbox::StateChangeEventInterface&) { return true; }, [this] { update(); })
 {
     setObjectName(u"mouseModeBar"_s);
-    // None is down while another mode is on, such as placing texts.
+    // None is down while another mode is on, such as creating frames.
     m_modes->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (const Mode& mode : modes) {
         const QIcon icon(u":/vxplot/icons/%1.svg"_s.arg(QLatin1StringView(mode.icon)));

@@ -19,6 +19,7 @@
 #include "view/mouse/ProbeTool.h"
 #include "view/mouse/RotateTool.h"
 #include "view/mouse/SelectorTool.h"
+#include "view/mouse/TextTool.h"
 #include "view/mouse/TranslateTool.h"
 #include "view/mouse/ZoomTool.h"
 
@@ -52,9 +53,8 @@ struct WorkArea::Impl : kernel::PickSurface
         tools[MouseMode_Rotate] = std::make_unique<RotateTool>(context);
         tools[MouseMode_CreateFrame] = std::make_unique<CreateFrameTool>(context);
         tools[MouseMode_Probe] = std::make_unique<ProbeTool>(context);
-        for (const MouseMode_e mode : {MouseMode_Text, MouseMode_Streamtrace}) {
-            tools[mode] = std::make_unique<ClickTool>(context, mode);
-        }
+        tools[MouseMode_Text] = std::make_unique<TextTool>(context);
+        tools[MouseMode_Streamtrace] = std::make_unique<ClickTool>(context, MouseMode_Streamtrace);
         kernel.stateChanges().addListener(&Impl::stateChanged, this);
         kernel.pickList().setSurface(this);
         wheelTimer.setSingleShot(true);

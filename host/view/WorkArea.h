@@ -19,7 +19,8 @@ class PageRenderer;
  *
  * It listens to the kernel's state changes and repaints on the next turn of the event loop, once for any number of
  * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate, rotate and
- * probe are handled here, of the other modes a click is passed on by clickedInMode(). Everywhere the wheel zooms the
+ * probe are handled here, of text placement the place is told by textPlaceClicked(), of the other modes a click by
+ * clickedInMode(). Everywhere the wheel zooms the
  * plot under the pointer, with Ctrl the paper; the middle button moves the plot, a double click fits it. A change of
  * view writes style values; a whole drag is one step of undo.
  */
@@ -74,6 +75,10 @@ Q_SIGNALS:
      * in 2D; in 3D the first surface point under the pointer. `hit` is false when there is nothing there.
      */
     void clickedInMode(MouseMode_e mode, long frameId, double x, double y, double z, bool hit);
+
+    /* A click in text placement mode: the place of a text of the active frame, in % of the frame's width and height
+     * from its lower left corner. */
+    void textPlaceClicked(double x, double y);
 
     /* An object was double-clicked in selector mode and is picked; whoever runs the dialogs may offer to edit it. */
     void objectActivated(PickObject_e type);

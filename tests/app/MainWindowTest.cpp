@@ -1,7 +1,10 @@
 #include "app/MainWindow.h"
 
 #include "api/VtxUtil.h"
+#include "kernel/Document.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/FrontEnd.h"
+#include "kernel/Kernel.h"
 #include "toolbox/Set.h"
 #include "view/PageRenderer.h"
 #include "view/WorkArea.h"
@@ -23,6 +26,7 @@
 #include <QTextBrowser>
 
 #include <functional>
+#include <utility>
 
 namespace vantrix::test {
 namespace {
@@ -194,6 +198,85 @@ TEST_F(MainWindowTest, TheSideBarShowsAndSetsPlotTypeAndLayers)
     QTest::keyClick(plotType, Qt::Key_Down);
     settle();
     EXPECT_EQ(VtxUtilFrameGetPlotType(), PlotType_Cartesian2D);
+    EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
+TEST_F(MainWindowTest, ATextIsPutWhereItIsClickedAndChangedByADoubleClick)
+{
+    ASSERT_TRUE(window.openSample(u"fe2d"_s));
+    settle();
+    const auto rect = [this] {
+        return window.workArea().renderer().frameRect(*kernel::Kernel::instance().document().activeFrame());
+    };
+    QPoint place = window.workArea().toWidget(rect().center()).toPoint();
+    /* Does a click, and what the dialog needs that opens then. */
+    const auto clickAnd = [&](const std::function<void(QDialog&)>& answer, const auto& click) {
+        QTimer timer;
+        bool isAsked = false;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog && !dialog->isActiveWindow())
+                QApplication::setActiveWindow(dialog);
+            else if (dialog && dialog->focusWidget() && !std::exchange(isAsked, true))
+                answer(*dialog);
+        });
+        timer.start(20);
+        click(&window.workArea(), Qt::LeftButton, Qt::AltModifier, place, -1);
+        settle();
+        EXPECT_TRUE(isAsked);
+    };
+    const auto click = [](auto... arguments) { QTest::mouseClick(arguments...); };
+    const auto type = [](QDialog& dialog, const QString& words) {
+        QTest::keyClicks(dialog.findChild<QWidget*>(u"textWords"_s), words);
+    };
+    clickMenu({u"Insert"_s, u"Text..."_s});
+    EXPECT_TRUE(action("mouseMode_text").isChecked());
+    clickAnd(
+        [&](QDialog& dialog) {
+            type(dialog, u"lost"_s);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        },
+        click);
+    clickAnd(
+        [](QDialog& dialog) {
+            EXPECT_FALSE(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled());
+            dialog.reject();
+        },
+        click);
+    EXPECT_EQ(VtxUtilTextGetFirst(), 0) << "Escape, or no words";
+
+    VtxUtilMacroRecordStart(path("text.macro").toUtf8().constData());
+    clickAnd(
+        [&](QDialog& dialog) {
+            type(dialog, u"two"_s);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+            type(dialog, u"lines"_s);
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+        },
+        click);
+    VtxUtilMacroRecordStop();
+    const long text = VtxUtilTextGetFirst();
+    const kernel::Text* placed = kernel::Kernel::instance().texts().find(text);
+    ASSERT_NE(placed, nullptr);
+    EXPECT_EQ(placed->text, "two\nlines");
+    EXPECT_NEAR(placed->x, 50.0, 0.5);
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Selector);
+    EXPECT_EQ(VtxUtilPickListGetText(1), text);
+    EXPECT_EQ(plainText(action("undoAction")), u"Undo Insert Text"_s);
+
+    place += QPoint(8, -4); // into the words
+    clickAnd([&](QDialog& dialog) { type(dialog, u"one"_s), dialog.accept(); },
+             [](auto... arguments) {
+                 QTest::mouseClick(arguments...);
+                 QTest::mouseDClick(arguments...);
+             });
+    EXPECT_EQ(kernel::Kernel::instance().texts().find(text)->text, "one") << "what was there is selected";
+    VtxUtilUndo();
+    EXPECT_EQ(kernel::Kernel::instance().texts().find(text)->text, "two\nlines");
+    VtxUtilUndo();
+    EXPECT_EQ(VtxUtilTextGetFirst(), 0);
+    ASSERT_TRUE(window.playMacro(path("text.macro")));
+    EXPECT_EQ(kernel::Kernel::instance().texts().find(VtxUtilTextGetFirst())->text, "two\nlines");
     EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
 }
 

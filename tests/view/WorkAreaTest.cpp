@@ -110,17 +110,19 @@ TEST(WorkArea, TellsWhereThePointerIs)
     EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("Paper: ")));
 }
 
-TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndPassesOtherModesOn)
+TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndTellsThePlaceOfATextInIt)
 {
     ShownSample sample("fe2d", PlotType_Cartesian2D);
     const long first = sample.frame().id();
     ShownWorkArea shown(sample);
-    QSignalSpy spy(&shown.area, &view::WorkArea::clickedInMode);
+    QSignalSpy spy(&shown.area, &view::WorkArea::textPlaceClicked);
     ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Text));
-    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, shown.place(0.45, 0.5));
+    QTest::mouseClick(&shown.area, Qt::LeftButton, Qt::AltModifier, shown.place(0.45, 0.3));
     ASSERT_EQ(spy.size(), 1);
-    EXPECT_EQ(spy.at(0).at(1).value<long>(), first);
-    EXPECT_TRUE(spy.at(0).at(5).toBool());
+    EXPECT_NEAR(spy.at(0).at(0).toDouble(), 45.0, 0.2);
+    EXPECT_NEAR(spy.at(0).at(1).toDouble(), 70.0, 0.2) << "upwards";
+    QTest::mouseClick(&shown.area, Qt::LeftButton, {}, QPoint(2, 2));
+    EXPECT_EQ(spy.size(), 1) << "beside the frames";
 
     sample.kernel.lock().start(true);
     const vantrix::kernel::Frame* second = sample.kernel.document().addFrame();
