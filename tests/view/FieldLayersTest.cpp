@@ -1,3 +1,5 @@
+#include "api/VtxUtilData.h"
+#include "kernel/ApplicationLock.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
@@ -9,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -266,6 +269,139 @@ TEST_F(FieldLayers, NumberContourLines)
         sample->set("GlobalContour/Labels/Skip", 2L, 1);
         EXPECT_LT(count(image(), Qt::red), all) << "the level 1 has no label any more";
     }
+}
+
+TEST_F(FieldLayers, EdgesAreSeenWholeHoweverSteepTheFacesAre)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    constexpr std::array<double, 3> size{10.0, 4.0, 9.0};
+    {
+        const kernel::ActionLock lock(sample->kernel.lock());
+        ASSERT_TRUE(VtxUtilCreateRectangularZone(9, 9, 9, 0, 0, 0, size[0], size[1], size[2], FieldDataType_Double));
+    }
+    const long box = VtxUtilDataSetGetNumZones();
+    sample->set("ActiveFieldMaps", 0L, 1);
+    sample->set("FieldLayers/ShowShade", 1L);
+    sample->set("FieldLayers/ShowEdge", 1L);
+    sample->set("FieldMap/Shade/Color", blue, box);
+    sample->set("FieldMap/Edge/Color", red, box);
+    sample->set("ThreeDView/DrawInPerspective", 0L);
+    for (const double psi : {80.0, 85.0, 60.0}) {
+        for (const double theta : {263.0, 240.0, 184.0}) {
+            SCOPED_TRACE(std::to_string(psi) + ' ' + std::to_string(theta));
+            sample->set("ThreeDView/PsiAngle", psi);
+            sample->set("ThreeDView/ThetaAngle", theta);
+            const QImage picture = renderer->frameImage(sample->frame(), 600);
+            const view::FramePlot& plot = *renderer->plot(sample->frame().id());
+            const double inch = picture.width() / plot.frameSize.width();
+            const auto isRedNear = [&](QPointF place) {
+                for (int y = -1; y <= 1; ++y) {
+                    for (int x = -1; x <= 1; ++x) {
+                        const QPoint at = place.toPoint() + QPoint(x, y);
+                        const QColor color = picture.valid(at) ? picture.pixelColor(at) : QColor();
+                        if (color.red() > color.green() + 30 && color.red() > color.blue()) {
+                            return true;
+                        }
+                    }
+                }
+                return false;
+            };
+            /* Of the edge from one corner along an axis, the part that is seen. */
+            const auto seenPart = [&](std::array<double, 3> from, std::size_t axis) {
+                int seen = 0;
+                constexpr int steps = 200;
+                for (int i = 1; i < steps; ++i) {
+                    from[axis] = size[axis] * i / steps;
+                    const auto place = plot.placeOf(from);
+                    seen += place && isRedNear(*place * inch) ? 1 : 0;
+                }
+                return double(seen) / (steps - 1);
+            };
+            int whole = 0;
+            for (std::size_t axis = 0; axis < 3; ++axis) {
+                for (unsigned corner = 0; corner < 4; ++corner) {
+                    std::array<double, 3> from{};
+                    from[(axis + 1) % 3] = corner & 1U ? size[(axis + 1) % 3] : 0.0;
+                    from[(axis + 2) % 3] = corner & 2U ? size[(axis + 2) % 3] : 0.0;
+                    whole += seenPart(from, axis) > 0.99 ? 1 : 0;
+                }
+            }
+            EXPECT_EQ(whole, 9) << "three edges are hidden";
+        }
+    }
+}
+
+TEST_F(FieldLayers, LightLeavesAsMuchOfAColourAsItIsTold)
+{
+    show("fe2d", PlotType_Cartesian3D);
+    sample->set("FieldLayers/ShowShade", 1L);
+    sample->set("FieldMap/Shade/Color", green, 1);
+    sample->set("FieldMap/Shade/Color", green, 2);
+    const auto saturation = [&] { // of the strongest colour
+        const QImage picture = image();
+        int most = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                most = std::max(most, picture.pixelColor(x, y).hsvSaturation());
+            }
+        }
+        return most;
+    };
+    sample->set("GlobalThreeD/LightSource/IncludeSpecularHighlights", 0L);
+    const int whole = saturation();
+    EXPECT_GT(whole, 240);
+    sample->set("GlobalThreeD/LightSource/SurfaceColorContrast", 30.0);
+    EXPECT_LT(saturation(), whole / 2);
+    sample->set("FieldLayers/ShowContour", 1L);
+    sample->set("GlobalContour/Legend/Show", 0L, 1); // whose colours are those without light
+    const int paleFlood = saturation();
+    sample->set("GlobalThreeD/LightSource/SurfaceColorContrast", 100.0);
+    EXPECT_GT(saturation(), paleFlood);
+    sample->set("GlobalThreeD/LightSource/SurfaceColorContrast", 30.0);
+    sample->set("FieldLayers/UseLightingEffect", 0L);
+    EXPECT_GT(saturation(), paleFlood) << "no light, no contrast of its own";
+}
+
+TEST_F(FieldLayers, LightForcesTheShadingOfFloods)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    sample->set("FieldLayers/ShowContour", 1L);
+    sample->set("FieldMap/Effects/LightingEffect", long{LightingEffect_Gouraud}, 1);
+    const QImage smooth = image();
+    sample->set("FieldMap/Effects/LightingEffect", long{LightingEffect_Paneled}, 1);
+    const QImage paneled = image();
+    EXPECT_NE(smooth, paneled);
+    sample->set("GlobalThreeD/LightSource/ForceGouraudShading", 1L);
+    EXPECT_EQ(image(), smooth);
+    sample->set("GlobalThreeD/LightSource/ForceGouraudShading", 0L);
+    sample->set("FieldMap/Effects/LightingEffect", long{LightingEffect_Gouraud}, 1);
+    sample->set("GlobalThreeD/LightSource/ForcePanelShading", 1L);
+    EXPECT_EQ(image(), paneled);
+}
+
+TEST_F(FieldLayers, HaveALegendOfSymbols)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    sample->set("FieldLayers/ShowScatter", 1L);
+    for (long zone = 1; zone <= 2; ++zone) {
+        sample->set("FieldMap/Scatter/Color", zone == 1 ? red : blue, zone);
+        sample->set("FieldMap/Scatter/FillColor", zone == 1 ? red : blue, zone);
+        sample->set("FieldMap/Points/ISkip", 1000000L, zone); // symbols in the legend alone, but for one
+    }
+    const int red0 = count(image(), Qt::red);
+    const double alone = renderer->plot(sample->frame().id())->area.width();
+    sample->set("GlobalScatter/Legend/Show", 1L);
+    const QImage both = image();
+    EXPECT_LT(renderer->plot(sample->frame().id())->area.width(), alone) << "it stands beside the plot";
+    EXPECT_GT(count(both, Qt::red), red0);
+    EXPECT_GT(count(both, Qt::blue), 0);
+    sample->set("FieldMap/Scatter/Show", 0L, 2);
+    EXPECT_EQ(count(image(), Qt::blue), 0) << "a zone without symbols has no row";
+    sample->set("GlobalScatter/Legend/IsPlaced", 1L);
+    sample->set("GlobalScatter/Legend/XYPos/X", 50.0);
+    sample->set("GlobalScatter/Legend/XYPos/Y", 50.0);
+    image();
+    EXPECT_EQ(renderer->plot(sample->frame().id())->area.width(), alone);
 }
 
 TEST_F(FieldLayers, HaveALegendForEachGroupInUse)

@@ -5,9 +5,11 @@
 #include <vtkMapper.h>
 #include <vtkProperty.h>
 #include <vtkRenderer.h>
+#include <vtkShaderProperty.h>
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 
 namespace vantrix::view {
 
@@ -103,6 +105,23 @@ QColor FieldLayer::contrasted(const QColor& color, double contrast)
 {
     const auto part = [&](double channel) { return float(std::lerp(1.0, channel, contrast)); };
     return QColor::fromRgbF(part(color.redF()), part(color.greenF()), part(color.blueF()));
+}
+
+void FieldLayer::stepBack()
+{
+    // A pixel of a line beside the surface's own has the depth that the surface has up to two pixels further on. The
+    // offsets that the mapper knows are the same for every slope.
+    double factor = 0.0;
+    double units = 0.0;
+    m_mapper->GetCoincidentTopologyPolygonOffsetParameters(factor, units);
+    const std::string fixed = std::to_string(std::lround(units)) + ".0 / 65000.0";
+    vtkShaderProperty* shader = m_actor->GetShaderProperty();
+    shader->AddFragmentShaderReplacement(
+        "//VTK::UniformFlow::Impl", true,
+        "float vxSlope = length(vec2(dFdx(gl_FragCoord.z), dFdy(gl_FragCoord.z)));\n//VTK::UniformFlow::Impl\n", false);
+    shader->AddFragmentShaderReplacement("//VTK::Coincident::Impl", true,
+                                         "gl_FragDepth = gl_FragCoord.z + min(2.0 * vxSlope, 0.02) + " + fixed + ";\n",
+                                         false);
 }
 
 void FieldLayer::setLines(float width)

@@ -93,6 +93,9 @@ protected:
     /* To be called with whatever makes the layer's geometry another one. */
     void countGeometry() { ++m_geometryCount; }
 
+    /* Draws a surface as far behind its place as it takes for lines along it to be seen whole, however steep it is. */
+    void stepBack();
+
     /* Unlit lines of a thickness in pixels. */
     void setLines(float width);
     void setLighting(LightingEffect_e effect, double opacity, bool isLit, const LayerContext& context);

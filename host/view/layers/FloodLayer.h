@@ -14,7 +14,9 @@ class FloodLayer : public PolyDataLayer
 public:
     explicit FloodLayer(vtkRenderer* renderer)
         : PolyDataLayer(renderer, 1.0)
-    {}
+    {
+        stepBack();
+    }
 
     /* Null values draw nothing. */
     void update(ZoneSurface& surface, const ZoneStyle& style, const ContourValues* values, const LayerContext& context);

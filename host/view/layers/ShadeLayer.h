@@ -12,7 +12,9 @@ class ShadeLayer : public PolyDataLayer
 public:
     explicit ShadeLayer(vtkRenderer* renderer)
         : PolyDataLayer(renderer, 0.0)
-    {}
+    {
+        stepBack();
+    }
 
     /* `isCovered` tells that a flood is drawn over it. */
     void update(ZoneSurface& surface, const ZoneStyle& style, bool isCovered, const LayerContext& context);
