@@ -6,9 +6,12 @@
 #include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
+#include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 #include "kernel/macro/MacroRecorder.h"
 #include "kernel/macro/ProbeCommand.h"
+
+#include <utility>
 
 namespace vantrix::kernel {
 
@@ -34,7 +37,26 @@ const Frame& activeFrame(const Kernel& kernel)
 ProbeService::ProbeService(Kernel& kernel)
     : m_kernel(kernel)
     , m_meshes(kernel.document())
-{}
+{
+    m_kernel.stateChanges().addListener(&ProbeService::stateChanged, this);
+}
+
+ProbeService::~ProbeService()
+{
+    m_kernel.stateChanges().removeListener(&ProbeService::stateChanged, this);
+}
+
+void ProbeService::stateChanged(VtxStateChangeHandle change, void* service)
+{
+    auto* self = static_cast<ProbeService*>(service);
+    if (change->kind != StateChange_MouseMode) {
+        return;
+    }
+    const bool wasOn = std::exchange(self->m_isModeOn, self->m_kernel.mouseModes().current() == MouseMode_Probe);
+    if (wasOn && !self->m_isModeOn) {
+        self->m_kernel.frontEnd().showStatus(""); // what it tells is about probing
+    }
+}
 
 void ProbeService::install(VtxProbeFunction receiver, long clientData, std::string statusLineText)
 {

@@ -25,12 +25,15 @@ class ProbeService
 {
 public:
     explicit ProbeService(Kernel& kernel);
+    ~ProbeService();
+    ProbeService(const ProbeService&) = delete;
+    ProbeService& operator=(const ProbeService&) = delete;
 
     /* See VtxUtilProbeInstallCallbackX(). Throws DataError, and changes nothing, when the plot cannot be probed. */
     void install(VtxProbeFunction receiver, long clientData, std::string statusLineText);
     VtxProbeFunction function() const { return m_function; }
 
-    /* Empty until a function is installed with one. */
+    /* Empty until a function is installed with one. When the mouse leaves probe mode, the status line is emptied. */
     const std::string& statusLineText() const { return m_statusLineText; }
 
     /*
@@ -64,6 +67,8 @@ public:
     void reset();
 
 private:
+    static void stateChanged(VtxStateChangeHandle change, void* service);
+
     using Result = std::variant<std::monostate, FieldProbeResult, LineProbeResult>;
     Result resultOf(const ProbeRequest& request, const Frame& frame);
 
@@ -83,6 +88,7 @@ private:
     VtxProbeFunction m_function = nullptr;
     long m_clientData = 0;
     std::string m_statusLineText;
+    bool m_isModeOn = false;
     std::optional<ProbeRequest> m_request;
     PlotType_e m_plotType = PlotType_Sketch;
     long m_frameId = 0;

@@ -1,5 +1,7 @@
 #include "ProbeFixture.h"
 
+#include "kernel/SilentFrontEnd.h"
+
 using namespace vantrix::kernel;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -19,7 +21,33 @@ void receiveProbe(char success, char nearest, long clientData)
     receivedClientData = clientData;
 }
 
+/* Keeps what the status line shows. */
+class StatusFrontEnd : public SilentFrontEnd
+{
+public:
+    StatusFrontEnd() { Kernel::instance().setFrontEnd(this); }
+    ~StatusFrontEnd() override { Kernel::instance().setFrontEnd(nullptr); }
+    void showStatus(const std::string& text) override { status = text; }
+
+    std::string status;
+};
+
 } // namespace
+
+TEST_F(ProbeTest, TheStatusLineTellsOfProbesWhileTheMouseProbes)
+{
+    const StatusFrontEnd frontEnd;
+    show("fe2d");
+    const LockScope lock;
+    ASSERT_TRUE(VtxUtilProbeInstallCallbackX(
+        Arguments().with("CallbackFunction", reinterpret_cast<long>(&receiveProbe)).with("StatusLineText", "Click")));
+    EXPECT_EQ(frontEnd.status, "Click");
+    ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Selector));
+    EXPECT_EQ(frontEnd.status, "");
+    kernel().frontEnd().showStatus("something else");
+    ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Zoom));
+    EXPECT_EQ(frontEnd.status, "something else");
+}
 
 TEST_F(ProbeTest, TheReceiverIsToldAndAProbeIsDoneAgain)
 {
