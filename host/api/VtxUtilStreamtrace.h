@@ -41,10 +41,10 @@ long VtxUtilStreamtraceGetCount(void);
  * direction that are left out are the defaults of the frame for its plot type ("FrameSetup" / "Default2DStreamtrace",
  * "Default3DStreamtrace"), "NumPts" is "FrameSetup" / "NumStreamrakePoints".
  *
- * Lines on surfaces start on the surface that is nearest, no further away than a hundredth of the size of its zone; the
- * volume formats start inside of volumes. On surfaces the starts are centres of cells, spread evenly over all cells
- * that the plot shows of the picked, or the active, zones: the same ones each time. Of a rake the points that lie
- * outside of the data are left away.
+ * Lines on surfaces start on the surface that is nearest, no further away than a hundredth of the size of its zone. The
+ * volume formats start inside of volumes; a position that is as near as that to the surface of one starts just below
+ * it. On surfaces the starts are centres of cells, spread evenly over all cells that the plot shows of the picked, or
+ * the active, zones: the same ones each time. Of a rake the points that lie outside of the data are left away.
  *
  * Refused, with nothing added: in another plot, without variables for the vectors, for a position or whole rake outside
  * of the data, for a type that does not belong to the plot, for an argument that is unknown or out of range.

@@ -1,6 +1,7 @@
 #include "app/MouseModeBar.h"
 
 #include "api/VtxUtilFrame.h"
+#include "app/VectorVariablesDialog.h"
 #include "dialogs/probe/ProbeDialog.h"
 #include "sdk/AppLock.h"
 
@@ -34,6 +35,9 @@ const Mode modes[] = {
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Drag to turn a 3D plot"), "rotate", Qt::Key_R},
     {MouseMode_Probe, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "&Probe"),
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to see the values at a place"), "probe", Qt::Key_P},
+    {MouseMode_Streamtrace, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Strea&mtraces"),
+     QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click to place a streamtrace, drag to place a rake of them"),
+     "streamtrace", Qt::Key_F},
     {MouseMode_Text, QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Te&xt"),
      QT_TRANSLATE_NOOP("vantrix::app::MouseModeBar", "Click in a frame to put a text there"), "text", Qt::Key_X},
 };
@@ -75,6 +79,9 @@ void MouseModeBar::setMode(MouseMode_e mode)
 {
     if (mode == MouseMode_Probe) { // what is probed has to be shown to be of use
         sdk::ui::dialogs::ProbeDialog::getInstance(*window()).launch();
+        return;
+    }
+    if (mode == MouseMode_Streamtrace && !VectorVariablesDialog::ensureAssigned(window())) {
         return;
     }
     sdk::AppLock lock;

@@ -16,6 +16,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace vantrix::app {
 
 using namespace Qt::StringLiterals;
@@ -40,22 +42,35 @@ bool isLinePlot(PlotType_e type)
 
 struct Layer
 {
+    const char* group;
     const char* styleName;
+    const char* objectName;
     const char* text;
+    bool needsVectors = false;
 };
 
 const Layer layers[] = {
-    {"ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Mesh")},
-    {"ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Contour")},
-    {"ShowVector", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Vector")},
-    {"ShowScatter", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&catter")},
-    {"ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&hade")},
-    {"ShowEdge", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ed&ge")},
+    {"FieldLayers", "ShowMesh", "ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Mesh")},
+    {"FieldLayers", "ShowContour", "ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Contour")},
+    {"FieldLayers", "ShowVector", "ShowVector", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Vector"), true},
+    {"FieldLayers", "ShowScatter", "ShowScatter", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&catter")},
+    {"FieldLayers", "ShowShade", "ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&hade")},
+    {"FieldLayers", "ShowEdge", "ShowEdge", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ed&ge")},
+    {"StreamtraceLayers", "Show", "ShowStreamtraces", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Streamt&races"),
+     true},
 };
+
+/* The layer of a check box. */
+const Layer& layerOf(const QCheckBox& box)
+{
+    return *std::ranges::find_if(
+        layers, [&](const Layer& layer) { return box.objectName() == QLatin1StringView(layer.objectName); });
+}
 
 toolbox::StyleValue layerStyle(const QCheckBox& box)
 {
-    return toolbox::StyleValue("FieldLayers", box.objectName().toLatin1().constData());
+    const Layer& layer = layerOf(box);
+    return toolbox::StyleValue(layer.group, layer.styleName);
 }
 
 } // namespace
@@ -102,7 +117,7 @@ void SideBar::setUpLayers()
     layout->setColumnStretch(1, 1);
     for (const Layer& layer : layers) {
         auto* box = new QCheckBox(tr(layer.text), m_layers);
-        box->setObjectName(QLatin1StringView(layer.styleName));
+        box->setObjectName(QLatin1StringView(layer.objectName));
         layout->addWidget(box, layout->rowCount(), 0);
         connect(box, &QCheckBox::clicked, this, [this, box](bool isOn) { setLayer(*box, isOn); });
         m_layerBoxes << box;
@@ -137,12 +152,9 @@ void SideBar::setPlotType()
 
 void SideBar::setLayer(QCheckBox& box, bool isOn)
 {
-    if (isOn && box.objectName() == u"ShowVector"_s && !VectorVariablesDialog::areAssigned()) {
-        VectorVariablesDialog(this).exec();
-        if (!VectorVariablesDialog::areAssigned()) {
-            box.setChecked(false);
-            return;
-        }
+    if (isOn && layerOf(box).needsVectors && !VectorVariablesDialog::ensureAssigned(this)) {
+        box.setChecked(false);
+        return;
     }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName("Layers");

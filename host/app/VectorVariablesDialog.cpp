@@ -53,4 +53,11 @@ bool VectorVariablesDialog::areAssigned()
     return false;
 }
 
+bool VectorVariablesDialog::ensureAssigned(QWidget* parent)
+{
+    if (!areAssigned())
+        VectorVariablesDialog(parent).exec();
+    return areAssigned();
+}
+
 } // namespace vantrix::app

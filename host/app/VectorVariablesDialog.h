@@ -16,6 +16,9 @@ public:
 
     /* Whether the active frame has variables for at least one part of its vectors. */
     static bool areAssigned();
+
+    /* Asks where that is not so; whether it is so then. */
+    static bool ensureAssigned(QWidget* parent);
 };
 
 } // namespace vantrix::app

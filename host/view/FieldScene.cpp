@@ -81,6 +81,13 @@ double placed(double value, bool isLogarithmic)
     return isLogarithmic ? std::log10(value) : value;
 }
 
+/* Axes of 3D plots are linear. */
+std::array<bool, 3> logarithmicAxes(const PlotStyle& style)
+{
+    const bool isFlat = style.type == PlotType_Cartesian2D;
+    return {isFlat && style.axes[0].isLogarithmic, isFlat && style.axes[1].isLogarithmic, false};
+}
+
 double boxDiagonal(const PlotStyle& style)
 {
     double sum = 0.0;
@@ -97,6 +104,7 @@ FieldScene::FieldScene(OffscreenWindow& window)
     : m_window(window)
     , m_renderer(vtkSmartPointer<vtkRenderer>::New())
     , m_light(vtkSmartPointer<vtkLight>::New())
+    , m_streamtraces(std::make_unique<StreamtraceLayers>(m_renderer))
 {
     m_renderer->SetAutomaticLightCreation(false);
     m_renderer->SetTwoSidedLighting(true);
@@ -109,6 +117,7 @@ FieldScene::FieldScene(OffscreenWindow& window)
 FieldScene::~FieldScene()
 {
     m_zones.clear();
+    m_streamtraces.reset();
     m_window.forget(m_renderer);
 }
 
@@ -129,6 +138,7 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
     // Translucent surfaces are seen in their order from the viewer only when they are peeled layer by layer, and that
     // allows one sample a pixel.
     const bool isTranslucent =
+        (style.streamtraces.isShown && style.streamtraces.rodRibbon.opacity < 1.0) ||
         std::any_of(style.zones.begin(), style.zones.end(), [](const ZoneStyle& zone) { return zone.opacity < 1.0; });
     m_renderer->SetUseDepthPeeling(isTranslucent);
     m_renderer->SetMaximumNumberOfPeels(quality.sortedSurfaces);
@@ -149,6 +159,14 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
     for (const ZoneStyle& zone : style.zones) {
         updateZone(dataSet, style, zone, context);
     }
+    const auto groupOf = [&](long number) {
+        const auto index = std::size_t(number - 1);
+        const bool isThere = index < m_groups.size() && !m_groups[index].colors.levels.empty();
+        return isThere ? std::optional(StreamtraceLayers::Group{m_groups[index].style.variable, m_groups[index].colors})
+                       : std::nullopt;
+    };
+    m_streamtraces->update(dataSet, m_traced, logarithmicAxes(style), style.streamtraces, groupOf, context);
+    m_streamtraces->place(m_placement);
 }
 
 void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& style, const ZoneStyle& zoneStyle,
@@ -165,8 +183,7 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
     if (!zone.layers) {
         zone.layers = std::make_unique<ZoneLayers>(m_renderer);
     }
-    const std::array<bool, 3> isLogarithmic{!context.isThreeD && style.axes[0].isLogarithmic,
-                                            !context.isThreeD && style.axes[1].isLogarithmic, false};
+    const std::array<bool, 3> isLogarithmic = logarithmicAxes(style);
     const bool isFlat = !context.isThreeD;
     if (!zone.shape || isLogarithmic != zone.isLogarithmic || isFlat != zone.isFlat ||
         !kernel::haveSameShape(zone.source, source)) {
@@ -225,6 +242,7 @@ void FieldScene::place(const Placement& placement)
     for (auto& [number, zone] : m_zones) {
         zone.layers->place(placement);
     }
+    m_streamtraces->place(placement);
 }
 
 QImage FieldScene::rendered(QSize pixels)
@@ -331,16 +349,80 @@ std::vector<QPointF> FieldScene::zoneCorners(long zone) const
     if (found == m_zones.end() || m_pixels.isEmpty() || !found->second.layers->worldBounds(bounds)) {
         return corners;
     }
-    const double aspect = double(m_pixels.width()) / m_pixels.height();
-    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
     for (std::size_t corner = 0; corner < (found->second.isFlat ? 4U : 8U); ++corner) {
-        const std::array<double, 4> world{bounds[corner & 1U], bounds[2 + (corner >> 1U & 1U)],
-                                          bounds[4 + (corner >> 2U)], 1.0};
-        std::array<double, 4> view{}; /* -1 to 1 in the picture */
-        toView->MultiplyPoint(world.data(), view.data());
-        corners.emplace_back(0.5 + 0.5 * view[0] / view[3], 0.5 + 0.5 * view[1] / view[3]);
+        corners.push_back(
+            seenAt({bounds[corner & 1U], bounds[2 + (corner >> 1U & 1U)], bounds[4 + (corner >> 2U)]}).place);
     }
     return corners;
+}
+
+FieldScene::Seen FieldScene::seenAt(const Point3& world) const
+{
+    const double aspect = double(m_pixels.width()) / m_pixels.height();
+    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
+    const std::array<double, 4> from{world[0], world[1], world[2], 1.0};
+    std::array<double, 4> to{}; /* -1 to 1 in the picture */
+    toView->MultiplyPoint(from.data(), to.data());
+    return {QPointF(0.5 + 0.5 * to[0] / to[3], 0.5 + 0.5 * to[1] / to[3]), to[2] / to[3]};
+}
+
+long FieldScene::streamtraceAt(double across, double up, double reach) const
+{
+    const StreamPaths& paths = m_streamtraces->paths();
+    if (m_pixels.isEmpty()) {
+        return 0;
+    }
+    const double aspect = double(m_pixels.width()) / m_pixels.height();
+    struct Candidate
+    {
+        double distance;
+        QPointF place;
+        double depth;
+        long handle;
+    };
+    std::vector<Candidate> candidates; /* of each way that is near the place nearest to it */
+    for (std::size_t path = 0; path < paths.count(); ++path) {
+        Candidate nearest{reach, {}, 0.0, 0};
+        std::optional<Seen> before;
+        for (const Point3& point : paths.points(path)) {
+            const Seen now = seenAt(m_placement.place(point));
+            const Seen from = before.value_or(now);
+            const QPointF along((now.place.x() - from.place.x()) * aspect, now.place.y() - from.place.y());
+            const QPointF way((across - from.place.x()) * aspect, up - from.place.y());
+            const double length = QPointF::dotProduct(along, along);
+            const double part = length > 0.0 ? std::clamp(QPointF::dotProduct(way, along) / length, 0.0, 1.0) : 0.0;
+            const QPointF beside = way - part * along;
+            const double distance = std::hypot(beside.x(), beside.y());
+            if (distance < nearest.distance) {
+                nearest = {distance, from.place + part * (now.place - from.place),
+                           std::lerp(from.depth, now.depth, part), paths.streamtrace(path).handle};
+            }
+            before = now;
+        }
+        if (nearest.handle != 0) {
+            candidates.push_back(nearest);
+        }
+    }
+    std::ranges::sort(candidates, {}, &Candidate::distance);
+    const auto found = std::ranges::find_if(
+        candidates, [&](const Candidate& candidate) { return isInFront(candidate.place, candidate.depth); });
+    return found != candidates.end() ? found->handle : 0;
+}
+
+std::vector<QPointF> FieldScene::streamtracePlaces(long handle) const
+{
+    constexpr std::size_t most = 8;
+    const StreamPaths& paths = m_streamtraces->paths();
+    std::vector<QPointF> places;
+    for (std::size_t path = 0; path < paths.count() && !m_pixels.isEmpty(); ++path) {
+        const std::vector<Point3>& points = paths.points(path);
+        const std::size_t count = paths.streamtrace(path).handle == handle ? std::min(points.size(), most) : 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            places.push_back(
+                seenAt(m_placement.place(points[count == 1 ? 0 : i * (points.size() - 1) / (count - 1)])).place);
+        }
+    }
+    return places;
 }
 
 std::vector<SeenContourLine> FieldScene::contourLines() const
@@ -349,8 +431,6 @@ std::vector<SeenContourLine> FieldScene::contourLines() const
     if (m_pixels.isEmpty()) {
         return seen;
     }
-    const double aspect = double(m_pixels.width()) / m_pixels.height();
-    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
     for (const auto& [number, zone] : m_zones) {
         ContourLineLayer& layer = zone.layers->contourLines();
         vtkPolyData* lines = layer.lines();
@@ -365,12 +445,9 @@ std::vector<SeenContourLine> FieldScene::contourLines() const
             for (const vtkIdType point : chain.points) {
                 Point3 place{};
                 lines->GetPoint(point, place.data());
-                const Point3 world = m_placement.place(place);
-                const std::array<double, 4> from{world[0], world[1], world[2], 1.0};
-                std::array<double, 4> to{};
-                toView->MultiplyPoint(from.data(), to.data());
-                line.places << QPointF(0.5 + 0.5 * to[0] / to[3], 0.5 + 0.5 * to[1] / to[3]);
-                line.depths.push_back(to[2] / to[3]);
+                const Seen at = seenAt(m_placement.place(place));
+                line.places << at.place;
+                line.depths.push_back(at.depth);
             }
             seen.push_back(std::move(line));
         }
@@ -385,13 +462,8 @@ bool FieldScene::isInFront(QPointF place, double depth) const
     if (m_placement.isFlat() || !pick(*picker, place.x(), place.y())) {
         return true;
     }
-    const double aspect = double(m_pixels.width()) / m_pixels.height();
-    vtkMatrix4x4* toView = m_renderer->GetActiveCamera()->GetCompositeProjectionTransformMatrix(aspect, -1.0, 1.0);
     const double* hit = picker->GetPickPosition();
-    const std::array<double, 4> from{hit[0], hit[1], hit[2], 1.0};
-    std::array<double, 4> to{};
-    toView->MultiplyPoint(from.data(), to.data());
-    return depth <= to[2] / to[3] + tolerance;
+    return depth <= seenAt({hit[0], hit[1], hit[2]}).depth + tolerance;
 }
 
 long FieldScene::geometryCount() const
@@ -400,7 +472,7 @@ long FieldScene::geometryCount() const
     for (const auto& [number, zone] : m_zones) {
         count += zone.layers->geometryCount();
     }
-    return count;
+    return count + m_streamtraces->geometryCount();
 }
 
 long FieldScene::surfacePointCount() const

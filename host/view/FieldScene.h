@@ -6,6 +6,7 @@
 #include "view/OffscreenWindow.h"
 #include "view/PlotStyle.h"
 #include "view/RenderSettings.h"
+#include "view/StreamtraceLayers.h"
 #include "view/ZoneLayers.h"
 
 #include <QImage>
@@ -46,6 +47,9 @@ public:
         double keptPoints = 1.0; /* of the points of surfaces, above 0 to 1 */
     };
 
+    /* The streamtraces of the next pictures; null for none. */
+    void setStreamtraces(std::shared_ptr<const kernel::TracedStreamtraces> traced) { m_traced = std::move(traced); }
+
     /* Brings the layers in step with data and style; what did not change is left alone. Throws DataError when a
      * variable that is not in memory cannot be read any more. */
     void update(const kernel::DataSet& dataSet, const PlotStyle& style, double frameHeightPixels,
@@ -70,6 +74,13 @@ public:
 
     /* The contour lines that have labels, as they lie in that picture. */
     std::vector<SeenContourLine> contourLines() const;
+
+    /* The streamtrace (its handle) whose way passes nearest to a place of that picture and is seen there, no farther
+     * away than `reach` picture heights; 0 where there is none. */
+    long streamtraceAt(double across, double up, double reach) const;
+
+    /* A few places of a streamtrace's way in that picture; none of one that is not drawn. */
+    std::vector<QPointF> streamtracePlaces(long handle) const;
 
     /* Whether nothing of that picture is in front of a place of such a line. */
     bool isInFront(QPointF place, double depth) const;
@@ -99,6 +110,12 @@ private:
         ContourColors colors;
     };
 
+    struct Seen
+    {
+        QPointF place;
+        double depth;
+    };
+    Seen seenAt(const Point3& world) const;
     bool pick(vtkCellPicker& picker, double across, double up) const;
     void updateGroups(const std::vector<ContourGroupStyle>& groups);
     void updateZone(const kernel::DataSet& dataSet, const PlotStyle& style, const ZoneStyle& zone,
@@ -110,6 +127,8 @@ private:
     vtkSmartPointer<vtkRenderer> m_renderer;
     vtkSmartPointer<vtkLight> m_light;
     std::map<long, Zone> m_zones;
+    std::shared_ptr<const kernel::TracedStreamtraces> m_traced;
+    std::unique_ptr<StreamtraceLayers> m_streamtraces;
     std::vector<Group> m_groups;
     std::array<double, 3> m_scale{1.0, 1.0, 1.0};
     std::array<double, 3> m_shift{0.0, 0.0, 0.0};

@@ -46,6 +46,14 @@ void FramePainter::show(PlotStyle style, std::shared_ptr<const kernel::DataSet> 
     m_dataSet = std::move(dataSet);
 }
 
+void FramePainter::setStreamtraces(std::shared_ptr<const kernel::TracedStreamtraces> traced)
+{
+    if (traced != m_traced) {
+        m_traced = std::move(traced);
+        ++m_revision;
+    }
+}
+
 void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request)
 {
     const Canvas canvas(onto, inch, edges, &m_plot.hits);
@@ -246,6 +254,7 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     if (!takesScreen && (key != kept.key || kept.image.isNull())) {
         const auto begin = std::chrono::steady_clock::now();
         const FieldScene::Quality quality{key.samples, sorted, key.keptPoints};
+        scene().setStreamtraces(m_traced);
         scene().update(*m_dataSet, m_plot.style, m_frameHeight * canvas.resolution(), quality);
         kept = {key, render(pixels.expandedTo({1, 1})), {}};
         if (hasTexts()) {
@@ -320,23 +329,32 @@ kernel::PickedObject FramePainter::objectAt(QPointF place, double reach)
 {
     constexpr kernel::PickedObject frame{.type = PickObject_Frame};
     const kernel::PickedObject marked = m_plot.hits.at(place, reach).value_or(frame);
-    const long zone = hasField(m_plot.style) && m_plot.area.contains(place)
-                          ? scene().zoneAt((place.x() - m_plot.area.left()) / m_plot.area.width(),
-                                           (m_plot.area.bottom() - place.y()) / m_plot.area.height())
-                          : 0;
-    const kernel::PickedObject drawn{.type = PickObject_Zone, .number = zone};
-    return zone != 0 && pickOrder(drawn) < pickOrder(marked) ? drawn : marked;
+    if (!hasField(m_plot.style) || !m_plot.area.contains(place)) {
+        return marked;
+    }
+    const double across = (place.x() - m_plot.area.left()) / m_plot.area.width();
+    const double up = (m_plot.area.bottom() - place.y()) / m_plot.area.height();
+    kernel::PickedObject drawn{.type = PickObject_Streamtrace};
+    drawn.number = scene().streamtraceAt(across, up, reach / m_plot.area.height());
+    if (drawn.number == 0) {
+        drawn = {.type = PickObject_Zone, .number = scene().zoneAt(across, up)};
+    }
+    return drawn.number != 0 && pickOrder(drawn) < pickOrder(marked) ? drawn : marked;
 }
 
 QPolygonF FramePainter::handles(const kernel::PickedObject& object)
 {
-    if (object.type != PickObject_Zone) {
+    if (object.type != PickObject_Zone && object.type != PickObject_Streamtrace) {
         return m_plot.hits.handles(object);
     }
     QPolygonF places;
-    for (const QPointF& corner : scene().zoneCorners(object.number)) {
-        places << QPointF(m_plot.area.left() + corner.x() * m_plot.area.width(),
-                          m_plot.area.bottom() - corner.y() * m_plot.area.height());
+    for (const QPointF& corner : object.type == PickObject_Zone ? scene().zoneCorners(object.number)
+                                                                : scene().streamtracePlaces(object.number)) {
+        const QPointF place(m_plot.area.left() + corner.x() * m_plot.area.width(),
+                            m_plot.area.bottom() - corner.y() * m_plot.area.height());
+        if (object.type == PickObject_Zone || m_plot.area.contains(place)) {
+            places << place;
+        }
     }
     return places;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/Frame.h"
+#include "kernel/streamtrace/StreamtracePaths.h"
 #include "view/Canvas.h"
 #include "view/FieldScene.h"
 #include "view/FramePlot.h"
@@ -46,6 +47,9 @@ public:
         m_geometries = geometries;
         m_texts = texts;
     }
+
+    /* The streamtraces that the plot draws; null for none. */
+    void setStreamtraces(std::shared_ptr<const kernel::TracedStreamtraces> traced);
 
     /* `rect` is where the frame lies, in the painter's logical units. */
     void paint(QPainter& painter, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request);
@@ -109,6 +113,7 @@ private:
     std::shared_ptr<const kernel::DataSet> m_dataSet;
     kernel::ObjectList<kernel::Geometry> m_geometries;
     kernel::ObjectList<kernel::Text> m_texts;
+    std::shared_ptr<const kernel::TracedStreamtraces> m_traced;
     unsigned long m_revision = 0;
     PaintRequest m_request;
     bool m_isApproximate = false;

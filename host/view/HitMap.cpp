@@ -36,14 +36,16 @@ int pickOrder(const kernel::PickedObject& object)
     case PickObject_Geometry:
         return 0;
     case PickObject_Axis:
-        return object.part == AxisSubObject_Title ? 1 : object.part == AxisSubObject_AxisLine ? 2 : 5;
+        return object.part == AxisSubObject_Title ? 1 : object.part == AxisSubObject_AxisLine ? 2 : 6;
     case PickObject_ContourLegend:
     case PickObject_LineLegend:
         return 3;
     case PickObject_Frame:
-        return 6;
-    default:
+        return 7;
+    case PickObject_Streamtrace:
         return 4;
+    default:
+        return 5;
     }
 }
 

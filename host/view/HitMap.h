@@ -50,8 +50,8 @@ inline kernel::PickedObject axisObject(char axis, AxisSubObject_e part, int axis
     return {.type = PickObject_Axis, .axis = axis, .axisNumber = axisNumber, .part = part};
 }
 
-/* The smaller, the sooner picked: texts and geometries, axis titles, axis lines, legends, zones and line maps, grid
- * areas, frames. */
+/* The smaller, the sooner picked: texts and geometries, axis titles, axis lines, legends, streamtraces, zones and line
+ * maps, grid areas, frames. */
 int pickOrder(const kernel::PickedObject& object);
 
 } // namespace vantrix::view

@@ -1,10 +1,12 @@
 #include "view/PageRenderer.h"
 
+#include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Frame.h"
 #include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleStore.h"
+#include "kernel/streamtrace/StreamtracePaths.h"
 #include "view/FramePainter.h"
 #include "view/PaperStyle.h"
 #include "view/latex/LatexPictures.h"
@@ -65,6 +67,11 @@ PageRenderer::Impl::Entry& PageRenderer::Impl::entry(const kernel::Frame& frame)
         slot->dataSet = frame.dataSet();
     }
     slot->painter.setObjects(frame.geometries(), frame.texts());
+    try {
+        slot->painter.setStreamtraces(kernel.streamtracePaths().of(frame));
+    } catch (const kernel::DataError& error) {
+        kernel.frontEnd().showStatus(error.what());
+    }
     return *slot;
 }
 

@@ -219,6 +219,7 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
     }
     plot.vectors = VectorScaleStyle::read(style);
     plot.scatter = ScatterScaleStyle::read(style);
+    plot.streamtraces = StreamtraceStyle::read(style);
     plot.scatterLegend = readLegend(style.below("GlobalScatter/Legend"));
     if (plot.type == PlotType_Cartesian2D) {
         plot.blankingBoundaries = readBoundaries(store, frame);

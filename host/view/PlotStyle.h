@@ -2,6 +2,7 @@
 
 #include "kernel/ValueBlanking.h"
 #include "view/AxisStyle.h"
+#include "view/StreamtraceStyle.h"
 #include "view/ZoneStyle.h"
 
 #include <QColor>
@@ -197,6 +198,7 @@ struct PlotStyle
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
     LegendStyle scatterLegend;
+    StreamtraceStyle streamtraces;
     std::vector<LineMapStyle> lineMaps;
     LegendStyle lineLegend;
     FrameStyle frame;

@@ -12,13 +12,13 @@
 #include "view/PaperRuler.h"
 #include "view/PaperStyle.h"
 #include "view/RenderSettings.h"
-#include "view/mouse/ClickTool.h"
 #include "view/mouse/CreateFrameTool.h"
 #include "view/mouse/InsertTool.h"
 #include "view/mouse/MouseContext.h"
 #include "view/mouse/ProbeTool.h"
 #include "view/mouse/RotateTool.h"
 #include "view/mouse/SelectorTool.h"
+#include "view/mouse/StreamtraceTool.h"
 #include "view/mouse/TextTool.h"
 #include "view/mouse/TranslateTool.h"
 #include "view/mouse/ZoomTool.h"
@@ -53,8 +53,8 @@ struct WorkArea::Impl : kernel::PickSurface
         tools[MouseMode_Rotate] = std::make_unique<RotateTool>(context);
         tools[MouseMode_CreateFrame] = std::make_unique<CreateFrameTool>(context);
         tools[MouseMode_Probe] = std::make_unique<ProbeTool>(context);
+        tools[MouseMode_Streamtrace] = std::make_unique<StreamtraceTool>(context);
         tools[MouseMode_Text] = std::make_unique<TextTool>(context);
-        tools[MouseMode_Streamtrace] = std::make_unique<ClickTool>(context, MouseMode_Streamtrace);
         kernel.stateChanges().addListener(&Impl::stateChanged, this);
         kernel.pickList().setSurface(this);
         wheelTimer.setSingleShot(true);

@@ -18,11 +18,10 @@ class PageRenderer;
  * The work area: the desk with the active page's paper and its frames, and the mouse over them.
  *
  * It listens to the kernel's state changes and repaints on the next turn of the event loop, once for any number of
- * changes. What the mouse does follows the kernel's mouse mode (MouseModes): selector, zoom, translate, rotate and
- * probe are handled here, of text placement the place is told by textPlaceClicked(), of the other modes a click by
- * clickedInMode(). Everywhere the wheel zooms the
- * plot under the pointer, with Ctrl the paper; the middle button moves the plot, a double click fits it. A change of
- * view writes style values; a whole drag is one step of undo.
+ * changes. What the mouse does follows the kernel's mouse mode (MouseModes): all are handled here but text placement,
+ * of which the place is told by textPlaceClicked(). Everywhere the wheel zooms the plot under the pointer, with Ctrl
+ * the paper; the middle button moves the plot, a double click fits it. A change of view writes style values; a whole
+ * drag is one step of undo.
  */
 class WorkArea : public QWidget
 {
@@ -69,12 +68,6 @@ Q_SIGNALS:
 
     /* A hint for the status line; empty removes it. */
     void statusMessage(const QString& text);
-
-    /*
-     * A click in a mode that the work area does not handle itself. `plot` is the place in the plot: data coordinates
-     * in 2D; in 3D the first surface point under the pointer. `hit` is false when there is nothing there.
-     */
-    void clickedInMode(MouseMode_e mode, long frameId, double x, double y, double z, bool hit);
 
     /* A click in text placement mode: the place of a text of the active frame, in % of the frame's width and height
      * from its lower left corner. */

@@ -10,15 +10,6 @@ namespace {
 constexpr long firstContourColor = 64; /* colour numbers from here on mean "by contour group" */
 constexpr long contourGroupCount = 8;
 
-LayerColor readColor(const StyleReader& style, const char* key = "Color")
-{
-    const long number = style.integer(key);
-    if (number < firstContourColor) {
-        return {indexedColor(number), 0};
-    }
-    return {Qt::black, std::min(number - firstContourColor + 1, contourGroupCount)};
-}
-
 SurfaceSelection readSurfaces(const StyleReader& style)
 {
     SurfaceSelection surfaces;
@@ -35,7 +26,7 @@ MeshStyle readMesh(const StyleReader& style, bool isLayerShown)
 {
     return {isLayerShown && style.flag("Show"),
             style.enumerator<MeshType_e>("MeshType"),
-            readColor(style),
+            LayerColor::read(style),
             style.real("LineThickness"),
             style.enumerator<LinePattern_e>("LinePattern"),
             style.real("PatternLength")};
@@ -47,7 +38,7 @@ ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit
             style.enumerator<ContourType_e>("ContourType"),
             std::clamp(style.integer("FloodColoring"), 1L, contourGroupCount),
             std::clamp(style.integer("LineContourGroup"), 1L, contourGroupCount),
-            readColor(style),
+            LayerColor::read(style),
             style.real("LineThickness"),
             isLit && style.flag("UseLightingEffect"),
             style.enumerator<LinePattern_e>("LinePattern"),
@@ -60,7 +51,7 @@ VectorStyle readVector(const StyleReader& style, bool isLayerShown)
             style.enumerator<VectorType_e>("VectorType"),
             style.enumerator<ArrowheadStyle_e>("ArrowheadStyle"),
             style.flag("IsTangent"),
-            readColor(style),
+            LayerColor::read(style),
             style.real("LineThickness")};
 }
 
@@ -72,9 +63,9 @@ ScatterStyle readScatter(const StyleReader& style, bool isLayerShown)
     scatter.shape = symbol.shape;
     scatter.character = symbol.character;
     scatter.font = symbol.font;
-    scatter.color = readColor(style);
+    scatter.color = LayerColor::read(style);
     scatter.isFilled = style.flag("IsFilled");
-    scatter.fill = readColor(style, "FillColor");
+    scatter.fill = LayerColor::read(style, "FillColor");
     scatter.isSizedByVariable = style.flag("SizeByVariable");
     scatter.size = style.real("FrameSize");
     scatter.thickness = style.real("LineThickness");
@@ -82,6 +73,15 @@ ScatterStyle readScatter(const StyleReader& style, bool isLayerShown)
 }
 
 } // namespace
+
+LayerColor LayerColor::read(const StyleReader& style, const char* key)
+{
+    const long number = style.integer(key);
+    if (number < firstContourColor) {
+        return {indexedColor(number), 0};
+    }
+    return {Qt::black, std::min(number - firstContourColor + 1, contourGroupCount)};
+}
 
 SymbolStyle SymbolStyle::read(const StyleReader& shape)
 {

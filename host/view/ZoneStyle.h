@@ -18,6 +18,9 @@ struct LayerColor
     long contourGroup = 0; /* from 1; 0 for the colour alone */
 
     bool operator==(const LayerColor&) const = default;
+
+    /* The colour, or contour group, that a number of the style stands for. */
+    static LayerColor read(const StyleReader& style, const char* key = "Color");
 };
 
 /* A shape, or a character in place of it. */

@@ -7,6 +7,7 @@
 #include "kernel/StyleStore.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
+#include "view/Pixels.h"
 #include "view/ShownSample.h"
 
 #include <gtest/gtest.h>
@@ -23,20 +24,6 @@ constexpr long red = 1;
 constexpr long green = 2;
 constexpr long blue = 3;
 constexpr long firstContourColor = 64;
-
-/* How many pixels of a picture are about of a colour. */
-int count(const QImage& image, const QColor& color)
-{
-    int pixels = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            pixels += std::abs(pixel.red() - color.red()) < 40 && std::abs(pixel.green() - color.green()) < 40 &&
-                      std::abs(pixel.blue() - color.blue()) < 40;
-        }
-    }
-    return pixels;
-}
 
 /* A sample with every layer off, to turn on one at a time. */
 class FieldLayers : public testing::Test

@@ -64,7 +64,7 @@ void StreamtracePaths::trace(const Frame& frame, Entry& entry, const ObjectList<
         VelocitySource source =
             isUsed ? VelocitySource::read(m_style, frame, part, settings.obeysBlanking) : VelocitySource();
         if (!isUsed || source != field.source || settings != field.settings) {
-            field = {std::move(source), settings, {}, {}};
+            field = {std::move(source), settings, nullptr, {}, {}};
         }
         std::erase_if(field.paths, [&](const auto& each) {
             return std::ranges::find(frame.streamtraces(), each.first) == frame.streamtraces().end();
@@ -80,13 +80,13 @@ void StreamtracePaths::trace(const Frame& frame, Entry& entry, const ObjectList<
                 throw ActionCancelled();
             }
             if (!field.tracing) {
-                field.tracing.emplace(std::make_shared<const VelocityField>(*frame.dataSet(), field.source), part,
-                                      settings);
+                field.field = std::make_shared<const VelocityField>(*frame.dataSet(), field.source);
+                field.tracing.emplace(field.field, part, settings);
             }
             path = std::make_shared<const StreamtracePath>(field.tracing->path(*streamtrace));
             ++m_tracedCount;
         }
-        traced->push_back({streamtrace, path});
+        traced->push_back({streamtrace, path, field.field});
     }
     if (!entry.traced || *entry.traced != *traced) {
         entry.traced = std::move(traced);

@@ -15,11 +15,12 @@ namespace vantrix::kernel {
 class Document;
 class StyleStore;
 
-/* A streamtrace of a frame and the way that was traced for it. */
+/* A streamtrace of a frame, and the way that was traced for it. */
 struct TracedStreamtrace
 {
     std::shared_ptr<const Streamtrace> streamtrace;
     std::shared_ptr<const StreamtracePath> path;
+    std::shared_ptr<const VelocityField> field; /* that it was traced in */
 
     bool operator==(const TracedStreamtrace&) const = default;
 };
@@ -55,7 +56,8 @@ private:
     {
         VelocitySource source;
         TracingSettings settings;
-        std::optional<StreamTracing> tracing; /* made when something is to be traced */
+        std::shared_ptr<const VelocityField> field; /* made when something is to be traced */
+        std::optional<StreamTracing> tracing;
         std::map<std::shared_ptr<const Streamtrace>, std::shared_ptr<const StreamtracePath>> paths;
     };
     struct Entry

@@ -131,6 +131,15 @@ std::vector<Streamtrace> StreamtracePlacement::place(const PlacementRequest& req
                                            " is outside of the data field."
                                      : "There are no surfaces to place streamtraces on.");
     }
+    if (isVolumeFormat(made.type) && region >= DistributionRegion_SurfacesOfSelectedObjects) {
+        std::vector<Position> inside;
+        for (const Position& onSurface : positions) {
+            if (const auto start = inData(onSurface, made.type)) {
+                inside.push_back(*start);
+            }
+        }
+        positions = std::move(inside);
+    }
     std::vector<Streamtrace> result;
     for (const Position& start : positions) {
         made.x = start[0];
@@ -165,11 +174,40 @@ Position StreamtracePlacement::position(const PlacementRequest::Place& place) co
 std::optional<Position> StreamtracePlacement::inData(const Position& position, Streamtrace_e type) const
 {
     FieldPlace found;
-    if (!std::ranges::all_of(position, [](double part) { return std::isfinite(part); }) ||
-        !m_kernel.probes().fieldProbe().find({position, isVolumeFormat(type), false}, found)) {
+    if (!std::ranges::all_of(position, [](double part) { return std::isfinite(part); })) {
         return std::nullopt;
     }
+    if (!m_kernel.probes().fieldProbe().find({position, isVolumeFormat(type), false}, found)) {
+        return isVolumeFormat(type) ? belowSurface(position) : std::nullopt;
+    }
     return type == Streamtrace_SurfaceLine ? found.place.position : position;
+}
+
+/* A place at the surface of a volume, just inside of its cells. */
+std::optional<Position> StreamtracePlacement::belowSurface(const Position& position) const
+{
+    constexpr double depth = 1e-3; /* of the way to the middle of the cell */
+    FieldProbe& probe = m_kernel.probes().fieldProbe();
+    FieldPlace onSurface;
+    if (!probe.find({position, false, false}, onSurface) ||
+        m_frame.dataSet()->zone(onSurface.zone)->topologicalDimension() != 3) {
+        return std::nullopt;
+    }
+    const FieldPlace volume = probe.placeOf(onSurface.zone, {}, true);
+    MeshPlace inCell;
+    if (!volume.mesh || !volume.mesh->findClosest(onSurface.place.position, volume.mesh->size(), inCell)) {
+        return std::nullopt;
+    }
+    const std::vector<Position> corners = volume.mesh->pointsAt(inCell.points);
+    Position inside = inCell.position;
+    for (std::size_t axis = 0; axis < inside.size(); ++axis) {
+        double middle = 0.0;
+        for (const Position& corner : corners) {
+            middle += corner[axis] / double(corners.size());
+        }
+        inside[axis] = std::lerp(inside[axis], middle, depth);
+    }
+    return inside;
 }
 
 std::vector<Position> StreamtracePlacement::onRake(const Position& from, const Position& to, long count,

@@ -52,6 +52,7 @@ private:
     Position position(const PlacementRequest::Place& place) const;
     std::vector<Position> onRake(const Position& from, const Position& to, long count, Streamtrace_e type) const;
     std::vector<Position> onSurfaces(const std::set<long>& zones, long count) const;
+    std::optional<Position> belowSurface(const Position& position) const;
     std::optional<Position> inData(const Position& position, Streamtrace_e type) const;
     std::set<long> pickedZones() const;
 

@@ -236,7 +236,8 @@ VelocitySource VelocitySource::read(const StyleStore& style, const Frame& frame,
 }
 
 VelocityField::VelocityField(const DataSet& dataSet, const VelocitySource& source)
-    : m_dataSet(vtkSmartPointer<vtkMultiBlockDataSet>::New())
+    : m_coordinates(source.coordinates)
+    , m_dataSet(vtkSmartPointer<vtkMultiBlockDataSet>::New())
 {
     for (const VelocitySource::ZonePart& part : source.zones) {
         addPart(dataSet, part, source, m_blocks);
@@ -244,6 +245,78 @@ VelocityField::VelocityField(const DataSet& dataSet, const VelocitySource& sourc
     for (std::size_t i = 0; i < m_blocks.size(); ++i) {
         m_dataSet->SetBlock(static_cast<unsigned int>(i), m_blocks[i].cells);
     }
+}
+
+vtkSmartPointer<vtkDataArray> VelocityField::valuesAtPoints(const Block& block, const DataSet& dataSet,
+                                                            long variable) const
+{
+    const vtkSmartPointer<vtkDataSet> grid = zoneShape(dataSet, block.zone, m_coordinates);
+    const vtkSmartPointer<vtkDataArray> ofZone = pointValues(grid, dataSet.field(block.zone, variable));
+    if (!ofZone) {
+        return nullptr;
+    }
+    const auto values = vtkSmartPointer<vtkDoubleArray>::New();
+    values->SetNumberOfTuples(block.pointNumbers->GetNumberOfTuples());
+    for (vtkIdType i = 0; i < values->GetNumberOfTuples(); ++i) {
+        values->SetValue(i, ofZone->GetComponent(block.pointNumbers->GetValue(i), 0));
+    }
+    return values;
+}
+
+vtkStaticCellLocator& VelocityField::locator(const Block& block) const
+{
+    m_locators.resize(m_blocks.size());
+    auto& kept = m_locators[static_cast<std::size_t>(&block - m_blocks.data())];
+    if (!kept) {
+        kept = vtkSmartPointer<vtkStaticCellLocator>::New();
+        kept->SetDataSet(block.cells);
+        kept->BuildLocator();
+    }
+    return *kept;
+}
+
+bool VelocityField::CellSearch::isIn(const Block& block, vtkIdType cell, const std::array<double, 3>& place,
+                                     bool isExact)
+{
+    block.cells->GetCell(cell, m_cell);
+    m_weights.resize(static_cast<std::size_t>(std::max<vtkIdType>(1, m_cell->GetNumberOfPoints())));
+    std::array<double, 3> closest{};
+    std::array<double, 3> inCell{};
+    int part = 0;
+    double distance2 = 0.0;
+    const int inside =
+        m_cell->EvaluatePosition(place.data(), closest.data(), part, inCell.data(), distance2, m_weights.data());
+    // A way on a surface lies beside the cell that it belongs to.
+    const double reach2 = 1e-4 * m_cell->GetLength2();
+    if (inside < 0 || (isExact && (inside == 0 || distance2 > reach2))) {
+        return false;
+    }
+    m_block = &block;
+    m_cellNumber = cell;
+    m_points.assign(m_cell->GetPointIds()->begin(), m_cell->GetPointIds()->end());
+    return true;
+}
+
+const VelocityField::Block* VelocityField::CellSearch::find(const std::array<double, 3>& place)
+{
+    if (m_block && isIn(*m_block, m_cellNumber, place, true)) {
+        return m_block;
+    }
+    for (const Block& block : m_field.m_blocks) {
+        std::array<double, 3> at = place;
+        std::array<double, 3> closest{};
+        vtkIdType cell = -1;
+        int part = 0;
+        double distance2 = 0.0;
+        int inside = 0;
+        const double radius = 1e-3 * block.cells->GetLength();
+        if (m_field.locator(block).FindClosestPointWithinRadius(at.data(), radius, closest.data(), m_cell, cell, part,
+                                                                distance2, inside) != 0 &&
+            isIn(block, cell, closest, false)) {
+            return &block;
+        }
+    }
+    return nullptr;
 }
 
 double VelocityField::size() const

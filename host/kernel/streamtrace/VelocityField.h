@@ -4,10 +4,13 @@
 #include "kernel/ZoneGrid.h"
 #include "kernel/probe/ShownPlanes.h"
 
+#include <vtkGenericCell.h>
 #include <vtkIdTypeArray.h>
 #include <vtkMultiBlockDataSet.h>
+#include <vtkNew.h>
 #include <vtkPointSet.h>
 #include <vtkSmartPointer.h>
+#include <vtkStaticCellLocator.h>
 
 #include <optional>
 #include <vector>
@@ -69,11 +72,43 @@ public:
     const std::vector<Block>& blocks() const { return m_blocks; }
     vtkMultiBlockDataSet& dataSet() const { return *m_dataSet; }
 
+    /* The values of a variable at the points of a block, of a cell-centred one the means of the cells around them; null
+     * where the zone does not have it. Throws DataError when they cannot be loaded. */
+    vtkSmartPointer<vtkDataArray> valuesAtPoints(const Block& block, const DataSet& dataSet, long variable) const;
+
+    /* Finds the cells along a way: the cell found last is looked at first. */
+    class CellSearch
+    {
+    public:
+        explicit CellSearch(const VelocityField& field)
+            : m_field(field)
+        {}
+
+        /* Null where there is no cell; else points() of the block and their weights() are what the place is made of. */
+        const Block* find(const std::array<double, 3>& place);
+        const std::vector<vtkIdType>& points() const { return m_points; }
+        const std::vector<double>& weights() const { return m_weights; }
+
+    private:
+        bool isIn(const Block& block, vtkIdType cell, const std::array<double, 3>& place, bool isExact);
+
+        const VelocityField& m_field;
+        const Block* m_block = nullptr;
+        vtkIdType m_cellNumber = -1;
+        vtkNew<vtkGenericCell> m_cell;
+        std::vector<vtkIdType> m_points;
+        std::vector<double> m_weights;
+    };
+
     /* The length of the diagonal of the box around it. */
     double size() const;
 
 private:
+    vtkStaticCellLocator& locator(const Block& block) const;
+
+    CoordinateVariables m_coordinates;
     std::vector<Block> m_blocks;
+    mutable std::vector<vtkSmartPointer<vtkStaticCellLocator>> m_locators; /* of the blocks, made when needed */
     vtkSmartPointer<vtkMultiBlockDataSet> m_dataSet;
 };
 

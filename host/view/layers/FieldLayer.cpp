@@ -57,6 +57,11 @@ bool FieldLayer::isProp(const vtkProp* prop) const
     return m_actor == prop;
 }
 
+void FieldLayer::setPickable(bool isPickable)
+{
+    m_actor->SetPickable(isPickable);
+}
+
 bool FieldLayer::shownBounds(std::array<double, 6>& bounds) const
 {
     const double* drawn = isShown() ? m_actor->GetBounds() : nullptr;

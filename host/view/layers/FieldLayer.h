@@ -74,6 +74,9 @@ public:
     /* The box around what is drawn, in the renderer's world; false when nothing is. */
     bool shownBounds(std::array<double, 6>& bounds) const;
 
+    /* Whether the mouse finds the layer; it does at first. */
+    void setPickable(bool isPickable);
+
     /* How often what is drawn was made anew. */
     long geometryCount() const { return m_geometryCount; }
 

@@ -24,6 +24,9 @@ public:
     /* Whether it draws anything. */
     using FieldLayer::isShown;
 
+    /* The colours as a light leaves them, see LightStyle::colorContrast. */
+    static vtkSmartPointer<vtkLookupTable> contrastedTable(vtkLookupTable& table, double contrast);
+
 private:
     struct Source
     {
@@ -34,8 +37,6 @@ private:
         ColorCutoff cutoff;
         bool operator==(const Source&) const = default;
     };
-
-    static vtkSmartPointer<vtkLookupTable> contrastedTable(vtkLookupTable& table, double contrast);
 
     Source m_source;
 };
