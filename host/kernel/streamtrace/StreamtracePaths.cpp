@@ -5,6 +5,7 @@
 #include "kernel/StyleStore.h"
 
 #include <algorithm>
+#include <set>
 
 namespace vantrix::kernel {
 
@@ -57,6 +58,8 @@ void StreamtracePaths::trace(const Frame& frame, Entry& entry, const ObjectList<
                              const Progress& progress)
 {
     const TracingSettings settings = TracingSettings::read(m_style, frame.id());
+    const std::set<std::shared_ptr<const Streamtrace>> present(frame.streamtraces().begin(),
+                                                               frame.streamtraces().end());
     for (const TracedPart part : {TracedPart::Plane, TracedPart::Volume, TracedPart::Surface}) {
         Field& field = entry.fields[static_cast<std::size_t>(part)];
         const bool isUsed =
@@ -66,9 +69,7 @@ void StreamtracePaths::trace(const Frame& frame, Entry& entry, const ObjectList<
         if (!isUsed || source != field.source || settings != field.settings) {
             field = {std::move(source), settings, nullptr, {}, {}};
         }
-        std::erase_if(field.paths, [&](const auto& each) {
-            return std::ranges::find(frame.streamtraces(), each.first) == frame.streamtraces().end();
-        });
+        std::erase_if(field.paths, [&](const auto& each) { return !present.contains(each.first); });
     }
     auto traced = std::make_shared<TracedStreamtraces>();
     for (const auto& streamtrace : shown) {

@@ -177,8 +177,13 @@ std::optional<Position> StreamtracePlacement::inData(const Position& position, S
     if (!std::ranges::all_of(position, [](double part) { return std::isfinite(part); })) {
         return std::nullopt;
     }
-    if (!m_kernel.probes().fieldProbe().find({position, isVolumeFormat(type), false}, found)) {
-        return isVolumeFormat(type) ? belowSurface(position) : std::nullopt;
+    const bool isInVolume = isVolumeFormat(type);
+    const bool isFound = m_kernel.probes().fieldProbe().find({position, isInVolume, false}, found);
+    if (isInVolume && (!isFound || found.place.distance2 > 0.0)) {
+        return belowSurface(position);
+    }
+    if (!isFound) {
+        return std::nullopt;
     }
     return type == Streamtrace_SurfaceLine ? found.place.position : position;
 }
