@@ -344,6 +344,20 @@ TEST_F(MainWindowTest, TheSideBarChoosesTheVariablesOfContoursAndVectors)
     QTest::mouseClick(vector, Qt::LeftButton, {}, QPoint(8, vector->height() / 2));
     settle();
     EXPECT_TRUE(vector->isChecked());
+
+    // Streamtraces follow the same vectors, and their mode asks for them as well.
+    auto* streamtraces = window.findChild<QCheckBox*>(u"ShowStreamtraces"_s);
+    QTest::mouseClick(streamtraces, Qt::LeftButton, {}, QPoint(8, streamtraces->height() / 2));
+    settle();
+    EXPECT_TRUE(streamtraces->isChecked());
+    ASSERT_TRUE(window.openSample(u"polyhedra"_s));
+    settle();
+    QTimer::singleShot(100, &window, [&] { answer(nullptr); });
+    action("mouseMode_streamtrace").trigger();
+    EXPECT_NE(VtxUtilMouseGetCurrentMode(), MouseMode_Streamtrace);
+    QTimer::singleShot(100, &window, [&] { answer("VVar"); });
+    action("mouseMode_streamtrace").trigger();
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Streamtrace);
     EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
 }
 

@@ -242,7 +242,7 @@ TEST_F(StreamtraceMouse, AClickOnASurfaceStartsThereOrBelowIt)
         sample->set("FrameSetup/Default3DStreamtrace/StreamType", type);
         area->repaint();
         const long before = VtxUtilStreamtraceGetCount();
-        QTest::mouseClick(area.get(), Qt::LeftButton, {}, placeOf({0.0, -8.9, 3.0}));
+        QTest::mouseClick(area.get(), Qt::LeftButton, {}, placeOf({-4.5, -7.79, 3.0}));
         ASSERT_EQ(VtxUtilStreamtraceGetCount(), before + 1) << type << sample->kernel.lastError();
         area->repaint();
         const auto traced = sample->kernel.streamtracePaths().of(sample->frame());

@@ -138,6 +138,7 @@ RodRibbonLayer::RodRibbonLayer(vtkRenderer* renderer)
     , m_mesh(renderer, 2.0)
     , m_lines(renderer, 3.0)
 {
+    m_surface.stepBack();
     m_mesh.setMesh();
 }
 

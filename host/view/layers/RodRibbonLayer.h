@@ -42,6 +42,7 @@ private:
         using FieldLayer::setLighting;
         using FieldLayer::setLines;
         using FieldLayer::setShown;
+        using FieldLayer::stepBack;
         using PolyDataLayer::setGeometry;
     };
 
