@@ -180,6 +180,12 @@ TEST_F(StreamtracesTest, StayOnTheSurfaceOrInsideOfTheVolumeAsTheirFormatSays)
     EXPECT_GT(onWall.points.back()[2] - onWall.points.front()[2], 1.0);
 
     kernel().reset();
+    showFlow(PlotType_Cartesian3D, {49, 25, 1}, wall, uniform);
+    ASSERT_TRUE(addAt({0.1, 0.99, 1.0}, Streamtrace_SurfaceLine)) << kernel().lastError();
+    EXPECT_NEAR(path(0).points.front()[0], -1.0, 0.01) << "half around the cylinder";
+    EXPECT_NEAR(path(0).points.back()[0], 1.0, 0.01);
+
+    kernel().reset();
     showFlow(PlotType_Cartesian3D, {21, 21, 21}, cube, [](const Vector& at) { return Vector{-at[1], at[0], 0.25}; });
     ASSERT_TRUE(addAt({1.0, 0.0, 0.0}, Streamtrace_VolumeLine)) << kernel().lastError();
     const StreamtracePath& helix = path(0);

@@ -2,6 +2,7 @@
 
 #include "kernel/StyleStore.h"
 
+#include <vtkCellData.h>
 #include <vtkDataArray.h>
 #include <vtkMath.h>
 #include <vtkPointData.h>
@@ -21,45 +22,78 @@ constexpr double relativeError = 1e-6; /* of one step, in sizes of the field */
 /* How far a way that closes may miss its start, in lengths of the way: less than a line is thick. */
 constexpr double closingGap = 2e-4;
 
+/* The shortest piece of a way on a surface that is worth going on from, in sizes of the field. */
+constexpr double shortestPiece = 1e-4;
+
+/* A way that stays within a step and a half for so many steps only goes to and fro, as beside a line where the flow
+ * leaves a surface. */
+constexpr vtkIdType stuckSteps = 64;
+constexpr double stuckReach = 1.5;
+
 constexpr int closed = vtkStreamTracer::FIXED_REASONS_FOR_TERMINATION_COUNT;
 
 } // namespace
 
-/* Watches one way for its return to where it began. */
+/* Watches one way, which may be traced in pieces, for its return to where it began, and for getting stuck. */
 struct StreamTracing::ClosingWatch
 {
-    vtkIdType seen = 1;
+    Position start{};
+    std::optional<Position> way; /* from the start to the first point behind it */
     double length = 0.0;
+    vtkIdType points = 0; /* passed */
+    vtkIdType seen = 1;   /* of the piece under way */
     bool isClosed = false;
+
+    Position marked{}; /* the last place from which it is watched for getting stuck */
+    double markedLength = 0.0;
+    vtkIdType markedPoints = 0;
+    double reach2 = 0.0; /* the farthest that it came since */
+
+    bool isStuck(const Position& at)
+    {
+        if (points == markedPoints + stuckSteps) {
+            const double step = (length - markedLength) / double(stuckSteps);
+            if (reach2 < stuckReach * stuckReach * step * step) {
+                return true;
+            }
+            marked = at;
+            markedLength = length;
+            markedPoints = points;
+            reach2 = 0.0;
+        }
+        reach2 = std::max(reach2, vtkMath::Distance2BetweenPoints(marked.data(), at.data()));
+        return false;
+    }
 };
 
-bool StreamTracing::hasClosed(void* data, vtkPoints* points, vtkDataArray* /*velocity*/, int /*direction*/)
+bool StreamTracing::hasEnded(void* data, vtkPoints* points, vtkDataArray* /*velocity*/, int /*direction*/)
 {
     auto& watch = *static_cast<ClosingWatch*>(data);
-    const vtkIdType count = points->GetNumberOfPoints();
-    Position start{};
-    Position first{};
     Position from{};
     Position to{};
-    for (; watch.seen < count; ++watch.seen) {
+    bool isStuck = false;
+    for (; watch.seen < points->GetNumberOfPoints(); ++watch.seen) {
         points->GetPoint(watch.seen - 1, from.data());
         points->GetPoint(watch.seen, to.data());
         watch.length += std::sqrt(vtkMath::Distance2BetweenPoints(from.data(), to.data()));
+        if (!watch.way) {
+            watch.start = watch.marked = from;
+            watch.way.emplace();
+            vtkMath::Subtract(to.data(), from.data(), watch.way->data());
+        }
+        ++watch.points;
+        isStuck = watch.isStuck(to) || isStuck;
     }
-    if (count < 5) {
-        return false;
+    if (watch.points < 4 || isStuck) {
+        return isStuck;
     }
-    points->GetPoint(0, start.data());
-    points->GetPoint(1, first.data());
     // The last step passes the plane that stands on the way at its start, in the direction of the first step.
-    Position way{};
     Position before{};
     Position after{};
-    vtkMath::Subtract(first.data(), start.data(), way.data());
-    vtkMath::Subtract(from.data(), start.data(), before.data());
-    vtkMath::Subtract(to.data(), start.data(), after.data());
-    const double behind = vtkMath::Dot(before.data(), way.data());
-    const double ahead = vtkMath::Dot(after.data(), way.data());
+    vtkMath::Subtract(from.data(), watch.start.data(), before.data());
+    vtkMath::Subtract(to.data(), watch.start.data(), after.data());
+    const double behind = vtkMath::Dot(before.data(), watch.way->data());
+    const double ahead = vtkMath::Dot(after.data(), watch.way->data());
     if (behind >= 0.0 || ahead < 0.0) {
         return false;
     }
@@ -91,15 +125,20 @@ TracingSettings TracingSettings::read(const StyleStore& style, long frame)
 StreamTracing::StreamTracing(std::shared_ptr<const VelocityField> field, TracedPart part,
                              const TracingSettings& settings)
     : m_field(std::move(field))
+    , m_part(part)
+    , m_maxSteps(settings.maxSteps)
     , m_watch(std::make_unique<ClosingWatch>())
     , m_tracer(vtkSmartPointer<vtkStreamTracer>::New())
 {
     m_tracer->SetInputDataObject(&m_field->dataSet());
     m_tracer->SetInputArrayToProcess(0, 0, 0, vtkDataObject::FIELD_ASSOCIATION_POINTS, VelocityField::arrayName);
-    m_tracer->SetIntegratorTypeToRungeKutta45();
-    if (part == TracedPart::Surface) { // the other one loses surfaces that are curved
+    if (part == TracedPart::Surface) {
+        // Steps that adapt themselves get tiny at every edge of the surface, where the vectors' part along it jumps;
+        // and the locator of cells loses surfaces that are curved.
+        m_tracer->SetIntegratorTypeToRungeKutta4();
         m_tracer->SetInterpolatorTypeToDataSetPointLocator();
     } else {
+        m_tracer->SetIntegratorTypeToRungeKutta45();
         m_tracer->SetInterpolatorTypeToCellLocator();
     }
     m_tracer->SetIntegrationStepUnit(vtkStreamTracer::CELL_LENGTH_UNIT);
@@ -107,10 +146,9 @@ StreamTracing::StreamTracing(std::shared_ptr<const VelocityField> field, TracedP
     m_tracer->SetMaximumIntegrationStep(settings.largestStep);
     m_tracer->SetMinimumIntegrationStep(std::min(settings.smallestStep, settings.largestStep));
     m_tracer->SetMaximumError(relativeError * m_field->size());
-    m_tracer->SetMaximumNumberOfSteps(settings.maxSteps);
     m_tracer->SetMaximumPropagation(std::numeric_limits<double>::max());
     m_tracer->SetSurfaceStreamlines(part == TracedPart::Surface);
-    m_tracer->AddCustomTerminationCallback(&hasClosed, m_watch.get(), closed);
+    m_tracer->AddCustomTerminationCallback(&hasEnded, m_watch.get(), closed);
     m_tracer->SetRotationScale(0.5); // a fluid turns half as fast as its vorticity says
 }
 
@@ -118,32 +156,66 @@ StreamTracing::~StreamTracing() = default;
 StreamTracing::StreamTracing(StreamTracing&&) noexcept = default;
 StreamTracing& StreamTracing::operator=(StreamTracing&&) noexcept = default;
 
-StreamTracing::Half StreamTracing::half(const Position& start, bool isForward, bool isRibbon)
+/* Traces as far as the tracer comes; returns why it ended there. */
+int StreamTracing::addPiece(const Position& start, bool isForward, bool isRibbon, Half& half)
 {
-    *m_watch = {};
+    StreamtracePath& path = half.path;
+    m_watch->seen = 1;
     m_tracer->SetStartPosition(start[0], start[1], start[2]);
+    m_tracer->SetMaximumNumberOfSteps(std::max(0L, m_maxSteps - static_cast<long>(path.points.size()) + 1));
     m_tracer->SetComputeVorticity(isRibbon);
     m_tracer->SetIntegrationDirection(isForward ? vtkStreamTracer::FORWARD : vtkStreamTracer::BACKWARD);
     m_tracer->Modified();
     m_tracer->Update();
     vtkPolyData* traced = m_tracer->GetOutput();
-    Half result;
-    result.isClosed = m_watch->isClosed;
+    half.isClosed = m_watch->isClosed;
     vtkDataArray* times = traced->GetPointData()->GetArray("IntegrationTime");
     vtkDataArray* turns = isRibbon ? traced->GetPointData()->GetArray("AngularVelocity") : nullptr;
+    vtkDataArray* reasons = traced->GetCellData()->GetArray("ReasonForTermination");
     const vtkIdType count = times ? traced->GetNumberOfPoints() : 0;
-    double twist = 0.0;
-    for (vtkIdType i = 0; i < count; ++i) {
-        result.path.points.emplace_back();
-        traced->GetPoint(i, result.path.points.back().data());
-        result.path.times.push_back(times->GetComponent(i, 0));
+    const double passed = path.times.empty() ? 0.0 : path.times.back();
+    double twist = path.twists.empty() ? 0.0 : path.twists.back();
+    for (vtkIdType i = path.points.empty() ? 0 : 1; i < count; ++i) {
+        path.points.emplace_back();
+        traced->GetPoint(i, path.points.back().data());
+        path.times.push_back(passed + times->GetComponent(i, 0));
         if (turns) {
-            const double passed = i > 0 ? times->GetComponent(i, 0) - times->GetComponent(i - 1, 0) : 0.0;
-            twist += i > 0 ? 0.5 * (turns->GetComponent(i, 0) + turns->GetComponent(i - 1, 0)) * passed : 0.0;
-            result.path.twists.push_back(twist);
+            const double step = i > 0 ? times->GetComponent(i, 0) - times->GetComponent(i - 1, 0) : 0.0;
+            twist += i > 0 ? 0.5 * (turns->GetComponent(i, 0) + turns->GetComponent(i - 1, 0)) * step : 0.0;
+            path.twists.push_back(twist);
         }
     }
-    return result;
+    return reasons && reasons->GetNumberOfTuples() > 0 ? static_cast<int>(reasons->GetComponent(0, 0))
+                                                       : vtkStreamTracer::NOT_INITIALIZED;
+}
+
+StreamTracing::Half StreamTracing::half(const Position& start, bool isForward, bool isRibbon)
+{
+    Half result;
+    *m_watch = {};
+    Position from = start;
+    for (;;) {
+        const std::size_t before = result.path.points.size();
+        const double length = m_watch->length;
+        const int reason = addPiece(from, isForward, isRibbon, result);
+        const std::vector<Position>& points = result.path.points;
+        if (m_part != TracedPart::Surface || points.size() <= std::max<std::size_t>(before, 1)) {
+            return result;
+        }
+        // Step by step a way leaves a surface that is curved, until the tracer takes that for its end.
+        VelocityField::CellSearch search(*m_field);
+        for (std::size_t i = before; i < points.size(); ++i) {
+            if (const auto onSurface = search.closest(points[i])) {
+                result.path.points[i] = *onSurface;
+            }
+        }
+        if (reason != vtkStreamTracer::OUT_OF_DOMAIN || result.isClosed ||
+            static_cast<long>(points.size()) > m_maxSteps ||
+            m_watch->length - length < shortestPiece * m_field->size()) {
+            return result;
+        }
+        from = points.back();
+    }
 }
 
 StreamtracePath StreamTracing::path(const Streamtrace& streamtrace)

@@ -38,8 +38,8 @@ struct TracingSettings
 
 /*
  * Follows a velocity field by a Runge-Kutta method of fifth order that adapts its steps (VTK's). A way ends where the
- * cells end, where the velocity is 0, after the largest number of steps, and where it closes. On surfaces the vectors'
- * part along the surface counts.
+ * cells end, where the velocity is 0, after the largest number of steps, where it closes, and where it only goes to and
+ * fro. On surfaces the vectors' part along the surface counts, and steps are of fourth order and the largest size.
  */
 class StreamTracing
 {
@@ -54,10 +54,13 @@ public:
 private:
     struct Half;
     struct ClosingWatch;
-    static bool hasClosed(void* watch, vtkPoints* points, vtkDataArray* velocity, int direction);
+    static bool hasEnded(void* watch, vtkPoints* points, vtkDataArray* velocity, int direction);
+    int addPiece(const Position& start, bool isForward, bool isRibbon, Half& half);
     Half half(const Position& start, bool isForward, bool isRibbon);
 
     std::shared_ptr<const VelocityField> m_field;
+    TracedPart m_part;
+    long m_maxSteps;
     std::unique_ptr<ClosingWatch> m_watch;
     vtkSmartPointer<vtkStreamTracer> m_tracer;
 };

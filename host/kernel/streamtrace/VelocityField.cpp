@@ -280,12 +280,11 @@ bool VelocityField::CellSearch::isIn(const Block& block, vtkIdType cell, const s
 {
     block.cells->GetCell(cell, m_cell);
     m_weights.resize(static_cast<std::size_t>(std::max<vtkIdType>(1, m_cell->GetNumberOfPoints())));
-    std::array<double, 3> closest{};
     std::array<double, 3> inCell{};
     int part = 0;
     double distance2 = 0.0;
     const int inside =
-        m_cell->EvaluatePosition(place.data(), closest.data(), part, inCell.data(), distance2, m_weights.data());
+        m_cell->EvaluatePosition(place.data(), m_closest.data(), part, inCell.data(), distance2, m_weights.data());
     // A way on a surface lies beside the cell that it belongs to.
     const double reach2 = 1e-4 * m_cell->GetLength2();
     if (inside < 0 || (isExact && (inside == 0 || distance2 > reach2))) {
@@ -317,6 +316,11 @@ const VelocityField::Block* VelocityField::CellSearch::find(const std::array<dou
         }
     }
     return nullptr;
+}
+
+std::optional<std::array<double, 3>> VelocityField::CellSearch::closest(const std::array<double, 3>& place)
+{
+    return find(place) ? std::optional(m_closest) : std::nullopt;
 }
 
 double VelocityField::size() const

@@ -86,6 +86,9 @@ public:
 
         /* Null where there is no cell; else points() of the block and their weights() are what the place is made of. */
         const Block* find(const std::array<double, 3>& place);
+        /* The nearest place in a cell, as near as find() takes it for being in it. */
+        std::optional<std::array<double, 3>> closest(const std::array<double, 3>& place);
+
         const std::vector<vtkIdType>& points() const { return m_points; }
         const std::vector<double>& weights() const { return m_weights; }
 
@@ -95,6 +98,7 @@ public:
         const VelocityField& m_field;
         const Block* m_block = nullptr;
         vtkIdType m_cellNumber = -1;
+        std::array<double, 3> m_closest{};
         vtkNew<vtkGenericCell> m_cell;
         std::vector<vtkIdType> m_points;
         std::vector<double> m_weights;

@@ -39,6 +39,7 @@ void StreamtraceTool::press(const QMouseEvent& event)
 {
     m_isDragging = context().frame() && context().frameAt(event.position()) != 0;
     m_from = m_to = event.position();
+    Q_EMIT context().widget.statusMessage({});
 }
 
 void StreamtraceTool::drag(const QMouseEvent& event)
