@@ -15,6 +15,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 using namespace vantrix;
 
 namespace {
@@ -249,6 +251,25 @@ TEST_F(StreamtraceMouse, AClickOnASurfaceStartsThereOrBelowIt)
         const auto traced = sample->kernel.streamtracePaths().of(sample->frame());
         EXPECT_GT(traced->back().path->points.size(), 5U) << type;
     }
+}
+
+TEST_F(StreamtraceMouse, ARakeOfSurfaceLinesFollowsTheSurface)
+{
+    showArea(PlotType_Cartesian3D);
+    sample->set("FieldLayers/ShowShade", 1L);
+    area->repaint();
+    sample->set("FrameSetup/NumStreamrakePoints", 5L);
+    // The straight way from one end to the other would be deep below the round wall.
+    drag(placeOf({-8.4, -3.2, 3.0}), placeOf({3.2, -8.4, 3.0}));
+    ASSERT_EQ(VtxUtilStreamtraceGetCount(), 5) << sample->kernel.lastError();
+    for (long i = 1; i <= 5; ++i) {
+        double x = 0.0;
+        double y = 0.0;
+        VtxUtilStreamtraceGetPosition(i, &x, &y, nullptr);
+        EXPECT_NEAR(std::hypot(x, y), 9.0, 0.05) << i;
+    }
+    VtxUtilUndo();
+    EXPECT_EQ(VtxUtilStreamtraceGetCount(), 0) << "all are one step";
 }
 
 TEST_F(StreamtraceMouse, TheSelectorPicksThemAndDeletesThem)

@@ -69,7 +69,7 @@ bool StreamtraceTool::isRake() const
     return MouseContext::isDrag(m_to - m_from);
 }
 
-std::optional<std::array<double, 3>> StreamtraceTool::placeInData(QPointF place) const
+std::optional<StreamtraceTool::Place> StreamtraceTool::placeInData(QPointF place) const
 {
     const kernel::Frame& frame = *context().frame();
     const FramePlot* plot = context().renderer.plot(frame.id());
@@ -81,30 +81,60 @@ std::optional<std::array<double, 3>> StreamtraceTool::placeInData(QPointF place)
     return flat ? std::optional(std::array{flat->x(), flat->y(), 0.0}) : std::nullopt;
 }
 
-void StreamtraceTool::place()
+/* Whether a rake follows the surface that is seen below the drag; else it is straight in the data. */
+bool StreamtraceTool::followsSurface() const
+{
+    const kernel::StyleStore& style = context().kernel.style();
+    const long frame = context().frame()->id();
+    return style.integer(frame, style.entry("PlotType")) == PlotType_Cartesian3D &&
+           style.integer(frame, style.entry("FrameSetup/Default3DStreamtrace/StreamType")) == Streamtrace_SurfaceLine;
+}
+
+std::vector<StreamtraceTool::Rake> StreamtraceTool::rakes() const
 {
     const auto from = placeInData(m_from);
-    const auto to = isRake() ? placeInData(m_to) : from;
-    if (!from || !to) {
+    if (!isRake() || !followsSurface()) {
+        const auto to = isRake() ? placeInData(m_to) : std::nullopt;
+        return from && (to || !isRake()) ? std::vector{Rake{*from, to}} : std::vector<Rake>();
+    }
+    const kernel::StyleStore& style = context().kernel.style();
+    const long count = style.integer(context().frame()->id(), style.entry("FrameSetup/NumStreamrakePoints"));
+    std::vector<Rake> points;
+    for (long i = 0; i < count; ++i) {
+        const double part = count > 1 ? double(i) / double(count - 1) : 0.5;
+        if (const auto point = placeInData(m_from + part * (m_to - m_from))) {
+            points.push_back({*point, std::nullopt});
+        }
+    }
+    return points;
+}
+
+void StreamtraceTool::place()
+{
+    const std::vector<Rake> placed = rakes();
+    if (placed.empty()) {
         Q_EMIT context().widget.statusMessage(
             QObject::tr("Nothing of the data is seen at this place to put a streamtrace on."));
         return;
     }
-    VtxArgList list;
-    const auto add = [&](const std::array<double, 3>& place, const std::array<const char*, 3>& names) {
-        for (std::size_t axis = 0; axis < names.size(); ++axis) {
-            list.arguments.push_back({names[axis], place[axis]});
-        }
-    };
-    add(*from, {"X1", "Y1", "Z1"});
-    if (isRake()) {
-        add(*to, {"X2", "Y2", "Z2"});
-    }
     const kernel::ActionLock lock(context().kernel.lock());
     show(context().kernel.style(), context().frame()->id());
-    if (!VtxUtilStreamtraceAddX(&list)) {
-        Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
-        VtxUtilLockRollBack();
+    for (const Rake& rake : placed) {
+        VtxArgList list;
+        const auto add = [&](const Place& place, const std::array<const char*, 3>& names) {
+            for (std::size_t axis = 0; axis < names.size(); ++axis) {
+                list.arguments.push_back({names[axis], place[axis]});
+            }
+        };
+        add(rake.from, {"X1", "Y1", "Z1"});
+        if (rake.to) {
+            add(*rake.to, {"X2", "Y2", "Z2"});
+        }
+        if (!VtxUtilStreamtraceAddX(&list)) {
+            Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
+            VtxUtilLockRollBack();
+            return;
+        }
     }
 }
 

@@ -4,13 +4,14 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace vantrix::view {
 
 /*
  * A click places a streamtrace at what is seen there: a place of a 2D plot, a place on the surface of a 3D plot. A drag
- * places a rake of them between both ends. They get the frame's format and direction of new streamtraces, and are
- * shown.
+ * places a rake of them between both ends: straight, or, of lines on surfaces, on what is seen along the way. They get
+ * the frame's format and direction of new streamtraces, and are shown.
  */
 class StreamtraceTool : public MouseTool
 {
@@ -27,7 +28,18 @@ public:
     Qt::CursorShape cursor() const override { return Qt::CrossCursor; }
 
 private:
-    std::optional<std::array<double, 3>> placeInData(QPointF place) const;
+    using Place = std::array<double, 3>;
+
+    /* Streamtraces between two places, or at one. */
+    struct Rake
+    {
+        Place from;
+        std::optional<Place> to;
+    };
+
+    std::optional<Place> placeInData(QPointF place) const;
+    bool followsSurface() const;
+    std::vector<Rake> rakes() const;
     bool isRake() const;
     void place();
 
