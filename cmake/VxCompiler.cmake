@@ -28,6 +28,8 @@ target_compile_definitions(vx_compile_options INTERFACE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII BOOST_BIND_GLOBAL_PLACEHOLDERS BOOST_ALL_NO_LIB)
 target_compile_options(vx_compile_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${VX_WARNINGS_AS_ERRORS}>:-Werror> -fpch-preprocess)
+# Of sources that are compiled as parts of one, GCC takes the anonymous namespaces for those of a header.
+target_compile_options(vx_compile_options INTERFACE $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-subobject-linkage>)
 # Optimising, GCC 12 warns of what std::string and std::vector do inside (its bugs 105329, 105651 and 105562).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(vx_compile_options INTERFACE

@@ -11,26 +11,6 @@ namespace vantrix::sdk::integration {
 
 namespace {
 
-/// Calls every slot, whatever the ones before it do.
-struct CallEverySlot
-{
-    using result_type = void;
-
-    template<typename Iterator>
-    void operator()(Iterator slot, Iterator end) const
-    {
-        for (; slot != end; ++slot) {
-            callGuarded([&slot] { *slot; });
-        }
-    }
-};
-
-// Everything is called on one thread, so a mutex would only cost.
-using SlotSignal =
-    boost::signals2::signal_type<void(toolbox::StateChangeEventInterface const&),
-                                 boost::signals2::keywords::combiner_type<CallEverySlot>,
-                                 boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
-
 void passOn(VtxStateChangeHandle change, void* observable)
 {
     callGuarded([change, observable] {
@@ -42,7 +22,24 @@ void passOn(VtxStateChangeHandle change, void* observable)
 
 struct StateChangeEventObservable::Signal
 {
-    SlotSignal signal;
+    /// Calls every slot, whatever the ones before it do.
+    struct CallEverySlot
+    {
+        using result_type = void;
+
+        template<typename Iterator>
+        void operator()(Iterator slot, Iterator end) const
+        {
+            for (; slot != end; ++slot) {
+                callGuarded([&slot] { *slot; });
+            }
+        }
+    };
+
+    // Everything is called on one thread, so a mutex would only cost.
+    boost::signals2::signal_type<
+        void(toolbox::StateChangeEventInterface const&), boost::signals2::keywords::combiner_type<CallEverySlot>,
+        boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type signal;
 };
 
 StateChangeEventObservable& StateChangeEventObservable::getInstance()

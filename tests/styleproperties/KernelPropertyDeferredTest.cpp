@@ -10,7 +10,7 @@ using testing::ElementsAre;
 
 namespace {
 
-RecordingHost& preparedHost()
+RecordingHost& hostWithCount()
 {
     RecordingHost& host = RecordingHost::instance();
     host.reset();
@@ -22,7 +22,7 @@ RecordingHost& preparedHost()
 class KernelPropertyDeferredTest : public testing::Test
 {
 protected:
-    RecordingHost& host = preparedHost();
+    RecordingHost& host = hostWithCount();
     KernelPropertyDeferred<int> count{toolbox::StyleValue("Count")};
     std::vector<int> heard;
     boost::signals2::scoped_connection listener =

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 namespace {
 
-RecordingHost& preparedHost()
+RecordingHost& hostWithAxes()
 {
     RecordingHost& host = RecordingHost::instance();
     host.reset();
@@ -32,7 +32,7 @@ protected:
 
     void changeMinimum(double value, long axis = -1) { host.change({"Axis", "Min"}, value, axis); }
 
-    RecordingHost& host = preparedHost();
+    RecordingHost& host = hostWithAxes();
     KernelProperty<double> minimum{toolbox::StyleValue("Axis", "Min")};
     std::vector<double> heard;
 };

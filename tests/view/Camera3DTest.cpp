@@ -1,3 +1,4 @@
+#include "ExpectNear.h"
 #include "view/Camera3D.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +10,6 @@ using namespace vantrix::view;
 namespace {
 
 const Box3 box{{-3.0, 10.0, 0.0}, {5.0, 12.0, 40.0}};
-
-void expectNear(QPointF actual, QPointF expected)
-{
-    EXPECT_NEAR(actual.x(), expected.x(), 1e-9);
-    EXPECT_NEAR(actual.y(), expected.y(), 1e-9);
-}
 
 } // namespace
 

@@ -66,7 +66,7 @@ int differences(const QImage& one, const QImage& other)
     return count;
 }
 
-int colored(const QImage& image)
+int saturated(const QImage& image)
 {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -90,7 +90,7 @@ TEST_F(PerformanceSettings, AllFramesAlwaysApproximatedKeepThePartOfThePointsTha
         const QImage approximate = screen();
         EXPECT_NE(approximate, full);
         EXPECT_TRUE(renderer.isApproximate(id()));
-        EXPECT_NEAR(colored(approximate), colored(full), 0.2 * colored(full)) << "contours are not what they were";
+        EXPECT_NEAR(saturated(approximate), saturated(full), 0.2 * saturated(full)) << "contours are not what they were";
         const double kept = static_cast<double>(renderer.surfacePointCount(id())) / points;
         EXPECT_NEAR(kept, percent / 100.0, 0.3 * percent / 100.0);
     }

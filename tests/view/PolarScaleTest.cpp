@@ -1,3 +1,4 @@
+#include "ExpectNear.h"
 #include "view/PolarScale.h"
 #include "view/PlotStyle.h"
 
@@ -24,12 +25,6 @@ PlotStyle polar(double thetaMinimum, double thetaMaximum, double period, double 
     plot.axes[1].maximum = rMaximum;
     plot.axes[1].valueAtOrigin = rOrigin;
     return plot;
-}
-
-void expectNear(QPointF found, QPointF expected)
-{
-    EXPECT_NEAR(found.x(), expected.x(), 1e-12);
-    EXPECT_NEAR(found.y(), expected.y(), 1e-12);
 }
 
 } // namespace

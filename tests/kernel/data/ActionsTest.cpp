@@ -1,3 +1,4 @@
+#include "LastError.h"
 #include "SampleFiles.h"
 #include "TemporaryFolder.h"
 #include "kernel/DataError.h"
@@ -13,14 +14,6 @@ using testing::Contains;
 using testing::HasSubstr;
 
 namespace {
-
-std::string lastError()
-{
-    char* text = VtxUtilGetLastErrorString();
-    const std::string result = text ? text : "";
-    VtxUtilStringDealloc(&text);
-    return result;
-}
 
 bool createCircle(long i, long j, long k)
 {

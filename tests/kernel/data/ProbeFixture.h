@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LastError.h"
 #include "kernel/KernelFixture.h"
 #include "kernel/ProbeService.h"
 #include "kernel/ZoneGrid.h"
@@ -35,14 +36,6 @@ public:
 private:
     VtxArgListHandle m_list = VtxUtilArgListAlloc();
 };
-
-inline std::string lastError()
-{
-    char* text = VtxUtilGetLastErrorString();
-    const std::string result = text ? text : "";
-    VtxUtilStringDealloc(&text);
-    return result;
-}
 
 /* A place inside a cell: a random mixture of its corners. */
 inline Position placeIn(vtkDataSet& grid, vtkIdType cell, std::mt19937& random)
