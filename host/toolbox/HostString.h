@@ -9,7 +9,7 @@ namespace vantrix::toolbox {
 /// The text of a string that the host handed out, which is released; empty for null.
 inline std::string takeHostString(char* hostString)
 {
-    std::string const text = hostString != nullptr ? hostString : "";
+    std::string text = hostString != nullptr ? hostString : "";
     VtxUtilStringDealloc(&hostString);
     return text;
 }

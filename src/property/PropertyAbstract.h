@@ -146,7 +146,7 @@ template<typename T>
 template<typename Slot>
 boost::signals2::connection PropertyAbstract<T>::connectToValueChangedSignal(Slot const& slot) const
 {
-    boost::signals2::connection const connection = m_valueChanged.connectOnce(slot);
+    boost::signals2::connection connection = m_valueChanged.connectOnce(slot);
     signalValueChangedConnected();
     return connection;
 }

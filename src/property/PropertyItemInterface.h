@@ -23,7 +23,7 @@ public:
     template<typename Slot>
     boost::signals2::connection connectToPropertyChangedSignal(Slot const& slot) const
     {
-        boost::signals2::connection const connection = m_propertyChanged.connect(slot);
+        boost::signals2::connection connection = m_propertyChanged.connect(slot);
         signalPropertyChangedConnected();
         return connection;
     }

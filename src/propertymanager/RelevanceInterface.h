@@ -41,7 +41,7 @@ public:
     template<typename Slot>
     boost::signals2::connection connectToRelevanceChangedSignal(Slot const& slot) const
     {
-        boost::signals2::connection const connection = connectOnce(m_relevanceChanged, slot);
+        boost::signals2::connection connection = connectOnce(m_relevanceChanged, slot);
         signalRelevanceChangedConnected();
         return connection;
     }

@@ -30,7 +30,7 @@ public:
     template<typename Slot>
     boost::signals2::connection connectToVisibilityChangedSignal(Slot const& slot) const
     {
-        boost::signals2::connection const connection = connectOnce(m_visibilityChanged, slot);
+        boost::signals2::connection connection = connectOnce(m_visibilityChanged, slot);
         signalVisibilityChangedConnected();
         return connection;
     }
@@ -39,7 +39,7 @@ public:
     template<typename Slot>
     boost::signals2::connection connectToSensitivityChangedSignal(Slot const& slot) const
     {
-        boost::signals2::connection const connection = connectOnce(m_sensitivityChanged, slot);
+        boost::signals2::connection connection = connectOnce(m_sensitivityChanged, slot);
         signalSensitivityChangedConnected();
         return connection;
     }

@@ -74,7 +74,7 @@ template<typename T>
 void KernelProperty<T>::storeValue(T const& value)
 {
     // Released at once: the refresh that the write causes is what tells the other listeners.
-    SignalConnectionCollection::ConnectionBlocker{m_connections};
+    SignalConnectionCollection::ConnectionBlocker{m_connections}; // NOLINT(bugprone-unused-raii)
 
     // The host may keep another value than it is given, so neither the stamp from before the write nor one taken by a
     // refresh during the write vouches for the value cached below.

@@ -59,7 +59,7 @@ public:
     /// Called when the whole list may be another one.
     boost::signals2::connection connectToDataChangedSignal(boost::function<void()> const& slot) const
     {
-        boost::signals2::connection const connection = m_dataChanged.connect(slot);
+        boost::signals2::connection connection = m_dataChanged.connect(slot);
         signalDataChangedConnected();
         return connection;
     }
@@ -67,7 +67,7 @@ public:
     /// Called with the row that has another value or text.
     boost::signals2::connection connectToItemChangedSignal(boost::function<void(int)> const& slot) const
     {
-        boost::signals2::connection const connection = m_itemChanged.connect(slot);
+        boost::signals2::connection connection = m_itemChanged.connect(slot);
         signalItemChangedConnected();
         return connection;
     }
@@ -75,7 +75,7 @@ public:
     /// Called with the first and the last row that are new.
     boost::signals2::connection connectToItemsInsertedSignal(boost::function<void(int, int)> const& slot) const
     {
-        boost::signals2::connection const connection = m_itemsInserted.connect(slot);
+        boost::signals2::connection connection = m_itemsInserted.connect(slot);
         signalItemsInsertedConnected();
         return connection;
     }
@@ -83,7 +83,7 @@ public:
     /// Called with the first and the last row that are gone, as they were numbered before.
     boost::signals2::connection connectToItemsRemovedSignal(boost::function<void(int, int)> const& slot) const
     {
-        boost::signals2::connection const connection = m_itemsRemoved.connect(slot);
+        boost::signals2::connection connection = m_itemsRemoved.connect(slot);
         signalItemsRemovedConnected();
         return connection;
     }
