@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const int mostPixels = 20000;
-const int mostDensity = 2400;
-
 QStringList sampleNames()
 {
     QStringList names;
@@ -27,13 +24,14 @@ QStringList sampleNames()
     return names;
 }
 
-/* Not valid for anything but two numbers of 1 to `mostPixels` with an x between. */
+/* Not valid for anything but two numbers of 1 to `PictureExport::mostPixels` with an x between. */
 QSize sizeFrom(const QString& text)
 {
     static const QRegularExpression form(u"^(\\d{1,5})[xX](\\d{1,5})$"_s);
     const QRegularExpressionMatch match = form.match(text);
     const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    const bool isGood = !size.isEmpty() && size.width() <= mostPixels && size.height() <= mostPixels;
+    const bool isGood =
+        !size.isEmpty() && size.width() <= PictureExport::mostPixels && size.height() <= PictureExport::mostPixels;
     return match.hasMatch() && isGood ? size : QSize();
 }
 
@@ -41,7 +39,7 @@ QSize sizeFrom(const QString& text)
 int densityFrom(const QString& text)
 {
     const int density = text.toInt();
-    return density >= 10 && density <= mostDensity ? density : 0;
+    return density >= 10 && density <= PictureExport::mostDensity ? density : 0;
 }
 
 struct Options
@@ -82,10 +80,10 @@ QString inconsistency(const QCommandLineParser& parser, const Options& options, 
     if (parser.isSet(options.size) && !line.exportSize.isValid())
         return u"\"%1\" is no size; write width and height in pixels, 1 to %2, as in 1200x900."_s
             .arg(parser.value(options.size))
-            .arg(mostPixels);
+            .arg(PictureExport::mostPixels);
     if (parser.isSet(options.density) && line.exportDensity == 0)
         return u"\"%1\" is no density; write dots per inch, 10 to %2."_s.arg(parser.value(options.density))
-            .arg(mostDensity);
+            .arg(PictureExport::mostDensity);
     if (parser.isSet(options.density) && parser.isSet(options.size))
         return u"Give either --size or --density, not both."_s;
     if (!line.macro.isEmpty() && !QFileInfo(line.macro).isFile())

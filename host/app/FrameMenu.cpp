@@ -1,6 +1,7 @@
 #include "app/FrameMenu.h"
 
 #include "api/VtxUtil.h"
+#include "app/FrameChanges.h"
 #include "app/HostAction.h"
 #include "toolbox/HostString.h"
 
@@ -9,15 +10,6 @@
 namespace vantrix::app {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-bool mayConcernFrames(const toolbox::StateChangeEventInterface& event)
-{
-    return event.kind() != StateChange_View && event.kind() != StateChange_Style;
-}
-
-} // namespace
 
 FrameMenu::FrameMenu(QMenu* menu)
     : QObject(menu)

@@ -1,5 +1,7 @@
 #include "app/ImageSizeDialog.h"
 
+#include "app/PictureExport.h"
+
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QSettings>
@@ -16,8 +18,6 @@ namespace {
 
 const auto densityKey = "Export/Density"_L1;
 constexpr int leastDensity = 10;
-constexpr int mostDensity = 2400;
-constexpr int mostPixels = 20000;
 constexpr int usualDensity = 150;
 
 QSpinBox* newSpinBox(const QString& name, int least, int most, const QString& suffix, QWidget* parent)
@@ -36,9 +36,9 @@ QSpinBox* newSpinBox(const QString& name, int least, int most, const QString& su
 ImageSizeDialog::ImageSizeDialog(QSizeF paper, QWidget* parent)
     : QDialog(parent)
     , m_paper(paper)
-    , m_width(newSpinBox(u"imageWidth"_s, 1, mostPixels, tr(" pixels"), this))
-    , m_height(newSpinBox(u"imageHeight"_s, 1, mostPixels, tr(" pixels"), this))
-    , m_density(newSpinBox(u"imageDensity"_s, leastDensity, mostDensity, tr(" dots per inch"), this))
+    , m_width(newSpinBox(u"imageWidth"_s, 1, PictureExport::mostPixels, tr(" pixels"), this))
+    , m_height(newSpinBox(u"imageHeight"_s, 1, PictureExport::mostPixels, tr(" pixels"), this))
+    , m_density(newSpinBox(u"imageDensity"_s, leastDensity, PictureExport::mostDensity, tr(" dots per inch"), this))
 {
     setWindowTitle(tr("Export Image"));
     auto* layout = new QFormLayout(this);

@@ -1,6 +1,7 @@
 #include "app/InsertMenu.h"
 
 #include "api/VtxUtil.h"
+#include "app/FrameChanges.h"
 #include "app/HostAction.h"
 #include "view/WorkArea.h"
 
@@ -35,11 +36,6 @@ constexpr Entry entries[] = {
      QT_TRANSLATE_NOOP("vantrix::app::InsertMenu", "Drag an ellipse in a frame; with Shift a circle"),
      GeomType_Ellipse},
 };
-
-bool mayConcernFrames(const toolbox::StateChangeEventInterface& event)
-{
-    return event.kind() != StateChange_View && event.kind() != StateChange_Style;
-}
 
 } // namespace
 

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto folderKey = "Folders/Layout"_L1;
+const auto layoutFolderKey = "Folders/Layout"_L1;
 
 } // namespace
 
@@ -53,14 +53,14 @@ bool LayoutFiles::attempt(bool isDone)
 QString LayoutFiles::ask(const QString& title, bool isSaving) const
 {
     const QString present = QString::fromStdString(m_layout.fileName());
-    QFileDialog dialog(&m_window, title, present.isEmpty() ? QSettings().value(folderKey).toString() : present,
+    QFileDialog dialog(&m_window, title, present.isEmpty() ? QSettings().value(layoutFolderKey).toString() : present,
                        filter());
     dialog.setAcceptMode(isSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(isSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(suffix().mid(1));
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    QSettings().setValue(folderKey, dialog.directory().absolutePath());
+    QSettings().setValue(layoutFolderKey, dialog.directory().absolutePath());
     return dialog.selectedFiles().first();
 }
 

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-toolbox::StyleValue layerStyle(const QCheckBox& box)
+toolbox::StyleValue lineLayer(const QCheckBox& box)
 {
     return toolbox::StyleValue("LinePlotLayers", box.objectName().toLatin1().constData());
 }
@@ -43,7 +43,7 @@ LineMapPanel::LineMapPanel(QWidget* parent)
         connect(box, &QCheckBox::clicked, this, [box](bool isOn) {
             const sdk::AppLock lock;
             VtxUtilUndoSetStepName("Layers");
-            layerStyle(*box).setValue(isOn);
+            lineLayer(*box).setValue(isOn);
         });
         layout->addWidget(box);
         m_layers << box;
@@ -62,7 +62,7 @@ void LineMapPanel::refresh()
 {
     for (QCheckBox* box : std::as_const(m_layers)) {
         bool isOn = false;
-        layerStyle(*box).getValue(&isOn);
+        lineLayer(*box).getValue(&isOn);
         box->setChecked(isOn);
     }
 }

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto folderKey = "Folders/Macro"_L1;
+const auto macroFolderKey = "Folders/Macro"_L1;
 
 bool isMacroChange(const toolbox::StateChangeEventInterface& event)
 {
@@ -24,14 +24,14 @@ bool isMacroChange(const toolbox::StateChangeEventInterface& event)
 /* Asks for a macro file; empty when the user changed their mind. */
 QString askForFile(QWidget& window, const QString& title, QFileDialog::AcceptMode mode)
 {
-    QFileDialog dialog(&window, title, QSettings().value(folderKey).toString(),
+    QFileDialog dialog(&window, title, QSettings().value(macroFolderKey).toString(),
                        MacroMenu::tr("Macros (*%1);;All files (*)").arg(MacroMenu::suffix()));
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setDefaultSuffix(MacroMenu::suffix().mid(1));
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    QSettings().setValue(folderKey, dialog.directory().absolutePath());
+    QSettings().setValue(macroFolderKey, dialog.directory().absolutePath());
     return dialog.selectedFiles().first();
 }
 

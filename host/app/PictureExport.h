@@ -19,6 +19,9 @@ namespace vantrix::app {
 class PictureExport
 {
 public:
+    static constexpr int mostPixels = 20000; /* along a side of an image */
+    static constexpr int mostDensity = 2400; /* dots per inch */
+
     PictureExport(view::PageRenderer& renderer, const kernel::Page& page);
 
     /* What would keep a picture from being written to a path, in a sentence; empty when nothing would. */

@@ -67,7 +67,7 @@ const Layer& layerOf(const QCheckBox& box)
         layers, [&](const Layer& layer) { return box.objectName() == QLatin1StringView(layer.objectName); });
 }
 
-toolbox::StyleValue layerStyle(const QCheckBox& box)
+toolbox::StyleValue fieldLayer(const QCheckBox& box)
 {
     const Layer& layer = layerOf(box);
     return toolbox::StyleValue(layer.group, layer.styleName);
@@ -158,7 +158,7 @@ void SideBar::setLayer(QCheckBox& box, bool isOn)
     }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName("Layers");
-    layerStyle(box).setValue(isOn);
+    fieldLayer(box).setValue(isOn);
 }
 
 void SideBar::update()
@@ -177,7 +177,7 @@ void SideBar::update()
     m_contourVariable->refresh();
     for (QCheckBox* box : std::as_const(m_layerBoxes)) {
         bool isOn = false;
-        layerStyle(*box).getValue(&isOn);
+        fieldLayer(*box).getValue(&isOn);
         box->setChecked(isOn);
     }
 }

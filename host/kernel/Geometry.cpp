@@ -1,6 +1,7 @@
 #include "kernel/Geometry.h"
 
 #include "kernel/DataError.h"
+#include "kernel/NumberText.h"
 
 #include <charconv>
 #include <cmath>
@@ -18,13 +19,6 @@ namespace {
 }
 
 /* A number in the C locale, with as many digits as it takes to read the very same number. */
-std::string numberText(double number)
-{
-    std::array<char, 32> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    return {text.data(), end};
-}
-
 std::vector<std::string> split(const std::string& text, char separator)
 {
     std::vector<std::string> parts;

@@ -8,37 +8,37 @@ namespace vantrix::kernel {
 
 namespace {
 
-using Values = ObjectValues<Geometry>;
+using GeometryMember = ObjectValues<Geometry>;
 
-constexpr std::array values{
-    Values::between<&Geometry::type>("GeomType", GeomType_Line, GeomType_Ellipse),
-    Values::between<&Geometry::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D),
-    Values::any<&Geometry::x>("XPos"),
-    Values::any<&Geometry::y>("YPos"),
-    Values::any<&Geometry::z>("ZPos"),
-    Values::any<&Geometry::points>("Points"),
-    Values::positive<&Geometry::width>("Width"),
-    Values::positive<&Geometry::height>("Height"),
-    Values::flag<&Geometry::isClipped>("IsClipped"),
-    Values::color<&Geometry::color>("Color"),
-    Values::flag<&Geometry::isFilled>("IsFilled"),
-    Values::color<&Geometry::fillColor>("FillColor"),
-    Values::between<&Geometry::linePattern>("LinePattern", LinePattern_Solid, LinePattern_DashDotDot),
-    Values::positive<&Geometry::patternLength>("PatternLength"),
-    Values::positive<&Geometry::lineThickness>("LineThickness"),
-    Values::between<&Geometry::arrowheadAttachment>("ArrowheadAttachment", ArrowheadAttachment_None,
-                                                    ArrowheadAttachment_Both),
-    Values::between<&Geometry::arrowheadStyle>("ArrowheadStyle", ArrowheadStyle_Plain, ArrowheadStyle_Hollow),
-    Values::positive<&Geometry::arrowheadSize>("ArrowheadSize"),
-    Values::between<&Geometry::arrowheadAngle>("ArrowheadAngle", 1.0, 90.0),
-    Values::any<&Geometry::macroFunctionCommand>("MacroFunctionCommand"),
+constexpr std::array geometryValues{
+    GeometryMember::between<&Geometry::type>("GeomType", GeomType_Line, GeomType_Ellipse),
+    GeometryMember::between<&Geometry::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D),
+    GeometryMember::any<&Geometry::x>("XPos"),
+    GeometryMember::any<&Geometry::y>("YPos"),
+    GeometryMember::any<&Geometry::z>("ZPos"),
+    GeometryMember::any<&Geometry::points>("Points"),
+    GeometryMember::positive<&Geometry::width>("Width"),
+    GeometryMember::positive<&Geometry::height>("Height"),
+    GeometryMember::flag<&Geometry::isClipped>("IsClipped"),
+    GeometryMember::color<&Geometry::color>("Color"),
+    GeometryMember::flag<&Geometry::isFilled>("IsFilled"),
+    GeometryMember::color<&Geometry::fillColor>("FillColor"),
+    GeometryMember::between<&Geometry::linePattern>("LinePattern", LinePattern_Solid, LinePattern_DashDotDot),
+    GeometryMember::positive<&Geometry::patternLength>("PatternLength"),
+    GeometryMember::positive<&Geometry::lineThickness>("LineThickness"),
+    GeometryMember::between<&Geometry::arrowheadAttachment>("ArrowheadAttachment", ArrowheadAttachment_None,
+                                                            ArrowheadAttachment_Both),
+    GeometryMember::between<&Geometry::arrowheadStyle>("ArrowheadStyle", ArrowheadStyle_Plain, ArrowheadStyle_Hollow),
+    GeometryMember::positive<&Geometry::arrowheadSize>("ArrowheadSize"),
+    GeometryMember::between<&Geometry::arrowheadAngle>("ArrowheadAngle", 1.0, 90.0),
+    GeometryMember::any<&Geometry::macroFunctionCommand>("MacroFunctionCommand"),
 };
 
 } // namespace
 
 std::span<const ObjectValue<Geometry>> ObjectTraits<Geometry>::values()
 {
-    return kernel::values;
+    return geometryValues;
 }
 
 void ObjectTraits<Geometry>::check(const Geometry& geometry)

@@ -18,7 +18,6 @@ namespace vantrix::kernel {
 
 namespace {
 
-constexpr long contourGroupCount = 8;
 constexpr long mostLineMaps = 50;
 
 int highestDimension(const DataSet& data)

@@ -7,6 +7,8 @@
 
 namespace vantrix::kernel {
 
+constexpr long contourGroupCount = 8; /* of a frame */
+
 /*
  * Style for a frame that shows a data set for the first time: a plot type that suits the data, variables of the axes,
  * ranges that hold all data, line maps, and a variable and levels for each contour group. To be used after

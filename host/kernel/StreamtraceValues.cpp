@@ -6,21 +6,21 @@ namespace vantrix::kernel {
 
 namespace {
 
-using Values = ObjectValues<Streamtrace>;
+using StreamtraceMember = ObjectValues<Streamtrace>;
 
-constexpr std::array values{
-    Values::between<&Streamtrace::type>("StreamType", Streamtrace_SurfaceLine, Streamtrace_VolumeRod),
-    Values::between<&Streamtrace::direction>("StreamDirection", StreamDir_Forward, StreamDir_Both),
-    Values::any<&Streamtrace::x>("X"),
-    Values::any<&Streamtrace::y>("Y"),
-    Values::any<&Streamtrace::z>("Z"),
+constexpr std::array streamtraceValues{
+    StreamtraceMember::between<&Streamtrace::type>("StreamType", Streamtrace_SurfaceLine, Streamtrace_VolumeRod),
+    StreamtraceMember::between<&Streamtrace::direction>("StreamDirection", StreamDir_Forward, StreamDir_Both),
+    StreamtraceMember::any<&Streamtrace::x>("X"),
+    StreamtraceMember::any<&Streamtrace::y>("Y"),
+    StreamtraceMember::any<&Streamtrace::z>("Z"),
 };
 
 } // namespace
 
 std::span<const ObjectValue<Streamtrace>> ObjectTraits<Streamtrace>::values()
 {
-    return kernel::values;
+    return streamtraceValues;
 }
 
 } // namespace vantrix::kernel

@@ -1,22 +1,14 @@
 #include "kernel/StyleCheck.h"
 
+#include "kernel/NumberText.h"
 #include "kernel/StylePath.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace vantrix::kernel {
 
 namespace {
-
-/* The shortest text that reads back as the number. */
-std::string numberText(double number)
-{
-    char text[32];
-    const auto [end, error] = std::to_chars(text, text + sizeof text, number);
-    return error == std::errc() ? std::string(text, end) : "?";
-}
 
 std::string rangeText(const StyleEntry& entry)
 {

@@ -8,37 +8,37 @@ namespace vantrix::kernel {
 
 namespace {
 
-using Values = ObjectValues<Text>;
+using TextMember = ObjectValues<Text>;
 
-constexpr std::array values{
-    Values::any<&Text::text>("Text"),
-    Values::between<&Text::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D),
-    Values::any<&Text::x>("XPos"),
-    Values::any<&Text::y>("YPos"),
-    Values::any<&Text::z>("ZPos"),
-    Values::any<&Text::fontFamily>("FontFamily"),
-    Values::between<&Text::sizeUnits>("SizeUnits", Units_Grid, Units_Point),
-    Values::positive<&Text::height>("Height"),
-    Values::any<&Text::macroFunctionCommand>("MacroFunctionCommand"),
-    Values::color<&Text::color>("TextColor"),
-    Values::flag<&Text::isBold>("IsBold"),
-    Values::flag<&Text::isItalic>("IsItalic"),
-    Values::between<&Text::angle>("Angle", -360.0, 360.0),
-    Values::positive<&Text::lineSpacing>("LineSpacing"),
-    Values::between<&Text::anchor>("Anchor", TextAnchor_BottomLeft, TextAnchor_TopRight),
-    Values::between<&Text::type>("TextType", TextType_Regular, TextType_LaTeX),
-    Values::between<&Text::box>("BoxType", TextBox_None, TextBox_Hollow),
-    Values::positive<&Text::boxLineThickness>("LineThickness"),
-    Values::color<&Text::boxColor>("Color"),
-    Values::color<&Text::boxFillColor>("FillColor"),
-    Values::between<&Text::boxMargin>("Margin", 0.0, 2000.0),
+constexpr std::array textValues{
+    TextMember::any<&Text::text>("Text"),
+    TextMember::between<&Text::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D),
+    TextMember::any<&Text::x>("XPos"),
+    TextMember::any<&Text::y>("YPos"),
+    TextMember::any<&Text::z>("ZPos"),
+    TextMember::any<&Text::fontFamily>("FontFamily"),
+    TextMember::between<&Text::sizeUnits>("SizeUnits", Units_Grid, Units_Point),
+    TextMember::positive<&Text::height>("Height"),
+    TextMember::any<&Text::macroFunctionCommand>("MacroFunctionCommand"),
+    TextMember::color<&Text::color>("TextColor"),
+    TextMember::flag<&Text::isBold>("IsBold"),
+    TextMember::flag<&Text::isItalic>("IsItalic"),
+    TextMember::between<&Text::angle>("Angle", -360.0, 360.0),
+    TextMember::positive<&Text::lineSpacing>("LineSpacing"),
+    TextMember::between<&Text::anchor>("Anchor", TextAnchor_BottomLeft, TextAnchor_TopRight),
+    TextMember::between<&Text::type>("TextType", TextType_Regular, TextType_LaTeX),
+    TextMember::between<&Text::box>("BoxType", TextBox_None, TextBox_Hollow),
+    TextMember::positive<&Text::boxLineThickness>("LineThickness"),
+    TextMember::color<&Text::boxColor>("Color"),
+    TextMember::color<&Text::boxFillColor>("FillColor"),
+    TextMember::between<&Text::boxMargin>("Margin", 0.0, 2000.0),
 };
 
 } // namespace
 
 std::span<const ObjectValue<Text>> ObjectTraits<Text>::values()
 {
-    return kernel::values;
+    return textValues;
 }
 
 void ObjectTraits<Text>::check(const Text& text)

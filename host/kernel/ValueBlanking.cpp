@@ -16,7 +16,7 @@ namespace vantrix::kernel {
 namespace {
 
 using Comparison = BlankedZoneCache::Comparison;
-using Entry = BlankedZoneCache::Entry;
+using KeptResult = BlankedZoneCache::Entry;
 
 constexpr std::size_t keptResults = 4; /* more than two frames rarely show a zone */
 
@@ -59,7 +59,7 @@ bool areEqual(const Comparison& one, const Comparison& other)
                 : one.otherValues && one.otherValues == other.otherValues && one.otherLocation == other.otherLocation);
 }
 
-bool areEqual(const Entry& one, const Entry& other)
+bool areEqual(const KeptResult& one, const KeptResult& other)
 {
     return one.cellMode == other.cellMode && one.trimsCells == other.trimsCells && one.isFlat == other.isFlat &&
            std::ranges::equal(one.comparisons, other.comparisons,
@@ -110,7 +110,7 @@ private:
 class Finder
 {
 public:
-    Finder(const Zone& zone, const Entry& rules)
+    Finder(const Zone& zone, const KeptResult& rules)
         : m_rules(rules)
         , m_corners(zone, rules.isFlat)
         , m_result(std::make_shared<BlankedZone>())
@@ -238,7 +238,7 @@ private:
         m_result->trimming.push_back(std::move(kept));
     }
 
-    const Entry& m_rules;
+    const KeptResult& m_rules;
     CellCorners m_corners;
     std::shared_ptr<BlankedZone> m_result;
 };
@@ -282,7 +282,7 @@ ValueBlanking ValueBlanking::read(const StyleStore& style, const Frame& frame)
 std::shared_ptr<const BlankedZone> ValueBlanking::of(const DataSet& dataSet, long zoneNumber) const
 {
     const Zone* zone = dataSet.zone(zoneNumber);
-    Entry wanted{{}, cellMode, trimsCells, isFlat, nullptr};
+    KeptResult wanted{{}, cellMode, trimsCells, isFlat, nullptr};
     for (const BlankingConstraint& constraint : constraints) {
         const bool isWithNumber = constraint.otherVariable == 0;
         const FieldArray* field = dataSet.field(zoneNumber, constraint.variable);
@@ -297,8 +297,8 @@ std::shared_ptr<const BlankedZone> ValueBlanking::of(const DataSet& dataSet, lon
     if (!zone || wanted.comparisons.empty()) {
         return nullptr;
     }
-    std::vector<Entry>& entries = zone->blankings().entries;
-    const auto known = std::ranges::find_if(entries, [&](const Entry& entry) { return areEqual(entry, wanted); });
+    std::vector<KeptResult>& entries = zone->blankings().entries;
+    const auto known = std::ranges::find_if(entries, [&](const KeptResult& entry) { return areEqual(entry, wanted); });
     if (known != entries.end()) {
         std::rotate(entries.begin(), known, known + 1);
     } else {

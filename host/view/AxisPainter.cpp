@@ -10,8 +10,6 @@
 namespace vantrix::view {
 namespace {
 
-constexpr double edgePercent = 1.0; /* of the frame's height, kept free around everything */
-
 AxisScale scaleOf(const AxisStyle& axis)
 {
     return {axis.minimum, axis.maximum, axis.isLogarithmic, axis.isReversed};

@@ -6,7 +6,7 @@
 namespace vantrix::view {
 namespace {
 
-QPointF onCircle(double angle)
+QPointF directionAt(double angle)
 {
     return {std::cos(angle), -std::sin(angle)};
 }
@@ -27,8 +27,10 @@ AxisPath AxisPath::line(QPointF from, QPointF to, QPointF outward, std::function
 AxisPath AxisPath::arc(QPointF center, double radius, double from, double to, bool isInner)
 {
     AxisPath path;
-    path.m_place = [=](double fraction) { return center + radius * onCircle(std::lerp(from, to, fraction)); };
-    path.m_outward = [=](double fraction) { return (isInner ? -1.0 : 1.0) * onCircle(std::lerp(from, to, fraction)); };
+    path.m_place = [=](double fraction) { return center + radius * directionAt(std::lerp(from, to, fraction)); };
+    path.m_outward = [=](double fraction) {
+        return (isInner ? -1.0 : 1.0) * directionAt(std::lerp(from, to, fraction));
+    };
     path.m_length = radius * std::abs(to - from);
     path.m_isStraight = false;
     return path;

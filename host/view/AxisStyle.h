@@ -11,6 +11,8 @@ namespace vantrix::view {
 
 class StyleReader;
 
+constexpr double edgePercent = 1.0; /* of the frame's height, kept free around the axes of flat plots */
+
 /* Lengths of all of these are, where nothing else is said, per cent of the frame's height. */
 
 struct TextStyle

@@ -1,5 +1,7 @@
 #include "view/Camera3D.h"
 
+#include "view/Angles.h"
+
 #include <vtkCamera.h>
 
 #include <algorithm>
@@ -23,11 +25,6 @@ Point3 cross(const Point3& a, const Point3& b)
 Point3 plus(const Point3& a, double factor, const Point3& b)
 {
     return {a[0] + factor * b[0], a[1] + factor * b[1], a[2] + factor * b[2]};
-}
-
-double radians(double degrees)
-{
-    return degrees * std::numbers::pi / 180.0;
 }
 
 } // namespace

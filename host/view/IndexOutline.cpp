@@ -1,5 +1,7 @@
 #include "view/IndexOutline.h"
 
+#include "view/GridIndex.h"
+
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
 #include <vtkIdTypeArray.h>
@@ -15,13 +17,6 @@
 namespace vantrix::view {
 namespace {
 
-using Index = std::array<vtkIdType, 3>;
-
-vtkIdType number(const Index& index, const Index& size)
-{
-    return (index[2] * size[1] + index[1]) * size[0] + index[0];
-}
-
 /* The first and the last index; one where they are the same. */
 std::vector<vtkIdType> ends(vtkIdType size)
 {
@@ -34,9 +29,9 @@ vtkSmartPointer<vtkPolyData> indexOutline(vtkStructuredGrid& grid, const char* p
 {
     std::array<int, 3> dimensions{};
     grid.GetDimensions(dimensions.data());
-    const Index size{dimensions[0], dimensions[1], dimensions[2]};
-    const Index cells{std::max<vtkIdType>(1, size[0] - 1), std::max<vtkIdType>(1, size[1] - 1),
-                      std::max<vtkIdType>(1, size[2] - 1)};
+    const GridIndex size{dimensions[0], dimensions[1], dimensions[2]};
+    const GridIndex cells{std::max<vtkIdType>(1, size[0] - 1), std::max<vtkIdType>(1, size[1] - 1),
+                          std::max<vtkIdType>(1, size[2] - 1)};
     const auto coordinates = vtkSmartPointer<vtkPoints>::New();
     const auto segments = vtkSmartPointer<vtkCellArray>::New();
     const auto points = vtkSmartPointer<vtkIdTypeArray>::New();
@@ -44,20 +39,20 @@ vtkSmartPointer<vtkPolyData> indexOutline(vtkStructuredGrid& grid, const char* p
     coordinates->SetDataType(grid.GetPoints()->GetDataType());
     points->SetName(pointNumbers);
     owners->SetName(cellNumbers);
-    const auto addLine = [&](Index index, std::size_t along) {
+    const auto addLine = [&](GridIndex index, std::size_t along) {
         for (index[along] = 0; index[along] < size[along]; ++index[along]) {
             std::array<double, 3> place{};
-            grid.GetPoints()->GetPoint(number(index, size), place.data());
+            grid.GetPoints()->GetPoint(numberAt(index, size), place.data());
             const vtkIdType point = coordinates->InsertNextPoint(place.data());
-            points->InsertNextValue(number(index, size));
+            points->InsertNextValue(numberAt(index, size));
             if (index[along] > 0) {
                 segments->InsertNextCell({point - 1, point});
-                Index owner = index;
+                GridIndex owner = index;
                 --owner[along];
                 for (std::size_t axis = 0; axis < 3; ++axis) {
                     owner[axis] = std::min(owner[axis], cells[axis] - 1);
                 }
-                owners->InsertNextValue(number(owner, cells));
+                owners->InsertNextValue(numberAt(owner, cells));
             }
         }
     };
@@ -69,7 +64,7 @@ vtkSmartPointer<vtkPolyData> indexOutline(vtkStructuredGrid& grid, const char* p
         }
         for (const vtkIdType atAcross : ends(size[across])) {
             for (const vtkIdType atUp : ends(size[up])) {
-                Index index{};
+                GridIndex index{};
                 index[across] = atAcross;
                 index[up] = atUp;
                 addLine(index, along);

@@ -2,6 +2,7 @@
 
 #include "kernel/BlankedZone.h"
 #include "kernel/probe/ShownPlanes.h"
+#include "view/GridIndex.h"
 
 #include <vtkCellArray.h>
 #include <vtkCellData.h>
@@ -16,13 +17,6 @@
 
 namespace vantrix::view {
 namespace {
-
-using Index = std::array<vtkIdType, 3>;
-
-vtkIdType number(const Index& index, const Index& size)
-{
-    return (index[2] * size[1] + index[1]) * size[0] + index[0];
-}
 
 class PlaneBuilder
 {
@@ -47,11 +41,11 @@ public:
         const std::size_t across = (axis + 1) % 3;
         const std::size_t up = (axis + 2) % 3;
         const vtkIdType first = m_coordinates->GetNumberOfPoints();
-        Index index{};
+        GridIndex index{};
         index[axis] = at;
         for (index[up] = 0; index[up] < m_points[up]; ++index[up]) {
             for (index[across] = 0; index[across] < m_points[across]; ++index[across]) {
-                const vtkIdType point = number(index, m_points);
+                const vtkIdType point = numberAt(index, m_points);
                 std::array<double, 3> place{};
                 m_grid.GetPoints()->GetPoint(point, place.data());
                 m_coordinates->InsertNextPoint(place.data());
@@ -82,23 +76,23 @@ public:
     }
 
 private:
-    bool isBlanked(const Index& cell) const
+    bool isBlanked(const GridIndex& cell) const
     {
-        return m_blanked && m_blanked->cells[static_cast<std::size_t>(number(cell, m_cells))];
+        return m_blanked && m_blanked->cells[static_cast<std::size_t>(numberAt(cell, m_cells))];
     }
 
     /* The cell of a face in a plane: one that is drawn, if there is. */
-    vtkIdType owner(const Index& behind, std::size_t axis, vtkIdType plane) const
+    vtkIdType owner(const GridIndex& behind, std::size_t axis, vtkIdType plane) const
     {
-        Index before = behind;
+        GridIndex before = behind;
         before[axis] = std::max<vtkIdType>(0, plane - 1);
-        return number(isBlanked(behind) && !isBlanked(before) ? before : behind, m_cells);
+        return numberAt(isBlanked(behind) && !isBlanked(before) ? before : behind, m_cells);
     }
 
     vtkStructuredGrid& m_grid;
     const kernel::BlankedZone* m_blanked;
-    Index m_points{};
-    Index m_cells{};
+    GridIndex m_points{};
+    GridIndex m_cells{};
     vtkSmartPointer<vtkPoints> m_coordinates = vtkSmartPointer<vtkPoints>::New();
     vtkSmartPointer<vtkCellArray> m_quads = vtkSmartPointer<vtkCellArray>::New();
     vtkSmartPointer<vtkIdTypeArray> m_pointNumbers = vtkSmartPointer<vtkIdTypeArray>::New();

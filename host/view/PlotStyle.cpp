@@ -2,6 +2,7 @@
 
 #include "kernel/DataSet.h"
 #include "kernel/Frame.h"
+#include "kernel/PlotDefaults.h"
 #include "view/StyleReader.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 namespace vantrix::view {
 namespace {
 
-constexpr long contourGroupCount = 8;
 constexpr int lineAxisCount = 5;
 
 FrameStyle readFrame(const StyleReader& style)
@@ -206,7 +206,7 @@ std::vector<BlankingBoundaryStyle> readBoundaries(const kernel::StyleStore& stor
 void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, const kernel::DataSet& dataSet)
 {
     const StyleReader style(store, frame);
-    for (long group = 1; group <= contourGroupCount; ++group) {
+    for (long group = 1; group <= kernel::contourGroupCount; ++group) {
         plot.contourGroups.push_back(readContourGroup(StyleReader(store, frame, "GlobalContour", group), dataSet));
     }
     const StyleReader layers = style.below("FieldLayers");

@@ -1,5 +1,6 @@
 #include "view/PolarAxisPainter.h"
 
+#include "view/Angles.h"
 #include "view/HitMap.h"
 #include "view/LinePattern.h"
 
@@ -9,14 +10,6 @@
 
 namespace vantrix::view {
 namespace {
-
-constexpr double turn = 2.0 * std::numbers::pi;
-constexpr double edgePercent = 1.0; /* of the frame's height, kept free around everything */
-
-double radians(double degrees)
-{
-    return degrees / 360.0 * turn;
-}
 
 void withoutLast(std::vector<Tick>& ticks)
 {

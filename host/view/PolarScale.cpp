@@ -1,5 +1,6 @@
 #include "view/PolarScale.h"
 
+#include "view/Angles.h"
 #include "view/PlotStyle.h"
 
 #include <algorithm>
@@ -9,8 +10,6 @@
 
 namespace vantrix::view {
 namespace {
-
-constexpr double turn = 2.0 * std::numbers::pi;
 
 QPointF onCircle(double angle)
 {

@@ -1,13 +1,12 @@
 #include "view/StreamtraceStyle.h"
 
+#include "kernel/PlotDefaults.h"
 #include "view/StyleReader.h"
 
 #include <algorithm>
 
 namespace vantrix::view {
 namespace {
-
-constexpr long contourGroupCount = 8;
 
 StreamlineStyle readLine(const StyleReader& style)
 {
@@ -26,7 +25,7 @@ RodRibbonStyle readRodRibbon(const StyleReader& style)
     const StyleReader contour = style.below("Contour");
     result.contour.isShown = contour.flag("Show");
     result.contour.type = contour.enumerator<ContourType_e>("ContourType");
-    result.contour.floodGroup = std::clamp(contour.integer("FloodColoring"), 1L, contourGroupCount);
+    result.contour.floodGroup = std::clamp(contour.integer("FloodColoring"), 1L, kernel::contourGroupCount);
     result.contour.lineGroup = contour.integer("LineContourGroup");
     result.contour.lineColor = LayerColor::read(contour);
     result.contour.isLit = contour.flag("UseLightingEffect");

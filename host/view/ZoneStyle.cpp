@@ -1,5 +1,6 @@
 #include "view/ZoneStyle.h"
 
+#include "kernel/PlotDefaults.h"
 #include "view/StyleReader.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace vantrix::view {
 namespace {
 
 constexpr long firstContourColor = 64; /* colour numbers from here on mean "by contour group" */
-constexpr long contourGroupCount = 8;
 
 SurfaceSelection readSurfaces(const StyleReader& style)
 {
@@ -36,8 +36,8 @@ ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit
 {
     return {isLayerShown && style.flag("Show"),
             style.enumerator<ContourType_e>("ContourType"),
-            std::clamp(style.integer("FloodColoring"), 1L, contourGroupCount),
-            std::clamp(style.integer("LineContourGroup"), 1L, contourGroupCount),
+            std::clamp(style.integer("FloodColoring"), 1L, kernel::contourGroupCount),
+            std::clamp(style.integer("LineContourGroup"), 1L, kernel::contourGroupCount),
             LayerColor::read(style),
             style.real("LineThickness"),
             isLit && style.flag("UseLightingEffect"),
@@ -80,7 +80,7 @@ LayerColor LayerColor::read(const StyleReader& style, const char* key)
     if (number < firstContourColor) {
         return {indexedColor(number), 0};
     }
-    return {Qt::black, std::min(number - firstContourColor + 1, contourGroupCount)};
+    return {Qt::black, std::min(number - firstContourColor + 1, kernel::contourGroupCount)};
 }
 
 SymbolStyle SymbolStyle::read(const StyleReader& shape)

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "kernel/ApplicationLock.h"
+#include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/StyleStore.h"
+#include "kernel/UndoStack.h"
 #include "kernel/macro/CommandArguments.h"
 #include "kernel/macro/Commands.h"
 #include "kernel/macro/MacroRecorder.h"
@@ -42,6 +45,41 @@ void guarded(Function&& function) noexcept
         function();
         return true;
     });
+}
+
+inline StyleStore& style()
+{
+    return Kernel::instance().style();
+}
+
+inline const Document& document()
+{
+    return Kernel::instance().document();
+}
+
+/* The name of the step of undo under way. */
+inline void nameStep(const char* name)
+{
+    Kernel::instance().undoStack().nameStep(name);
+}
+
+/* Keeps the style's text when a value was not taken as it was. */
+template<class Code>
+Code report(Code code)
+{
+    if (code != Code{}) {
+        fail(style().lastError());
+    }
+    return code;
+}
+
+/* Gives an answer that the caller may not have asked for. */
+template<class Target, class Value>
+void setIfNotNull(Target* target, Value value)
+{
+    if (target) {
+        *target = static_cast<Target>(value);
+    }
 }
 
 /* To be called first by whatever changes state. */

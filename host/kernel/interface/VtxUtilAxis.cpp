@@ -10,15 +10,12 @@
 #include "kernel/interface/Boundary.h"
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::setIfNotNull;
+using vantrix::kernel::boundary::style;
 
 namespace {
 
-StyleStore& style()
-{
-    return Kernel::instance().style();
-}
-
-const Frame& activeFrame()
+const Frame& expectFrame()
 {
     if (const Frame* frame = Kernel::instance().document().activeFrame()) {
         return *frame;
@@ -28,12 +25,12 @@ const Frame& activeFrame()
 
 AxisRanges ranges()
 {
-    return {style(), activeFrame()};
+    return {style(), expectFrame()};
 }
 
 AxisPlace placeOf(AxisName axis)
 {
-    return AxisPlace::find(style(), activeFrame(), axis);
+    return AxisPlace::find(style(), expectFrame(), axis);
 }
 
 /* Does something to the axes of the active frame for the function that was called with `arguments`. */
@@ -64,13 +61,6 @@ void expectKnownNames(VtxArgListHandle arguments)
             throw DataError("The argument \"" + each.name +
                             "\" is unknown; there are \"ViewOP\", \"Axis\", \"AxisNum\" and \"ConsiderBlanking\".");
         }
-    }
-}
-
-void setIfNotNull(long* place, long value)
-{
-    if (place) {
-        *place = value;
     }
 }
 

@@ -11,6 +11,7 @@
 #include <cctype>
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::setIfNotNull;
 
 namespace {
 
@@ -34,13 +35,6 @@ bool noSuch(const char* what, long number, long count)
 {
     return boundary::fail(std::string("There is no ") + what + " " + std::to_string(number) +
                           "; they are numbered from 1 to " + std::to_string(count) + ".");
-}
-
-void setIfNotNull(long* target, long value)
-{
-    if (target) {
-        *target = value;
-    }
 }
 
 template<class IsMember>

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::document;
 
 namespace {
 
@@ -20,18 +21,12 @@ template<auto Function, class Work, class... Arguments>
 bool act(const char* stepName, Work&& work, const Arguments&... arguments)
 {
     const auto run = [&] {
-        Kernel::instance().undoStack().nameStep(stepName);
+        boundary::nameStep(stepName);
         work(FrameActions(Kernel::instance()));
         return true;
     };
     return boundary::change<Function>(false, run, arguments...);
 }
-
-const Document& document()
-{
-    return Kernel::instance().document();
-}
-
 } // namespace
 
 bool VtxUtilFrameCreate(double left, double top, double width, double height)

@@ -8,38 +8,18 @@
 #include "kernel/interface/Boundary.h"
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::document;
+using vantrix::kernel::boundary::report;
+using vantrix::kernel::boundary::setIfNotNull;
+using vantrix::kernel::boundary::style;
 
 namespace {
 
-const Document& document()
-{
-    return Kernel::instance().document();
-}
-
-StyleStore& style()
-{
-    return Kernel::instance().style();
-}
-
-SetValueReturnCode_e report(SetValueReturnCode_e code)
-{
-    if (code != SetValueReturnCode_Ok) {
-        boundary::fail(style().lastError());
-    }
-    return code;
-}
-
-bool setIfNotNull(double* target, double value)
-{
-    if (target) {
-        *target = value;
-    }
-    return true;
-}
-
 bool answer(const PaperDimensions& dimensions, double* width, double* height)
 {
-    return setIfNotNull(width, dimensions.width) && setIfNotNull(height, dimensions.height);
+    setIfNotNull(width, dimensions.width);
+    setIfNotNull(height, dimensions.height);
+    return true;
 }
 
 } // namespace

@@ -5,17 +5,13 @@
 #include "kernel/interface/FrameObjectInterface.h"
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::nameStep;
 
 namespace {
 
 FrameObjectInterface<Geometry> geometries()
 {
     return FrameObjectInterface<Geometry>(Kernel::instance().geometries());
-}
-
-void nameStep(const char* name)
-{
-    Kernel::instance().undoStack().nameStep(name);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <optional>
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::setIfNotNull;
 
 namespace {
 
@@ -32,14 +33,6 @@ bool noSuch(const LineMaps& maps, long lineMap)
 {
     return boundary::fail("There is no line map " + std::to_string(lineMap) + " in this frame, which has " +
                           std::to_string(maps.count()) + ".");
-}
-
-template<class Number>
-void setIfNotNull(Number* target, long value)
-{
-    if (target) {
-        *target = static_cast<Number>(value);
-    }
 }
 
 } // namespace

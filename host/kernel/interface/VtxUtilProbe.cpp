@@ -11,6 +11,7 @@
 #include <optional>
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::setIfNotNull;
 
 /* What the interface hands out as VtxProbeInfoHandle. */
 struct VtxProbeInfo
@@ -99,14 +100,6 @@ long pointAt(const std::vector<long>& points, long corner)
 {
     return corner >= 1 && corner <= static_cast<long>(points.size()) ? points[static_cast<std::size_t>(corner - 1)] + 1
                                                                      : 0;
-}
-
-template<class Type, class Value>
-void setIfNotNull(Type* target, Value value)
-{
-    if (target) {
-        *target = value;
-    }
 }
 
 } // namespace

@@ -13,13 +13,10 @@
 
 using namespace std::string_view_literals; // compared by length first, which a plain literal is not
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::report;
+using vantrix::kernel::boundary::style;
 
 namespace {
-
-StyleStore& style()
-{
-    return Kernel::instance().style();
-}
 
 /* Both the style's own last error and that of the interface. */
 template<class Code>
@@ -27,15 +24,6 @@ Code refuse(Code code, const std::string& text)
 {
     style().setLastError(text);
     boundary::fail(text);
-    return code;
-}
-
-template<class Code>
-Code report(Code code)
-{
-    if (code != Code{}) {
-        boundary::fail(style().lastError());
-    }
     return code;
 }
 

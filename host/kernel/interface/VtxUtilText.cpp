@@ -6,17 +6,13 @@
 #include "kernel/interface/FrameObjectInterface.h"
 
 using namespace vantrix::kernel;
+using vantrix::kernel::boundary::nameStep;
 
 namespace {
 
 FrameObjectInterface<Text> texts()
 {
     return FrameObjectInterface<Text>(Kernel::instance().texts());
-}
-
-void nameStep(const char* name)
-{
-    Kernel::instance().undoStack().nameStep(name);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "kernel/macro/MacroCommand.h"
 
 #include "kernel/DataError.h"
+#include "kernel/NumberText.h"
 
 #include <algorithm>
 #include <array>
@@ -26,7 +27,7 @@ bool isPlainWord(std::string_view text)
            std::ranges::all_of(text, [](unsigned char c) { return std::isalnum(c) || c == '_'; });
 }
 
-std::string quoted(std::string_view text)
+std::string quotedText(std::string_view text)
 {
     std::string result = "\"";
     for (const char c : text) {
@@ -55,11 +56,9 @@ std::string quoted(std::string_view text)
     return result + '"';
 }
 
-std::string numberText(double value)
+std::string realText(double value)
 {
-    std::array<char, 40> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-    const std::string digits(text.data(), end);
+    const std::string digits = numberText(value);
     // A whole number would be read as one.
     return digits.find_first_not_of("-0123456789") == std::string::npos ? digits + ".0" : digits;
 }
@@ -84,14 +83,14 @@ std::string setText(const std::set<long>& numbers)
 struct ValueText
 {
     std::string operator()(long value) const { return std::to_string(value); }
-    std::string operator()(double value) const { return numberText(value); }
-    std::string operator()(const std::string& value) const { return isPlainWord(value) ? value : quoted(value); }
+    std::string operator()(double value) const { return realText(value); }
+    std::string operator()(const std::string& value) const { return isPlainWord(value) ? value : quotedText(value); }
     std::string operator()(const std::set<long>& value) const { return setText(value); }
     std::string operator()(const std::vector<std::string>& value) const
     {
         std::string text = "[";
         for (const std::string& each : value) {
-            text += (text.size() > 1 ? " " : "") + quoted(each);
+            text += (text.size() > 1 ? " " : "") + quotedText(each);
         }
         return text + ']';
     }

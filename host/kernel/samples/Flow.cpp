@@ -13,7 +13,6 @@ constexpr long radialCount = 49;
 constexpr long spanCount = 33;
 constexpr double height = 6.0;
 constexpr double farRadius = 9.0;
-constexpr double pi = std::numbers::pi;
 
 double smoothStep(double t)
 {
@@ -23,7 +22,7 @@ double smoothStep(double t)
 
 double towerRadius(double z)
 {
-    return 1.0 - 0.45 * smoothStep(z / height) + 0.06 * std::sin(2.0 * pi * z / 3.0);
+    return 1.0 - 0.45 * smoothStep(z / height) + 0.06 * std::sin(2.0 * std::numbers::pi * z / 3.0);
 }
 
 struct Velocity
@@ -45,12 +44,13 @@ void addVortexStreet(Velocity& flow, double& pressure, double x, double y, doubl
 {
     for (int n = 0; n < 7; ++n) {
         const double side = n % 2 == 0 ? 1.0 : -1.0;
-        const double xc = 1.9 + 1.15 * n + 0.35 * std::sin(2.0 * pi * z / height);
+        const double xc = 1.9 + 1.15 * n + 0.35 * std::sin(2.0 * std::numbers::pi * z / height);
         const double yc = side * (0.45 + 0.03 * n);
         const double dx = x - xc, dy = y - yc;
         const double core2 = 0.16 + 0.03 * n;
         const double r2 = dx * dx + dy * dy + 1e-12;
-        const double strength = -side * 0.9 * std::exp(-0.12 * n) * (0.6 + 0.4 * std::cos(pi * z / height));
+        const double strength =
+            -side * 0.9 * std::exp(-0.12 * n) * (0.6 + 0.4 * std::cos(std::numbers::pi * z / height));
         const double swirl = strength * (1.0 - std::exp(-r2 / core2)) / r2 * wall;
         flow.u -= swirl * dy;
         flow.v += swirl * dx;
@@ -68,7 +68,8 @@ void makeFlow(DataSet& dataSet)
     fillNodal<8>(zone, [](long point) {
         const long i = point % aroundCount, j = point / aroundCount % radialCount,
                    k = point / (aroundCount * radialCount);
-        const double turn = i == aroundCount - 1 ? 0.0 : 2.0 * pi * static_cast<double>(i) / (aroundCount - 1);
+        const double turn =
+            i == aroundCount - 1 ? 0.0 : 2.0 * std::numbers::pi * static_cast<double>(i) / (aroundCount - 1);
         const double z = height * static_cast<double>(k) / (spanCount - 1);
         const double radius = towerRadius(z);
         /* Rows crowd towards the wall, where the flow changes most. */
@@ -78,7 +79,8 @@ void makeFlow(DataSet& dataSet)
 
         const double wall = 1.0 - std::exp(-(r - radius) / 0.3);
         Velocity flow = flowPastCylinder(x, y, radius);
-        const double meander = 0.35 * std::sin(1.36 * x - 2.0 * pi * z / height) * smoothStep((x - 1.0) / 3.0);
+        const double meander =
+            0.35 * std::sin(1.36 * x - 2.0 * std::numbers::pi * z / height) * smoothStep((x - 1.0) / 3.0);
         const double width2 = 0.4 + 0.09 * std::max(x, 0.0);
         const double wake = smoothStep((x + 0.2) / 1.4) * std::exp(-(y - meander) * (y - meander) / width2);
         flow.u -= 0.75 * wall * wake * std::exp(-0.09 * std::max(x, 0.0));

@@ -10,7 +10,6 @@ namespace {
 
 constexpr double halfWidth = 4.0;
 constexpr double plateEnd = 9.0;
-constexpr double pi = std::numbers::pi;
 
 struct Stress
 {
@@ -69,7 +68,7 @@ Zone makeRing()
     }
     Zone zone = Zone::finiteElement("Around the hole", ZoneType_FEQuad, around * rings, cells);
     fillNodal<6>(zone, [](long point) {
-        const double angle = 2.0 * pi * static_cast<double>(point % around) / around;
+        const double angle = 2.0 * std::numbers::pi * static_cast<double>(point % around) / around;
         const double t = static_cast<double>(point / around) / (rings - 1);
         const double c = std::cos(angle), s = std::sin(angle);
         const double edge = halfWidth / std::max(std::abs(c), std::abs(s));

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t mostKept = 64;
+constexpr std::size_t mostDocuments = 64;
 
 /* The source begins on the line behind the head. */
 const QString head =
@@ -114,7 +114,7 @@ QByteArray LatexCompiler::dvi(const QString& source)
     if (made.isEmpty()) {
         fail(u"LaTeX made no page of the text; does it say anything?"_s);
     }
-    if (m_dvi.size() >= mostKept) {
+    if (m_dvi.size() >= mostDocuments) {
         m_dvi.clear();
     }
     m_dvi[source] = made;

@@ -6,7 +6,7 @@ namespace vantrix::view {
 
 namespace {
 
-constexpr std::size_t mostKept = 128;
+constexpr std::size_t mostPictures = 128;
 
 /* Steps of two, so that zooming does not make a picture at each turn of the wheel. */
 int resolution(double capitalPixels)
@@ -29,7 +29,7 @@ const LatexPictures::Picture& LatexPictures::picture(const QString& source, cons
     if (const auto known = m_pictures.find(key); known != m_pictures.end()) {
         return known->second;
     }
-    if (m_pictures.size() >= mostKept) {
+    if (m_pictures.size() >= mostPictures) {
         m_pictures.clear();
     }
     Picture made{{}, dpi, {}};

@@ -17,7 +17,7 @@ namespace {
 
 using toolbox::takeHostString;
 
-QString tr(char const* text)
+QString probeText(char const* text)
 {
     return QCoreApplication::translate("ProbeWidget", text);
 }
@@ -37,11 +37,11 @@ FaceInfo_s faceIn(IJKPlanes_e plane, IJK_s const& at)
     auto const text = [](QString const& translated) { return translated.toStdString(); };
     switch (plane) {
     case IJKPlanes_I:
-        return {"I-Plane", text(tr("I = %1").arg(at.i)), text(tr("J = %1\nK = %2").arg(at.j).arg(at.k))};
+        return {"I-Plane", text(probeText("I = %1").arg(at.i)), text(probeText("J = %1\nK = %2").arg(at.j).arg(at.k))};
     case IJKPlanes_J:
-        return {"J-Plane", text(tr("J = %1").arg(at.j)), text(tr("I = %1\nK = %2").arg(at.i).arg(at.k))};
+        return {"J-Plane", text(probeText("J = %1").arg(at.j)), text(probeText("I = %1\nK = %2").arg(at.i).arg(at.k))};
     case IJKPlanes_K:
-        return {"K-Plane", text(tr("K = %1").arg(at.k)), text(tr("I = %1\nJ = %2").arg(at.i).arg(at.j))};
+        return {"K-Plane", text(probeText("K = %1").arg(at.k)), text(probeText("I = %1\nJ = %2").arg(at.i).arg(at.j))};
     default:
         return {"Unknown", {}, {}};
     }
