@@ -30,16 +30,16 @@ bool VtxUtilQueryZoneCanPlotVolumeStreamtraces(long zone);
 long VtxUtilStreamtraceGetCount(void);
 
 /*
- * Adds streamtraces behind those that there are:
- *   "StreamType"          long    a Streamtrace_e; of a 2D plot `Streamtrace_TwoDLine`, of a 3D plot one of the others
- *   "StreamDirection"     long    a StreamDir_e
- *   "DistributionRegion"  long    a DistributionRegion_e; left out, a rake when a second position is given, else a
- * point "X1" "Y1" "Z1"        double  the position, or the beginning of a rake, in coordinates of the axes; "Z1" in 3D
- * only "X2" "Y2" "Z2"        double  the end of a rake "Zone"                long    with "I1" "J1" "K1" and "I2" "J2"
- * "K2": the same as a point of a zone, from 1; J and K may be left out and are then 1. Of a finite-element zone "I1" is
- * the number of a point "NumPts"              long    how many streamtraces a rake or surfaces get, 1 to 5000 Type and
- * direction that are left out are the defaults of the frame for its plot type ("FrameSetup" / "Default2DStreamtrace",
- * "Default3DStreamtrace"), "NumPts" is "FrameSetup" / "NumStreamrakePoints".
+ * Adds streamtraces behind those that there are. "StreamType" (long) is a Streamtrace_e: `Streamtrace_TwoDLine` in a 2D
+ * plot, one of the others in a 3D plot; "StreamDirection" (long) is a StreamDir_e. Without them it is what the frame
+ * has for its plot type ("FrameSetup" / "Default2DStreamtrace", "Default3DStreamtrace").
+ *
+ * "DistributionRegion" (long) is a DistributionRegion_e; without it a rake when a second position is given, else a
+ * point. "X1", "Y1" and, in 3D only, "Z1" (double) are the position, or the beginning of a rake, in coordinates of the
+ * axes; "X2", "Y2", "Z2" the end of a rake. Instead, "Zone" with "I1", "J1", "K1" and "I2", "J2", "K2" (long) name
+ * points of a zone, counted from 1; J and K may be left out and are then 1. Of a finite-element zone "I1" is the number
+ * of a point. "NumPts" (long, 1 to 5000) is how many streamtraces a rake or surfaces get; without it "FrameSetup" /
+ * "NumStreamrakePoints".
  *
  * Lines on surfaces start on the surface that is nearest, no further away than a hundredth of the size of its zone. The
  * volume formats start inside of volumes; a position that is as near as that to the surface of one starts just below
