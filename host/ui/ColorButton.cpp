@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QPixmap>
 #include <QToolButton>
 #include <QWidgetAction>
@@ -19,6 +20,9 @@ QIcon swatch(int color, QSize size)
 {
     QPixmap pixmap(size);
     pixmap.fill(QColor::fromRgb(toolbox::basicColor(color)));
+    QPainter painter(&pixmap); // a frame, for colours like that of the button
+    painter.setPen(QColor(0, 0, 0, 90));
+    painter.drawRect(QRect(QPoint(), size - QSize(1, 1)));
     return pixmap;
 }
 

@@ -92,11 +92,13 @@ QPolygonF HitMap::handles(const kernel::PickedObject& object) const
     constexpr qsizetype mostOfLine = 8;
     QPolygonF corners;
     QPolygonF alongLines;
+    int areaCount = 0;
     for (const Shape& shape : m_shapes) {
         if (shape.object != object) {
             continue;
         }
         if (shape.isArea) {
+            ++areaCount;
             corners << shape.outline.mid(0, shape.outline.isClosed() ? shape.outline.size() - 1 : -1);
             continue;
         }
@@ -106,7 +108,11 @@ QPolygonF HitMap::handles(const kernel::PickedObject& object) const
             alongLines << shape.outline[count == 1 ? 0 : i * last / (count - 1)];
         }
     }
-    // The numbers of an axis belong to it, and would bury it below their corners.
+    // The numbers of an axis belong to it, and would be buried below the corners of each.
+    if (areaCount > 1) {
+        const QRectF box = corners.boundingRect();
+        corners = QPolygonF{box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()};
+    }
     return alongLines.isEmpty() ? corners : alongLines;
 }
 

@@ -28,7 +28,8 @@ public:
     /* The object at a place, or not farther away from it than `reach`; of several the one that is picked first. */
     std::optional<kernel::PickedObject> at(QPointF place, double reach) const;
 
-    /* The ends and a few points of an object's lines, else the corners of its areas; none when it was not painted. */
+    /* The ends and a few points of an object's lines, else the corners of its area, or of the
+     * box around several; none when it was not painted. */
     QPolygonF handles(const kernel::PickedObject& object) const;
 
 private:

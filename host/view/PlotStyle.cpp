@@ -319,7 +319,6 @@ void readAxes(PlotStyle& plot, const kernel::StyleStore& store, long frame, cons
     plot.keepsAxisLengths = axes.flag("PreserveAxisScale");
     if (plot.type == PlotType_PolarLine) {
         plot.thetaPeriod = axes.real("ThetaPeriod");
-        plot.thetaMode = axes.enumerator<ThetaMode_e>("ThetaMode");
     } else if (plot.type != PlotType_Cartesian3D && axes.enumerator<AxisMode_e>("AxisMode") != AxisMode_Independent) {
         plot.xToYRatio = axes.real("DepXToYRatio");
     }

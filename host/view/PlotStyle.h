@@ -207,7 +207,6 @@ struct PlotStyle
     bool keepsAxisLengths =
         false;                  /* where that makes it necessary, ranges are widened and the area is not made smaller */
     double thetaPeriod = 360.0; /* of a polar plot: theta of one full circle */
-    ThetaMode_e thetaMode = ThetaMode_Degrees;
     bool resetsEdges = true; /* of a 3D plot: its axes choose their edges anew when it is turned */
     double boxPadding = 0.0; /* of a 3D plot: space between data and box, as part of the range */
     TripodStyle tripod;
