@@ -17,13 +17,9 @@
 #include <cmath>
 
 using namespace vantrix;
+using namespace colornumber;
 
 namespace {
-
-constexpr long red = 1;
-constexpr long green = 2;
-constexpr long blue = 3;
-constexpr long firstContourColor = 64;
 
 /* A sample with every layer off, to turn on one at a time. */
 class FieldLayers : public testing::Test
@@ -70,7 +66,7 @@ TEST_F(FieldLayers, FillsSymbolsAndSizesThem)
     sample->set("FieldMap/Scatter/FrameSize", 4.0, 1);
     EXPECT_GT(count(image(), Qt::red), outlined);
     sample->set("FieldMap/Scatter/IsFilled", 1L, 1);
-    sample->set("FieldMap/Scatter/FillColor", firstContourColor, 1);
+    sample->set("FieldMap/Scatter/FillColor", firstContourGroup, 1);
     sample->set("FieldMap/Scatter/Color", 0L, 1);
     EXPECT_LT(count(image(), Qt::red), filled) << "coloured by the contour group now";
 }
@@ -418,7 +414,7 @@ TEST_F(FieldLayers, HaveALegendForEachGroupInUse)
     // The mesh takes its colours from another group, which has a legend of its
     // own beside the plot.
     sample->set("FieldLayers/ShowMesh", 1L);
-    sample->set("FieldMap/Mesh/Color", firstContourColor + 1, 1);
+    sample->set("FieldMap/Mesh/Color", firstContourGroup + 1, 1);
     EXPECT_TRUE(legendAt(0.9, 0.4));
     EXPECT_TRUE(legendAt(0.4, 0.12));
 }

@@ -5,6 +5,14 @@
 
 #include <string>
 
+/* Colour numbers of style. */
+namespace colornumber {
+constexpr long red = 1;
+constexpr long green = 2;
+constexpr long blue = 3;
+constexpr long firstContourGroup = 64;
+} // namespace colornumber
+
 namespace vantrix::kernel {
 class Frame;
 class Kernel;

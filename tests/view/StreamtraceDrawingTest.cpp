@@ -18,13 +18,9 @@
 #include <cmath>
 
 using namespace vantrix;
+using namespace colornumber;
 
 namespace {
-
-constexpr long red = 1;
-constexpr long green = 2;
-constexpr long blue = 3;
-constexpr long firstContourColor = 64;
 
 /* The flow past the tower with red streamtraces shown and nothing else. */
 class Streamtraces : public testing::Test
@@ -134,7 +130,7 @@ TEST_F(Streamtraces, AreDrawnAsLinesAndAColourTracesAndMakesNothingAnew)
     EXPECT_EQ(geometryCount(), made);
     EXPECT_EQ(sample->kernel.streamtracePaths().tracedCount(), traced);
 
-    sample->set("StreamAttributes/Color", firstContourColor);
+    sample->set("StreamAttributes/Color", firstContourGroup);
     EXPECT_EQ(count(image(), Qt::blue), 0) << "coloured by the contour group";
     EXPECT_EQ(sample->kernel.streamtracePaths().tracedCount(), traced);
     sample->set("StreamtraceLayers/Show", 0L);
