@@ -27,8 +27,8 @@ constexpr auto numbersName = "vxPoints";
 /* The values of a field at the points of a zone; of a cell-centred one the mean of the cells around each. */
 vtkSmartPointer<vtkDataArray> pointValues(vtkDataSet* grid, const FieldArray* field)
 {
-    const vtkSmartPointer<vtkDataArray> values = field ? field->load() : nullptr;
-    if (!values || field->location == ValueLocation_Nodal) {
+    vtkSmartPointer<vtkDataArray> values = field ? field->load() : nullptr;
+    if (!field || !values || field->location == ValueLocation_Nodal) {
         return values;
     }
     const auto shape = vtkSmartPointer<vtkDataSet>::Take(grid->NewInstance());
@@ -43,7 +43,7 @@ vtkSmartPointer<vtkDataArray> pointValues(vtkDataSet* grid, const FieldArray* fi
 vtkSmartPointer<vtkDoubleArray> vectorsOf(const DataSet& dataSet, long zone, vtkDataSet* grid,
                                           const VelocitySource& source)
 {
-    const auto vectors = vtkSmartPointer<vtkDoubleArray>::New();
+    auto vectors = vtkSmartPointer<vtkDoubleArray>::New();
     vectors->SetName(VelocityField::arrayName);
     vectors->SetNumberOfComponents(3);
     vectors->SetNumberOfTuples(grid->GetNumberOfPoints());
@@ -64,7 +64,7 @@ vtkSmartPointer<vtkDoubleArray> vectorsOf(const DataSet& dataSet, long zone, vtk
 
 vtkSmartPointer<vtkIdTypeArray> allNumbers(vtkIdType count)
 {
-    const auto numbers = vtkSmartPointer<vtkIdTypeArray>::New();
+    auto numbers = vtkSmartPointer<vtkIdTypeArray>::New();
     numbers->SetName(numbersName);
     numbers->SetNumberOfTuples(count);
     for (vtkIdType i = 0; i < count; ++i) {
@@ -85,7 +85,7 @@ vtkSmartPointer<vtkPointSet> wholeZone(const DataSet& dataSet, long zone, const 
     return points;
 }
 
-vtkSmartPointer<vtkPointSet> withoutBlanked(vtkSmartPointer<vtkPointSet> cells, const BlankedZone& blanked)
+vtkSmartPointer<vtkPointSet> withoutBlanked(vtkPointSet* cells, const BlankedZone& blanked)
 {
     vtkNew<vtkIdList> left;
     const vtkIdType count = std::min(cells->GetNumberOfCells(), static_cast<vtkIdType>(blanked.cells.size()));
@@ -117,7 +117,7 @@ vtkSmartPointer<vtkStructuredGrid> planeOf(vtkStructuredGrid& volume, std::size_
             }
         }
     }
-    const auto plane = vtkSmartPointer<vtkStructuredGrid>::New();
+    auto plane = vtkSmartPointer<vtkStructuredGrid>::New();
     plane->SetDimensions(last[0] - first[0] + 1, last[1] - first[1] + 1, last[2] - first[2] + 1);
     vtkNew<vtkPoints> points;
     points->SetDataType(volume.GetPoints()->GetDataType());
@@ -255,7 +255,7 @@ vtkSmartPointer<vtkDataArray> VelocityField::valuesAtPoints(const Block& block, 
     if (!ofZone) {
         return nullptr;
     }
-    const auto values = vtkSmartPointer<vtkDoubleArray>::New();
+    auto values = vtkSmartPointer<vtkDoubleArray>::New();
     values->SetNumberOfTuples(block.pointNumbers->GetNumberOfTuples());
     for (vtkIdType i = 0; i < values->GetNumberOfTuples(); ++i) {
         values->SetValue(i, ofZone->GetComponent(block.pointNumbers->GetValue(i), 0));

@@ -75,7 +75,7 @@ public:
 
     vtkSmartPointer<vtkPolyData> result(bool hasValues) const
     {
-        const auto surface = vtkSmartPointer<vtkPolyData>::New();
+        auto surface = vtkSmartPointer<vtkPolyData>::New();
         surface->SetPoints(m_points);
         surface->SetPolys(m_polygons);
         surface->GetPointData()->SetNormals(m_normals);

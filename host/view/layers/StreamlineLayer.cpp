@@ -33,7 +33,7 @@ public:
 
     vtkSmartPointer<vtkPolyData> result(bool hasValues) const
     {
-        const auto lines = vtkSmartPointer<vtkPolyData>::New();
+        auto lines = vtkSmartPointer<vtkPolyData>::New();
         lines->SetPoints(m_points);
         lines->SetLines(m_lines);
         if (hasValues) {
