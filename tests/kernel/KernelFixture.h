@@ -3,6 +3,7 @@
 #include "api/VtxUtil.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/MouseModes.h"
 #include "kernel/PlotDefaults.h"
 #include "kernel/SampleData.h"
 #include "kernel/StateChanges.h"
@@ -43,6 +44,7 @@ protected:
     void SetUp() override
     {
         kernel().reset();
+        kernel().mouseModes().set(MouseMode_Selector);
         m_violations = VtxUtilLockGetViolationCount();
         VtxUtilStateChangeAddListener(&KernelTest::keep, this);
     }
