@@ -76,8 +76,9 @@ void AutoSave::save()
         return;
     }
     std::string text = m_layout.text();
-    if (text == m_savedText)
+    if (text == m_savedText) {
         return;
+    }
     try {
         kernel::replaceFile(file(nameEnding).toStdString(), m_layout.fileName());
         kernel::replaceFile(file(copyEnding).toStdString(), text);
@@ -92,8 +93,9 @@ QList<AutoSave::Copy> AutoSave::leftBehind() const
     QList<Copy> copies;
     for (const QFileInfo& info : QDir(m_folder).entryInfoList({u'*' + copyEnding}, QDir::Files, QDir::Time)) {
         const QString path = info.absoluteFilePath();
-        if (info.completeBaseName() == m_session || !isLeftBehind(path))
+        if (info.completeBaseName() == m_session || !isLeftBehind(path)) {
             continue;
+        }
         QFile name(sibling(path, nameEnding));
         const QString original = name.open(QIODevice::ReadOnly) ? QString::fromUtf8(name.readAll()) : QString();
         copies << Copy{path, original, info.lastModified()};

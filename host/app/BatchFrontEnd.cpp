@@ -13,8 +13,9 @@ bool BatchFrontEnd::showMessage(const std::string& text, MessageBox_e type)
 
 void BatchFrontEnd::showStatus(const std::string& text)
 {
-    if (!text.empty())
+    if (!text.empty()) {
         std::cerr << "vxplot: " << text << '\n';
+    }
 }
 
 } // namespace vantrix::app

@@ -42,8 +42,9 @@ private:
 bool tell(bool isDone)
 {
     const kernel::Kernel& kernel = kernel::Kernel::instance();
-    if (!isDone)
+    if (!isDone) {
         kernel.frontEnd().showMessage(kernel.lastError(), MessageBox_Error);
+    }
     return isDone;
 }
 
@@ -66,10 +67,12 @@ bool BatchRun::open()
 {
     DataOpener opener(kernel::Kernel::instance());
     const QStringList& files = m_commandLine.files;
-    if (files.size() == 1 && LayoutFiles::isLayout(files.first()))
+    if (files.size() == 1 && LayoutFiles::isLayout(files.first())) {
         return tell(VtxUtilLayoutOpen(files.first().toUtf8().constData()));
-    if (!files.isEmpty())
+    }
+    if (!files.isEmpty()) {
         return opener.openFiles(files);
+    }
     const bool isMacroAlone = m_commandLine.task == CommandLine::Task::Batch && m_commandLine.sample.isEmpty();
     return isMacroAlone ||
            opener.openSample(m_commandLine.sample.isEmpty() ? QString(sampleOfDialogs) : m_commandLine.sample);
@@ -82,24 +85,27 @@ bool BatchRun::playMacro()
 
 bool BatchRun::exportPicture()
 {
-    if (m_commandLine.exportPath.isEmpty())
+    if (m_commandLine.exportPath.isEmpty()) {
         return true;
+    }
     kernel::Kernel& kernel = kernel::Kernel::instance();
     view::PageRenderer renderer(kernel);
     const PictureExport picture(renderer, *kernel.document().activePage());
     const QSize size =
         m_commandLine.exportDensity > 0 ? picture.sizeAt(m_commandLine.exportDensity) : m_commandLine.exportSize;
     const QString problem = picture.write(m_commandLine.exportPath, size);
-    if (!problem.isEmpty())
+    if (!problem.isEmpty()) {
         kernel.frontEnd().showMessage(problem.toStdString(), MessageBox_Error);
+    }
     return problem.isEmpty();
 }
 
 bool BatchRun::saveDialogPictures()
 {
     const QString problem = DialogPictures(m_commandLine.dialogsDirectory).save();
-    if (!problem.isEmpty())
+    if (!problem.isEmpty()) {
         kernel::Kernel::instance().frontEnd().showMessage(problem.toStdString(), MessageBox_Error);
+    }
     return problem.isEmpty();
 }
 

@@ -19,8 +19,9 @@ namespace {
 QStringList sampleNames()
 {
     QStringList names;
-    for (const std::string& sample : kernel::SampleData::names())
+    for (const std::string& sample : kernel::SampleData::names()) {
         names << QString::fromStdString(sample);
+    }
     return names;
 }
 
@@ -73,34 +74,45 @@ CommandLine answer(CommandLine::Task task, const QString& text)
 /* The first thing that is wrong with what belongs together; empty when nothing is. */
 QString inconsistency(const QCommandLineParser& parser, const Options& options, const CommandLine& line)
 {
-    if (parser.isSet(options.sample) && !sampleNames().contains(line.sample))
+    if (parser.isSet(options.sample) && !sampleNames().contains(line.sample)) {
         return u"There is no sample \"%1\"; there are %2."_s.arg(line.sample, sampleNames().join(u", "_s));
-    if (parser.isSet(options.sample) && !line.files.isEmpty())
+    }
+    if (parser.isSet(options.sample) && !line.files.isEmpty()) {
         return u"Give either files or --sample, not both."_s;
-    if (parser.isSet(options.size) && !line.exportSize.isValid())
+    }
+    if (parser.isSet(options.size) && !line.exportSize.isValid()) {
         return u"\"%1\" is no size; write width and height in pixels, 1 to %2, as in 1200x900."_s
             .arg(parser.value(options.size))
             .arg(PictureExport::mostPixels);
-    if (parser.isSet(options.density) && line.exportDensity == 0)
+    }
+    if (parser.isSet(options.density) && line.exportDensity == 0) {
         return u"\"%1\" is no density; write dots per inch, 10 to %2."_s.arg(parser.value(options.density))
             .arg(PictureExport::mostDensity);
-    if (parser.isSet(options.density) && parser.isSet(options.size))
+    }
+    if (parser.isSet(options.density) && parser.isSet(options.size)) {
         return u"Give either --size or --density, not both."_s;
-    if (!line.macro.isEmpty() && !QFileInfo(line.macro).isFile())
+    }
+    if (!line.macro.isEmpty() && !QFileInfo(line.macro).isFile()) {
         return u"There is no macro \"%1\"."_s.arg(line.macro);
-    if (line.files.size() > 1 && std::any_of(line.files.begin(), line.files.end(), LayoutFiles::isLayout))
+    }
+    if (line.files.size() > 1 && std::any_of(line.files.begin(), line.files.end(), LayoutFiles::isLayout)) {
         return u"Give a layout alone, without other files."_s;
-    if (line.task == CommandLine::Task::Dialogs)
-        return {};
-    if (line.task == CommandLine::Task::Window) {
-        if (parser.isSet(options.exportTo) || parser.isSet(options.size) || parser.isSet(options.density))
-            return u"--export, --size and --density need --batch."_s;
+    }
+    if (line.task == CommandLine::Task::Dialogs) {
         return {};
     }
-    if (line.exportPath.isEmpty() && line.macro.isEmpty())
+    if (line.task == CommandLine::Task::Window) {
+        if (parser.isSet(options.exportTo) || parser.isSet(options.size) || parser.isSet(options.density)) {
+            return u"--export, --size and --density need --batch."_s;
+        }
+        return {};
+    }
+    if (line.exportPath.isEmpty() && line.macro.isEmpty()) {
         return u"--batch needs --export FILE, or --macro FILE."_s;
-    if (line.files.isEmpty() && line.sample.isEmpty() && line.macro.isEmpty())
+    }
+    if (line.files.isEmpty() && line.sample.isEmpty() && line.macro.isEmpty()) {
         return u"--batch needs a file to open, --sample NAME, or --macro FILE."_s;
+    }
     return line.exportPath.isEmpty() ? QString() : PictureExport::problemWith(line.exportPath);
 }
 
@@ -115,24 +127,30 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     parser.addPositionalArgument(
         u"FILES"_s, u"Data files to open, or a layout; a PLOT3D grid and its solution are given together."_s,
         u"[FILES...]"_s);
-    if (!parser.parse(arguments))
+    if (!parser.parse(arguments)) {
         return answer(Task::Rejected, parser.errorText() + u" See vxplot --help."_s);
-    if (parser.isSet(options.help))
+    }
+    if (parser.isSet(options.help)) {
         return answer(Task::Answer, parser.helpText());
-    if (parser.isSet(options.version))
+    }
+    if (parser.isSet(options.version)) {
         return answer(Task::Answer,
                       u"%1 %2\n"_s.arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion()));
+    }
 
     CommandLine line;
-    if (parser.isSet(options.dialogs))
+    if (parser.isSet(options.dialogs)) {
         line.task = Task::Dialogs;
-    else if (parser.isSet(options.batch))
+    } else if (parser.isSet(options.batch)) {
         line.task = Task::Batch;
-    for (const QString& file : parser.positionalArguments())
+    }
+    for (const QString& file : parser.positionalArguments()) {
         line.files << QFileInfo(file).absoluteFilePath();
+    }
     line.sample = parser.value(options.sample);
-    if (parser.isSet(options.macro))
+    if (parser.isSet(options.macro)) {
         line.macro = QFileInfo(parser.value(options.macro)).absoluteFilePath();
+    }
     line.exportDensity = densityFrom(parser.value(options.density));
     line.exportPath = parser.value(options.exportTo);
     line.exportSize = sizeFrom(parser.value(options.size));

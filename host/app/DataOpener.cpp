@@ -17,8 +17,9 @@ DataOpener::DataOpener(kernel::Kernel& kernel)
 bool DataOpener::openFiles(const QStringList& files)
 {
     std::vector<std::string> names;
-    for (const QString& file : files)
+    for (const QString& file : files) {
         names.push_back(file.toStdString());
+    }
     return attempt([&names](kernel::OpenData& open) { open.files(names); });
 }
 
@@ -57,8 +58,9 @@ QString DataOpener::fileDialogFilter()
         u"Surfaces (*.stl *.ply)"_s,
     };
     QStringList patterns;
-    for (const QString& format : formats)
+    for (const QString& format : formats) {
         patterns << format.section(u'(', 1).chopped(1);
+    }
     return u"All data files (%1);;%2;;All files (*)"_s.arg(patterns.join(u' '), formats.join(u";;"_s));
 }
 

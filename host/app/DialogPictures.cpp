@@ -29,17 +29,20 @@ DialogPictures::DialogPictures(QString directory)
 
 QString DialogPictures::save() const
 {
-    if (!QDir().mkpath(m_directory))
+    if (!QDir().mkpath(m_directory)) {
         return u"Cannot make the folder \"%1\"."_s.arg(m_directory);
+    }
     QWidget parent;
     for (const sdk::ui::dialogs::DialogEntry& entry : sdk::ui::dialogs::dialogRegistry()) {
         QWidget* dialog = entry.launch(parent);
-        if (dialog == nullptr)
+        if (dialog == nullptr) {
             return u"The dialog \"%1\" did not open."_s.arg(entry.name());
+        }
         settle();
         const QString path = QDir(m_directory).filePath(entry.name() + u".png"_s);
-        if (!dialog->grab().save(path))
+        if (!dialog->grab().save(path)) {
             return u"Cannot write \"%1\"."_s.arg(path);
+        }
         entry.drop();
     }
     return {};

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPixmap>
 
 namespace vantrix::app {
@@ -35,8 +36,9 @@ QBrush gray(const QBrush& brush)
     if (const QGradient* gradient = brush.gradient()) {
         QGradient shades = *gradient;
         QGradientStops stops = shades.stops();
-        for (QGradientStop& stop : stops)
+        for (QGradientStop& stop : stops) {
             stop.second = gray(stop.second);
+        }
         shades.setStops(stops);
         result = QBrush(shades);
         result.setTransform(brush.transform());
@@ -80,32 +82,45 @@ public:
     void updateState(const QPaintEngineState& changed) override
     {
         const DirtyFlags dirty = changed.state();
-        if (dirty & DirtyTransform)
+        if (dirty & DirtyTransform) {
             m_onto.setTransform(changed.transform());
-        if (dirty & DirtyPen)
+        }
+        if (dirty & DirtyPen) {
             m_onto.setPen(gray(changed.pen()));
-        if (dirty & DirtyBrush)
+        }
+        if (dirty & DirtyBrush) {
             m_onto.setBrush(gray(changed.brush()));
-        if (dirty & DirtyBrushOrigin)
+        }
+        if (dirty & DirtyBrushOrigin) {
             m_onto.setBrushOrigin(changed.brushOrigin());
-        if (dirty & DirtyBackground)
+        }
+        if (dirty & DirtyBackground) {
             m_onto.setBackground(gray(changed.backgroundBrush()));
-        if (dirty & DirtyBackgroundMode)
+        }
+        if (dirty & DirtyBackgroundMode) {
             m_onto.setBackgroundMode(changed.backgroundMode());
-        if (dirty & DirtyFont)
+        }
+        if (dirty & DirtyFont) {
             m_onto.setFont(changed.font());
-        if (dirty & DirtyClipRegion)
+        }
+        if (dirty & DirtyClipRegion) {
             m_onto.setClipRegion(changed.clipRegion(), changed.clipOperation());
-        if (dirty & DirtyClipPath)
+        }
+        if (dirty & DirtyClipPath) {
             m_onto.setClipPath(changed.clipPath(), changed.clipOperation());
-        if (dirty & DirtyClipEnabled)
+        }
+        if (dirty & DirtyClipEnabled) {
             m_onto.setClipping(changed.isClipEnabled());
-        if (dirty & DirtyHints)
+        }
+        if (dirty & DirtyHints) {
             m_onto.setRenderHints(changed.renderHints());
-        if (dirty & DirtyCompositionMode)
+        }
+        if (dirty & DirtyCompositionMode) {
             m_onto.setCompositionMode(changed.compositionMode());
-        if (dirty & DirtyOpacity)
+        }
+        if (dirty & DirtyOpacity) {
             m_onto.setOpacity(changed.opacity());
+        }
     }
 
     void drawPath(const QPainterPath& path) override { m_onto.drawPath(path); }

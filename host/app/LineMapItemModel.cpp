@@ -41,8 +41,9 @@ int LineMapItemModel::rowCount(const QModelIndex& parent) const
 
 QVariant LineMapItemModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
+    }
     switch (role) {
     case Qt::DisplayRole:
     case Qt::EditRole: {
@@ -67,16 +68,18 @@ QVariant LineMapItemModel::data(const QModelIndex& index, int role) const
 
 Qt::ItemFlags LineMapItemModel::flags(const QModelIndex& index) const
 {
-    if (!index.isValid())
+    if (!index.isValid()) {
         return Qt::NoItemFlags;
+    }
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsUserCheckable |
            Qt::ItemNeverHasChildren;
 }
 
 bool LineMapItemModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || (role != Qt::CheckStateRole && role != Qt::EditRole))
+    if (!index.isValid() || (role != Qt::CheckStateRole && role != Qt::EditRole)) {
         return false;
+    }
     const sdk::AppLock lock;
     if (role == Qt::EditRole) {
         VtxUtilUndoSetStepName("Name Line Map");
@@ -101,8 +104,9 @@ void LineMapItemModel::refresh()
         m_count = count;
         endRemoveRows();
     }
-    if (count > 0)
+    if (count > 0) {
         Q_EMIT dataChanged(index(0), index(count - 1));
+    }
 }
 
 } // namespace vantrix::app

@@ -25,8 +25,9 @@ toolbox::StyleValue lineLayer(const QCheckBox& box)
 
 void reportUnless(bool isDone)
 {
-    if (!isDone)
+    if (!isDone) {
         VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    }
 }
 
 } // namespace
@@ -95,8 +96,9 @@ void LineMapPanel::showMenu(const QPoint& position)
 void LineMapPanel::removeSelected()
 {
     toolbox::Set lineMaps;
-    for (const QModelIndex& row : m_list->selectionModel()->selectedIndexes())
+    for (const QModelIndex& row : m_list->selectionModel()->selectedIndexes()) {
         lineMaps.addMember(row.row() + 1);
+    }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName("Delete Line Maps");
     reportUnless(VtxUtilLineMapDelete(lineMaps.handle()));

@@ -29,16 +29,18 @@ QString askForFile(QWidget& window, const QString& title, QFileDialog::AcceptMod
     dialog.setAcceptMode(mode);
     dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     dialog.setDefaultSuffix(MacroMenu::suffix().mid(1));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return {};
+    }
     QSettings().setValue(macroFolderKey, dialog.directory().absolutePath());
     return dialog.selectedFiles().first();
 }
 
 void report(bool isDone)
 {
-    if (!isDone)
+    if (!isDone) {
         VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    }
 }
 
 } // namespace
@@ -67,27 +69,31 @@ QString MacroMenu::suffix()
 void MacroMenu::record()
 {
     const QString file = askForFile(m_window, tr("Record Macro"), QFileDialog::AcceptSave);
-    if (file.isEmpty())
+    if (file.isEmpty()) {
         return;
+    }
     const bool isRecording = VtxUtilMacroRecordStart(file.toUtf8().constData());
     report(isRecording);
-    if (isRecording)
+    if (isRecording) {
         VtxUtilStatusMessage(tr("Recording \"%1\".").arg(file).toUtf8().constData());
+    }
 }
 
 void MacroMenu::stop()
 {
     const bool isWhole = VtxUtilMacroRecordStop();
     report(isWhole);
-    if (isWhole)
+    if (isWhole) {
         VtxUtilStatusMessage(tr("The macro is recorded.").toUtf8().constData());
+    }
 }
 
 void MacroMenu::play()
 {
     const QString file = askForFile(m_window, tr("Play Macro"), QFileDialog::AcceptOpen);
-    if (file.isEmpty())
+    if (file.isEmpty()) {
         return;
+    }
     bool isDone = false;
     {
         const sdk::WaitState wait;

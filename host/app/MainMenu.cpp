@@ -56,11 +56,13 @@ QMenu* MainMenu::menu(const QString& path)
         const QList<QAction*> actions = menu != nullptr ? menu->actions() : m_window.menuBar()->actions();
         QMenu* found = nullptr;
         for (const QAction* action : actions) {
-            if (action->menu() != nullptr && withoutAccessKey(action->text()) == withoutAccessKey(title))
+            if (action->menu() != nullptr && withoutAccessKey(action->text()) == withoutAccessKey(title)) {
                 found = action->menu();
+            }
         }
-        if (found == nullptr)
+        if (found == nullptr) {
             found = menu != nullptr ? menu->addMenu(title) : m_window.menuBar()->addMenu(title);
+        }
         menu = found;
     }
     return menu;

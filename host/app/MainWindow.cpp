@@ -52,8 +52,9 @@ QStringList localFiles(const QMimeData& data)
 {
     QStringList files;
     for (const QUrl& url : data.urls()) {
-        if (url.isLocalFile())
+        if (url.isLocalFile()) {
             files << url.toLocalFile();
+        }
     }
     return files;
 }
@@ -121,13 +122,15 @@ bool MainWindow::openFiles(const QStringList& files)
     if (isLayout ? !m_layoutFiles->open(files.first()) : !DataOpener(m_kernel).openFiles(files)) {
         // An entry whose file is gone is of no more use.
         for (const QString& file : files) {
-            if (!QFileInfo::exists(file))
+            if (!QFileInfo::exists(file)) {
                 m_recentFiles->remove(files);
+            }
         }
         return false;
     }
-    if (isPlain)
+    if (isPlain) {
         m_kernel.layout().setUnmodified();
+    }
     QSettings().setValue(openFolderKey, QFileInfo(files.first()).absolutePath());
     m_recentFiles->add(files);
     return true;
@@ -137,16 +140,18 @@ bool MainWindow::openSample(const QString& name)
 {
     const bool isPlain = !m_kernel.layout().isModified();
     const bool isOpen = DataOpener(m_kernel).openSample(name);
-    if (isOpen && isPlain)
+    if (isOpen && isPlain) {
         m_kernel.layout().setUnmodified();
+    }
     return isOpen;
 }
 
 bool MainWindow::playMacro(const QString& file)
 {
     const sdk::WaitState wait;
-    if (VtxUtilMacroRun(file.toUtf8().constData()))
+    if (VtxUtilMacroRun(file.toUtf8().constData())) {
         return true;
+    }
     m_frontEnd->showMessage(m_kernel.lastError(), MessageBox_Error);
     return false;
 }
@@ -160,39 +165,44 @@ void MainWindow::offerRecovery()
                                   tr("vxplot ended unexpectedly while %1 had unsaved changes. Open the copy of %2?")
                                       .arg(name, QLocale().toString(copy.time, QLocale::ShortFormat)));
         try {
-            if (answer == QMessageBox::Yes)
+            if (answer == QMessageBox::Yes) {
                 m_kernel.layout().recover(copy.file.toStdString(), copy.original.toStdString());
+            }
             AutoSave::remove(copy);
         } catch (const kernel::DataError& failure) {
             m_frontEnd->showMessage(failure.what(), MessageBox_Error);
         }
-        if (answer == QMessageBox::Yes)
+        if (answer == QMessageBox::Yes) {
             break; // the others are offered again at the next start
+        }
     }
 }
 
 void MainWindow::activateObject(PickObject_e type)
 {
-    if (type == PickObject_Text)
+    if (type == PickObject_Text) {
         m_textPlacement->edit(VtxUtilPickListGetText(1));
-    else if (!sdk::ui::dialogs::launchDialogForPicked(type, *this))
+    } else if (!sdk::ui::dialogs::launchDialogForPicked(type, *this)) {
         m_statusLine->setText(tr("There is no dialog for what was clicked."));
+    }
 }
 
 void MainWindow::chooseFiles()
 {
     const QStringList files = QFileDialog::getOpenFileNames(
         this, tr("Open Data"), QSettings().value(openFolderKey).toString(), DataOpener::fileDialogFilter());
-    if (!files.isEmpty())
+    if (!files.isEmpty()) {
         openFiles(files);
+    }
 }
 
 void MainWindow::exportImage()
 {
     ImageSizeDialog dialog(m_workArea->renderer().paperSize(*m_kernel.document().activePage()), this);
-    if (dialog.exec() == QDialog::Accepted)
+    if (dialog.exec() == QDialog::Accepted) {
         exportTo(tr("Export Image"), tr("PNG image (*.png);;JPEG image (*.jpg *.jpeg);;All files (*)"), u"png"_s,
                  dialog.imageSize());
+    }
 }
 
 void MainWindow::exportPdf()
@@ -205,8 +215,9 @@ void MainWindow::exportTo(const QString& title, const QString& filter, const QSt
     QFileDialog dialog(this, title, QSettings().value(exportFolderKey).toString(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return;
+    }
     const QString path = dialog.selectedFiles().first();
     QString problem;
     {
@@ -223,10 +234,11 @@ void MainWindow::exportTo(const QString& title, const QString& filter, const QSt
 
 void MainWindow::showHelp(const QString& page)
 {
-    if (!m_helpWindow->showPage(page))
+    if (!m_helpWindow->showPage(page)) {
         m_frontEnd->showMessage(
             tr("The help page \"%1\" is not there. Install the folder help/ with the program.").arg(page).toStdString(),
             MessageBox_Error);
+    }
 }
 
 void MainWindow::showAbout()
@@ -249,15 +261,17 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!localFiles(*event->mimeData()).isEmpty())
+    if (!localFiles(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
+    }
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
     const QStringList files = localFiles(*event->mimeData());
-    if (files.isEmpty())
+    if (files.isEmpty()) {
         return;
+    }
     event->acceptProposedAction();
     // The program that the files come from waits until this event is handled, and a message box would keep it waiting.
     QMetaObject::invokeMethod(
@@ -275,8 +289,9 @@ void MainWindow::updateTitle()
 void MainWindow::restoreWindow()
 {
     const QSettings settings;
-    if (!restoreGeometry(settings.value(geometryKey).toByteArray()))
+    if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
         resize(1200, 820);
+    }
     restoreState(settings.value(stateKey).toByteArray());
 }
 

@@ -54,12 +54,15 @@ void PageMenu::update()
 {
     const long count = VtxUtilPageGetCount();
     const long active = VtxUtilPageGetActive();
-    while (m_pages->actions().size() > count)
+    while (m_pages->actions().size() > count) {
         delete m_pages->actions().last();
-    while (m_pages->actions().size() < count)
+    }
+    while (m_pages->actions().size() < count) {
         addPage(static_cast<long>(m_pages->actions().size()) + 1);
-    if (active > 0)
+    }
+    if (active > 0) {
         m_pages->actions().at(active - 1)->setChecked(true);
+    }
     m_delete->setEnabled(count > 1);
     m_next->setEnabled(active < count);
     m_previous->setEnabled(active > 1);

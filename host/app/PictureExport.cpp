@@ -61,15 +61,19 @@ QString PictureExport::problemWith(const QString& path)
     const QFileInfo file(path);
     const QFileInfo folder(file.absolutePath());
     const QString cannot = u"Cannot write \"%1\": %2"_s;
-    if (file.isDir())
+    if (file.isDir()) {
         return cannot.arg(path, u"it is a folder."_s);
-    if (!isPdf(path) && !QImageWriter::supportedImageFormats().contains(suffixOf(path).toLatin1()))
+    }
+    if (!isPdf(path) && !QImageWriter::supportedImageFormats().contains(suffixOf(path).toLatin1())) {
         return cannot.arg(
             path, u"\"%1\" is no picture format; use a name that ends in .png, .jpg or .pdf."_s.arg(suffixOf(path)));
-    if (!folder.isDir())
+    }
+    if (!folder.isDir()) {
         return cannot.arg(path, u"there is no folder \"%1\"."_s.arg(folder.filePath()));
-    if (!folder.isWritable() || (file.exists() && !file.isWritable()))
+    }
+    if (!folder.isWritable() || (file.exists() && !file.isWritable())) {
         return cannot.arg(path, u"permission denied."_s);
+    }
     return {};
 }
 
@@ -80,27 +84,31 @@ QSize PictureExport::sizeAt(int dotsPerInch) const
 
 QString PictureExport::write(const QString& path, QSize size) const
 {
-    const QString problem = problemWith(path);
-    if (!problem.isEmpty())
+    QString problem = problemWith(path);
+    if (!problem.isEmpty()) {
         return problem;
+    }
     QSaveFile file(path);
     const auto failure = [&path](const QString& reason) { return u"Cannot write \"%1\": %2."_s.arg(path, reason); };
-    if (!file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly)) {
         return failure(file.errorString());
+    }
     if (isPdf(path)) {
         paintPdf(file);
     } else {
         QImageWriter writer(&file, suffixOf(path).toLatin1());
-        if (!writer.write(image(size)))
+        if (!writer.write(image(size))) {
             return failure(writer.errorString());
+        }
     }
     return file.commit() ? QString() : failure(file.errorString());
 }
 
 QImage PictureExport::image(QSize size) const
 {
-    if (!size.isValid())
+    if (!size.isValid()) {
         return m_renderer.pageImage(m_page, defaultWidth);
+    }
     const QSizeF paper = m_renderer.paperSize(m_page);
     const double inch = std::min(size.width() / paper.width(), size.height() / paper.height());
     QImage image(size, QImage::Format_ARGB32_Premultiplied);

@@ -62,8 +62,9 @@ ProgressBar::ProgressBar(QWidget* parent)
     // Work that was cancelled or failed does not report its end: it is over when the event loop has come back.
     m_watchdog.setInterval(eventsEveryMilliseconds);
     connect(&m_watchdog, &QTimer::timeout, this, [this] {
-        if (!m_isHandlingEvents)
+        if (!m_isHandlingEvents) {
             finish();
+        }
     });
     hide();
 }
@@ -74,12 +75,14 @@ bool ProgressBar::report(const QString& task, double fraction)
         finish();
         return true;
     }
-    if (!m_isAtWork)
+    if (!m_isAtWork) {
         begin(task);
+    }
     if (!m_isCancelled && !m_isHandlingEvents && m_sinceEvents.elapsed() >= eventsEveryMilliseconds) {
         m_bar->setValue(static_cast<int>(100.0 * std::clamp(fraction, 0.0, 1.0)));
-        if (!isVisible() && !m_isQuiet && m_sinceBegin.elapsed() >= showAfterMilliseconds)
+        if (!isVisible() && !m_isQuiet && m_sinceBegin.elapsed() >= showAfterMilliseconds) {
             show();
+        }
         m_isHandlingEvents = true;
         QCoreApplication::processEvents();
         m_isHandlingEvents = false;
@@ -91,8 +94,9 @@ bool ProgressBar::report(const QString& task, double fraction)
 void ProgressBar::setQuiet(bool isQuiet)
 {
     m_isQuiet = isQuiet;
-    if (isQuiet)
+    if (isQuiet) {
         hide();
+    }
 }
 
 void ProgressBar::begin(const QString& task)
@@ -109,8 +113,9 @@ void ProgressBar::begin(const QString& task)
 
 void ProgressBar::finish()
 {
-    if (!m_isAtWork)
+    if (!m_isAtWork) {
         return;
+    }
     m_isAtWork = false;
     m_watchdog.stop();
     qApp->removeEventFilter(this);
@@ -119,15 +124,19 @@ void ProgressBar::finish()
 
 bool ProgressBar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!isInput(event->type()))
+    if (!isInput(event->type())) {
         return false;
+    }
     // Shortcuts go straight to their actions. All other input reaches a window first, which hands it to its widgets.
-    if (event->type() == QEvent::Shortcut)
+    if (event->type() == QEvent::Shortcut) {
         return true;
-    if (!watched->isWidgetType())
+    }
+    if (!watched->isWidgetType()) {
         return false;
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         m_isCancelled = true;
+    }
     if (event->type() == QEvent::Close) {
         m_isCancelled = true;
         event->ignore();

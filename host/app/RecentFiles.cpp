@@ -17,8 +17,9 @@ const auto settingsKey = "Files"_L1;
 QString entryText(int number, const QStringList& files)
 {
     QStringList names;
-    for (const QString& file : files)
+    for (const QString& file : files) {
         names << QFileInfo(file).fileName().replace(u'&', u"&&"_s);
+    }
     const QString folder = QFileInfo(files.first()).path().replace(u'&', u"&&"_s);
     const QString key = number < 10 ? u"&%1 "_s.arg(number) : QString();
     return u"%1%2  (%3)"_s.arg(key, names.join(u" + "_s), folder);
@@ -36,20 +37,23 @@ RecentFiles::RecentFiles(QWidget* parent)
 
 void RecentFiles::add(const QStringList& files)
 {
-    if (files.isEmpty())
+    if (files.isEmpty()) {
         return;
+    }
     m_entries.removeAll(files);
     m_entries.prepend(files);
-    while (m_entries.size() > mostEntries)
+    while (m_entries.size() > mostEntries) {
         m_entries.removeLast();
+    }
     store();
     fill();
 }
 
 void RecentFiles::remove(const QStringList& files)
 {
-    if (m_entries.removeAll(files) == 0)
+    if (m_entries.removeAll(files) == 0) {
         return;
+    }
     store();
     fill();
 }
@@ -61,8 +65,9 @@ void RecentFiles::load()
     for (int index = 0; index < count; ++index) {
         settings.setArrayIndex(index);
         const QStringList files = settings.value(settingsKey).toStringList();
-        if (!files.isEmpty())
+        if (!files.isEmpty()) {
             m_entries << files;
+        }
     }
 }
 

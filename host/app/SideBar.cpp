@@ -137,16 +137,18 @@ void SideBar::setUpLayers()
 void SideBar::setPlotType()
 {
     const auto type = static_cast<PlotType_e>(m_plotType->currentData().toInt());
-    if (type == VtxUtilFrameGetPlotType())
+    if (type == VtxUtilFrameGetPlotType()) {
         return;
+    }
     bool isSet = false;
     {
         const sdk::AppLock lock;
         VtxUtilUndoSetStepName("Plot Type");
         isSet = VtxUtilFrameSetPlotType(type);
     }
-    if (!isSet)
+    if (!isSet) {
         VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    }
     update();
 }
 

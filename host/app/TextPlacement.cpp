@@ -25,8 +25,9 @@ TextPlacement::TextPlacement(QWidget* window)
 void TextPlacement::place(double x, double y)
 {
     TextDialog dialog(tr("Insert Text"), &m_window);
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return;
+    }
     long created = 0;
     toolbox::ArgList arguments;
     arguments.appendString("Text", dialog.text().toStdString());
@@ -61,14 +62,16 @@ void TextPlacement::edit(long text)
     }
     TextDialog dialog(tr("Edit Text"), &m_window);
     dialog.setText(QString::fromStdString(toolbox::takeHostString(words)));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return;
+    }
     toolbox::ArgList arguments;
     arguments.appendArbParam("TextID", text);
     arguments.appendString("Text", dialog.text().toStdString());
     const sdk::AppLock lock;
-    if (!VtxUtilTextSetX(arguments.handle()))
+    if (!VtxUtilTextSetX(arguments.handle())) {
         showError();
+    }
 }
 
 } // namespace vantrix::app

@@ -35,11 +35,13 @@ VariableBox::VariableBox(const toolbox::StyleValue& style, long offset, bool can
 void VariableBox::refresh()
 {
     QStringList names = variableNames();
-    if (m_canBeNone)
+    if (m_canBeNone) {
         names.prepend(tr("none"));
+    }
     QStringList shown;
-    for (int i = 0; i < count(); ++i)
+    for (int i = 0; i < count(); ++i) {
         shown << itemText(i);
+    }
     if (names != shown) {
         clear();
         addItems(names);

@@ -47,16 +47,18 @@ bool VectorVariablesDialog::areAssigned()
     for (const Part& part : parts) {
         long variable = 0;
         toolbox::StyleValue("GlobalStream", part.styleName).getValue(&variable);
-        if (variable > 0)
+        if (variable > 0) {
             return true;
+        }
     }
     return false;
 }
 
 bool VectorVariablesDialog::ensureAssigned(QWidget* parent)
 {
-    if (!areAssigned())
+    if (!areAssigned()) {
         VectorVariablesDialog(parent).exec();
+    }
     return areAssigned();
 }
 

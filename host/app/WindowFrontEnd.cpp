@@ -32,8 +32,9 @@ QMessageBox::Icon iconOf(MessageBox_e type)
 QWidget* parentOfMessages(QWidget& window)
 {
     QWidget* active = QApplication::activeModalWidget();
-    if (active == nullptr)
+    if (active == nullptr) {
         active = QApplication::activeWindow();
+    }
     return active != nullptr ? active : &window;
 }
 
@@ -45,8 +46,9 @@ WindowFrontEnd::WindowFrontEnd(Parts parts)
 
 WindowFrontEnd::~WindowFrontEnd()
 {
-    for (; m_busyCount > 0; --m_busyCount)
+    for (; m_busyCount > 0; --m_busyCount) {
         QApplication::restoreOverrideCursor();
+    }
 }
 
 bool WindowFrontEnd::showMessage(const std::string& text, MessageBox_e type)

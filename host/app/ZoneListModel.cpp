@@ -52,8 +52,9 @@ int ZoneListModel::rowCount(const QModelIndex& parent) const
 
 QVariant ZoneListModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
+    }
     if (role == Qt::DisplayRole) {
         char* name = nullptr;
         VtxUtilZoneGetName(zoneNumber(index), &name);
@@ -73,26 +74,30 @@ QVariant ZoneListModel::data(const QModelIndex& index, int role) const
 
 Qt::ItemFlags ZoneListModel::flags(const QModelIndex& index) const
 {
-    if (!index.isValid())
+    if (!index.isValid()) {
         return Qt::NoItemFlags;
+    }
     return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemNeverHasChildren;
 }
 
 bool ZoneListModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || !index.isValid())
+    if (role != Qt::CheckStateRole || !index.isValid()) {
         return false;
+    }
     setShown({index}, value.toInt() == Qt::Checked);
     return true;
 }
 
 void ZoneListModel::setShown(const QModelIndexList& rows, bool isShown)
 {
-    if (rows.isEmpty())
+    if (rows.isEmpty()) {
         return;
+    }
     toolbox::Set zones;
-    for (const QModelIndex& row : rows)
+    for (const QModelIndex& row : rows) {
         zones.addMember(zoneNumber(row));
+    }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName(isShown ? "Show Zones" : "Hide Zones");
     toolbox::ArgList arguments;
@@ -113,8 +118,9 @@ void ZoneListModel::refresh()
         m_zoneCount = count;
         endRemoveRows();
     }
-    if (count > 0)
+    if (count > 0) {
         Q_EMIT dataChanged(index(0), index(count - 1));
+    }
 }
 
 } // namespace vantrix::app

@@ -66,10 +66,11 @@ void ZoneListView::updateCount()
 {
     const int all = m_model->rowCount();
     const int listed = m_filter->rowCount();
-    if (listed < all)
+    if (listed < all) {
         m_count->setText(tr("%1 of %2 zones").arg(listed).arg(all));
-    else
+    } else {
         m_count->setText(all == 1 ? tr("1 zone") : tr("%1 zones").arg(all));
+    }
 }
 
 void ZoneListView::setShown(bool isShown, bool onlySelected)
@@ -81,12 +82,14 @@ QModelIndexList ZoneListView::listed(bool onlySelected) const
 {
     QModelIndexList rows;
     if (onlySelected) {
-        for (const QModelIndex& row : m_list->selectionModel()->selectedRows())
+        for (const QModelIndex& row : m_list->selectionModel()->selectedRows()) {
             rows << m_filter->mapToSource(row);
+        }
         return rows;
     }
-    for (int row = 0; row < m_filter->rowCount(); ++row)
+    for (int row = 0; row < m_filter->rowCount(); ++row) {
         rows << m_filter->mapToSource(m_filter->index(row, 0));
+    }
     return rows;
 }
 

@@ -32,10 +32,12 @@ int runBatch(const CommandLine& commandLine, int argc, char** argv)
     // Without a window Qt needs no display, but rendering does.
     vantrix::app::VirtualDisplay display;
     const bool renders = !commandLine.exportPath.isEmpty();
-    if (renders && !vantrix::app::VirtualDisplay::isDisplayThere() && !display.start())
+    if (renders && !vantrix::app::VirtualDisplay::isDisplayThere() && !display.start()) {
         return fail(display.errorString());
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QApplication application(argc, argv);
     return vantrix::app::BatchRun(commandLine).run();
 }
@@ -44,18 +46,22 @@ int runWindow(const CommandLine& commandLine, int argc, char** argv)
 {
     const bool needsX =
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-    if (needsX && !vantrix::app::VirtualDisplay::isDisplayThere())
+    if (needsX && !vantrix::app::VirtualDisplay::isDisplayThere()) {
         return fail(u"there is no display to open a window on (DISPLAY is not set, or does not answer); "
                     "use --batch with --export to make a picture without one."_s);
+    }
     const QApplication application(argc, argv);
     vantrix::app::MainWindow window(vantrix::kernel::Kernel::instance());
     window.show();
-    if (!commandLine.sample.isEmpty())
+    if (!commandLine.sample.isEmpty()) {
         window.openSample(commandLine.sample);
-    if (!commandLine.files.isEmpty())
+    }
+    if (!commandLine.files.isEmpty()) {
         window.openFiles(commandLine.files);
-    if (!commandLine.macro.isEmpty())
+    }
+    if (!commandLine.macro.isEmpty()) {
         window.playMacro(commandLine.macro);
+    }
     window.offerRecovery();
     return QApplication::exec();
 }

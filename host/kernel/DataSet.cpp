@@ -17,8 +17,9 @@ const Zone* DataSet::zone(long number) const
 const FieldArray* DataSet::field(long zoneNumber, long variable) const
 {
     const Zone* found = zone(zoneNumber);
-    if (!found || variable < 1 || variable > static_cast<long>(found->fields.size()))
+    if (!found || variable < 1 || variable > static_cast<long>(found->fields.size())) {
         return nullptr;
+    }
     return &found->fields[static_cast<std::size_t>(variable - 1)];
 }
 

@@ -102,8 +102,9 @@ std::optional<ValueRange> valueRange(vtkDataArray& values)
 {
     double range[2];
     values.GetRange(range, 0);
-    if (values.GetNumberOfTuples() == 0 || range[0] > range[1])
+    if (values.GetNumberOfTuples() == 0 || range[0] > range[1]) {
         return std::nullopt;
+    }
     return ValueRange{range[0], range[1]};
 }
 
@@ -112,8 +113,9 @@ std::optional<ValueRange> variableRange(const DataSet& dataSet, long variable)
     std::optional<ValueRange> all;
     for (long zone = 1; zone <= dataSet.zoneCount(); ++zone) {
         const FieldArray* field = dataSet.field(zone, variable);
-        if (!dataSet.zoneEnabled[static_cast<std::size_t>(zone - 1)] || !field || !field->isLoaded())
+        if (!dataSet.zoneEnabled[static_cast<std::size_t>(zone - 1)] || !field || !field->isLoaded()) {
             continue;
+        }
         const std::optional<ValueRange> range = valueRange(*field->values);
         if (range && all)
             all = ValueRange{std::min(all->minimum, range->minimum), std::max(all->maximum, range->maximum)};
@@ -129,8 +131,9 @@ double availableMemory()
     std::string name;
     double kibibytes = 0.0;
     while (meminfo >> name >> kibibytes) {
-        if (name == "MemAvailable:")
+        if (name == "MemAvailable:") {
             return kibibytes * 1024.0;
+        }
         meminfo.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
     }
     return static_cast<double>(sysconf(_SC_PHYS_PAGES)) * static_cast<double>(sysconf(_SC_PAGESIZE));

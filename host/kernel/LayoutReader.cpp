@@ -117,6 +117,7 @@ void LayoutReader::beginDataSet(const MacroCommand& command)
     m_dataSet = std::make_unique<DataSet>(m_document.newDataSet());
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): its file names are changed
 void LayoutReader::addData(MacroCommand command)
 {
     if (command.name == "DataState") {

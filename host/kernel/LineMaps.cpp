@@ -46,7 +46,7 @@ long LineMaps::number(const char* path, long lineMap) const
     return m_style.integer(m_frameId, m_style.entry(path), lineMap);
 }
 
-void LineMaps::set(const char* path, StyleData value, long lineMap)
+void LineMaps::set(const char* path, const StyleData& value, long lineMap)
 {
     if (m_style.setOf(m_frameId, m_style.entry(path), lineMap, -1, value) != SetValueReturnCode_Ok) {
         throw DataError(m_style.lastError());

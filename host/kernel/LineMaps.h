@@ -60,7 +60,7 @@ public:
 
 private:
     long number(const char* path, long lineMap) const;
-    void set(const char* path, StyleData value, long lineMap = -1);
+    void set(const char* path, const StyleData& value, long lineMap = -1);
     void expectInData(const LineMapAssignment& assignment) const;
     void removeChecked(const std::vector<long>& lineMaps);
 

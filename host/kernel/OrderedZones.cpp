@@ -81,8 +81,9 @@ void fillOrdered(T* values, const std::array<long, 3>& dimensions, const ValueAt
 template<typename ValueAt>
 void setCoordinate(Zone& zone, long variable, FieldDataType_e type, const ValueAt& valueAt)
 {
-    if (variable < 1 || variable > static_cast<long>(zone.fields.size()))
+    if (variable < 1 || variable > static_cast<long>(zone.fields.size())) {
         return;
+    }
     const vtkSmartPointer<vtkDataArray> values = makeValues(type, zone.pointCount());
     if (auto* singles = vtkFloatArray::FastDownCast(values))
         fillOrdered(singles->GetPointer(0), zone.dimensions(), valueAt);
@@ -116,8 +117,9 @@ Zone makeZone(const CircularZone& circle, long variableCount, const CoordinateVa
     expectPlace("minimum of Z", circle.zMin, circle.dataType);
     expectPlace("maximum of Z", circle.zMax, circle.dataType);
     expectPlace("radius", circle.radius, circle.dataType);
-    if (circle.radius <= 0.0)
+    if (circle.radius <= 0.0) {
         throw DataError("The radius must be greater than 0.");
+    }
     expectPlace("edge of the zone", std::abs(circle.xOrigin) + circle.radius, circle.dataType);
     expectPlace("edge of the zone", std::abs(circle.yOrigin) + circle.radius, circle.dataType);
     Zone zone = Zone::ordered("Circular zone", circle.iMax, circle.jMax, circle.kMax);

@@ -4,6 +4,7 @@
 #include "api/VtxUtilState.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace vantrix::kernel {

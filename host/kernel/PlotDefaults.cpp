@@ -88,7 +88,7 @@ long PlotDefaults::plotType() const
     return m_axes.z == 0 || isInPlane ? PlotType_Cartesian2D : PlotType_Cartesian3D;
 }
 
-void PlotDefaults::set(const std::string& path, StyleData value, long object)
+void PlotDefaults::set(const std::string& path, const StyleData& value, long object)
 {
     m_style.setOf(m_frameId, m_style.entry(path.c_str()), object, -1, value);
 }

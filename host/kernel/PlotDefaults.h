@@ -32,7 +32,7 @@ private:
     void fitPolar(const std::vector<long>& radii);
     void setContours();
     void setVectors();
-    void set(const std::string& path, StyleData value, long object = -1);
+    void set(const std::string& path, const StyleData& value, long object = -1);
 
     StyleStore& m_style;
     const Frame& m_frame;

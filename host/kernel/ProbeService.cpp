@@ -93,7 +93,8 @@ ProbeService::Result ProbeService::resultOf(const ProbeRequest& request, const F
 bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
 {
     const Frame& frame = activeFrame(m_kernel);
-    const ProbeRequest asked = request; // may be the one that is kept
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it may be the one that is kept
+    const ProbeRequest asked = request;
     MacroRecorder::Call call(m_kernel.macroRecorder(), m_kernel.lock().isRecorded());
     m_result = resultOf(asked, frame);
     m_request = asked;

@@ -30,8 +30,9 @@ constexpr Sample samplesByName[] = {
 std::vector<std::string> SampleData::names()
 {
     std::vector<std::string> result;
-    for (const Sample& sample : samplesByName)
+    for (const Sample& sample : samplesByName) {
         result.emplace_back(sample.name);
+    }
     return result;
 }
 

@@ -1,10 +1,8 @@
 #include "kernel/UndoStack.h"
 
-#include <algorithm>
-
 #include "kernel/StateChanges.h"
 
-#include <ranges>
+#include <algorithm>
 
 namespace vantrix::kernel {
 
@@ -132,8 +130,8 @@ bool UndoStack::replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo
         from.pop_back();
         const auto& changes = to.back().changes;
         if (isUndo) {
-            for (const auto& change : std::views::reverse(changes)) {
-                change->undo();
+            for (auto change = changes.rbegin(); change != changes.rend(); ++change) {
+                (*change)->undo();
             }
         } else {
             for (const auto& change : changes) {

@@ -13,7 +13,7 @@ unsigned long reads = 0;
 
 } // namespace
 
-VariableFiles::VariableFiles(std::vector<std::string> files)
+VariableFiles::VariableFiles(const std::vector<std::string>& files)
 {
     for (const std::string& file : files) {
         m_files.push_back(describe(file));

@@ -15,7 +15,7 @@ class DataSet;
 class VariableFiles
 {
 public:
-    explicit VariableFiles(std::vector<std::string> files);
+    explicit VariableFiles(const std::vector<std::string>& files);
 
     /* Lets every variable that a data set just read from these files has come back from them. */
     static void attach(DataSet& dataSet, const std::vector<std::string>& files);

@@ -34,13 +34,15 @@ Zone Zone::ordered(std::string name, long iMax, long jMax, long kMax)
     return zone;
 }
 
+// VTK's smart pointers have no move, which a later version has.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 Zone Zone::finiteElement(std::string name, ZoneType_e type, long pointCount, vtkSmartPointer<vtkCellArray> cells)
 {
     Zone zone;
     zone.m_name = std::move(name);
     zone.m_type = type;
     zone.m_dimensions = {pointCount, static_cast<long>(cells->GetNumberOfCells()), cornersPerCell(type)};
-    zone.m_cells = std::move(cells);
+    zone.m_cells = std::move(cells); // NOLINT(performance-move-const-arg)
     return zone;
 }
 
@@ -51,11 +53,13 @@ long Zone::pointCount() const
 
 long Zone::cellCount() const
 {
-    if (!isOrdered())
+    if (!isOrdered()) {
         return m_dimensions[1];
+    }
     long count = 1;
-    for (const long points : m_dimensions)
+    for (const long points : m_dimensions) {
         count *= points > 1 ? points - 1 : 1;
+    }
     return count;
 }
 
@@ -76,8 +80,9 @@ int Zone::topologicalDimension() const
         break;
     }
     int dimension = 0;
-    for (const long points : m_dimensions)
+    for (const long points : m_dimensions) {
         dimension += points > 1;
+    }
     return dimension;
 }
 

@@ -19,8 +19,9 @@ namespace vantrix::kernel {
 ZoneGridCache::ZoneGridCache(const ZoneGridCache& other)
     : entries(other.entries)
 {
-    for (Entry& entry : entries)
+    for (Entry& entry : entries) {
         entry.grid = nullptr;
+    }
 }
 
 ZoneGridCache& ZoneGridCache::operator=(const ZoneGridCache& other)
@@ -33,8 +34,9 @@ void ZoneGridCache::forget(const vtkDataArray& values)
     std::erase_if(entries, [&](const Entry& entry) {
         return std::find(entry.coordinates.begin(), entry.coordinates.end(), &values) != entry.coordinates.end();
     });
-    for (Entry& entry : entries)
+    for (Entry& entry : entries) {
         entry.grid = nullptr; /* its arrays share the memory of the values */
+    }
 }
 
 namespace {
@@ -49,18 +51,20 @@ void interleave(vtkDataArray* source, Target* target, vtkIdType count)
 {
     const auto fill = [&](const auto& valueAt) {
         parallelFor(count, [&](long begin, long end) {
-            for (long i = begin; i < end; ++i)
+            for (long i = begin; i < end; ++i) {
                 target[3 * i] = static_cast<Target>(valueAt(i));
+            }
         });
     };
-    if (!source)
+    if (!source) {
         fill([](vtkIdType) { return 0.0; });
-    else if (auto* singles = vtkAOSDataArrayTemplate<float>::FastDownCast(source))
+    } else if (auto* singles = vtkAOSDataArrayTemplate<float>::FastDownCast(source)) {
         fill([p = singles->GetPointer(0)](vtkIdType i) { return p[i]; });
-    else if (auto* doubles = vtkAOSDataArrayTemplate<double>::FastDownCast(source))
+    } else if (auto* doubles = vtkAOSDataArrayTemplate<double>::FastDownCast(source)) {
         fill([p = doubles->GetPointer(0)](vtkIdType i) { return p[i]; });
-    else
+    } else {
         fill([source](vtkIdType i) { return source->GetComponent(i, 0); });
+    }
 }
 
 template<typename Array>
@@ -69,25 +73,28 @@ vtkSmartPointer<vtkPoints> interleavedPoints(const Entry& entry, vtkIdType count
     const auto array = vtkSmartPointer<Array>::New();
     array->SetNumberOfComponents(3);
     array->SetNumberOfTuples(count);
-    for (std::size_t axis = 0; axis < 3; ++axis)
+    for (std::size_t axis = 0; axis < 3; ++axis) {
         interleave(entry.coordinates[axis].Get(), array->GetPointer(0) + axis, count);
-    const auto points = vtkSmartPointer<vtkPoints>::New();
+    }
+    auto points = vtkSmartPointer<vtkPoints>::New();
     points->SetData(array);
     return points;
 }
 
 bool fitsSinglePrecision(const vtkSmartPointer<vtkDataArray>& array)
 {
-    if (!array)
+    if (!array) {
         return true;
+    }
     const int type = array->GetDataType();
     return type != VTK_DOUBLE && type != VTK_INT;
 }
 
 vtkSmartPointer<vtkPoints> makePoints(const Entry& entry, vtkIdType count)
 {
-    if (std::all_of(entry.coordinates.begin(), entry.coordinates.end(), fitsSinglePrecision))
+    if (std::all_of(entry.coordinates.begin(), entry.coordinates.end(), fitsSinglePrecision)) {
         return interleavedPoints<vtkFloatArray>(entry, count);
+    }
     return interleavedPoints<vtkDoubleArray>(entry, count);
 }
 
@@ -139,7 +146,7 @@ vtkSmartPointer<vtkDataSet> makeTopology(const Zone& zone, vtkPoints* points)
 /* An array object of its own, for a name of its own, over the same memory. */
 vtkSmartPointer<vtkDataArray> named(vtkDataArray* values, const std::string& name)
 {
-    const auto array = vtkSmartPointer<vtkDataArray>::Take(values->NewInstance());
+    auto array = vtkSmartPointer<vtkDataArray>::Take(values->NewInstance());
     array->ShallowCopy(values);
     array->SetName(name.c_str());
     return array;
@@ -150,11 +157,13 @@ void addFields(const Zone& zone, const std::vector<Variable>& variables, vtkData
     const std::size_t count = std::min(zone.fields.size(), variables.size());
     for (std::size_t i = 0; i < count; ++i) {
         const vtkSmartPointer<vtkDataArray> values = zone.fields[i].values;
-        if (!values)
+        if (!values) {
             continue;
+        }
         vtkDataSetAttributes* attributes = grid.GetPointData();
-        if (zone.fields[i].location == ValueLocation_CellCentered)
+        if (zone.fields[i].location == ValueLocation_CellCentered) {
             attributes = grid.GetCellData();
+        }
         attributes->AddArray(named(values, variables[i].name));
     }
 }
@@ -164,11 +173,13 @@ std::array<vtkSmartPointer<vtkDataArray>, 3> coordinateArrays(const Zone& zone, 
     std::array<vtkSmartPointer<vtkDataArray>, 3> arrays;
     for (std::size_t axis = 0; axis < 3; ++axis) {
         const long variable = axes[axis];
-        if (variable < 1 || variable > static_cast<long>(zone.fields.size()))
+        if (variable < 1 || variable > static_cast<long>(zone.fields.size())) {
             continue;
+        }
         const FieldArray& field = zone.fields[static_cast<std::size_t>(variable - 1)];
-        if (field.location == ValueLocation_Nodal)
+        if (field.location == ValueLocation_Nodal) {
             arrays[axis] = field.load();
+        }
     }
     return arrays;
 }
@@ -178,8 +189,9 @@ std::vector<std::string> loadedNames(const Zone& zone, const std::vector<Variabl
 {
     std::vector<std::string> names(variables.size());
     for (std::size_t i = 0; i < std::min(names.size(), zone.fields.size()); ++i) {
-        if (zone.fields[i].isLoaded())
+        if (zone.fields[i].isLoaded()) {
             names[i] = variables[i].name;
+        }
     }
     return names;
 }
@@ -189,8 +201,9 @@ std::vector<std::string> loadedNames(const Zone& zone, const std::vector<Variabl
 vtkSmartPointer<vtkDataSet> zoneGrid(const DataSet& dataSet, long zoneNumber, const CoordinateVariables& axes)
 {
     const Zone* zone = dataSet.zone(zoneNumber);
-    if (!zone)
+    if (!zone) {
         return nullptr;
+    }
     std::vector<Entry>& entries = zone->grids().entries;
     Entry entry;
     entry.axes = axes;
@@ -213,8 +226,9 @@ vtkSmartPointer<vtkDataSet> zoneGrid(const DataSet& dataSet, long zoneNumber, co
     /* A grid under other names, and points of a copied zone, are replaced by the new ones. */
     std::erase_if(entries, [&](const Entry& other) { return other.axes == axes; });
     entries.insert(entries.begin(), std::move(entry));
-    if (entries.size() > keptGrids)
+    if (entries.size() > keptGrids) {
         entries.pop_back();
+    }
     return entries.front().grid;
 }
 
@@ -237,9 +251,10 @@ bool haveSameShape(vtkDataSet* one, vtkDataSet* other)
 vtkSmartPointer<vtkDataSet> zoneShape(const DataSet& dataSet, long zone, const CoordinateVariables& axes)
 {
     const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, zone, axes);
-    if (!grid)
+    if (!grid) {
         return nullptr;
-    const auto shape = vtkSmartPointer<vtkDataSet>::Take(grid->NewInstance());
+    }
+    auto shape = vtkSmartPointer<vtkDataSet>::Take(grid->NewInstance());
     shape->CopyStructure(grid);
     return shape;
 }

@@ -267,9 +267,11 @@ AxisTicks spacedTicks(const AxisScale& scale, const TickRequest& request)
     if (!(last - first < mostTicks)) {
         return ticks;
     }
+    const auto count = last < first ? 0 : static_cast<std::size_t>(last - first) + 1;
     std::vector<double> values;
-    for (double i = first; i <= last; i += 1.0) {
-        const double value = request.anchor + i * request.spacing;
+    values.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const double value = request.anchor + (first + static_cast<double>(i)) * request.spacing;
         values.push_back(std::abs(value) < request.spacing * 1e-9 ? 0.0 : value);
     }
     const std::vector<std::string> texts = textsApart(values, request.spacing);

@@ -71,7 +71,7 @@ vtkSmartPointer<vtkPolyData> indexOutline(vtkStructuredGrid& grid, const char* p
             }
         }
     }
-    const auto outline = vtkSmartPointer<vtkPolyData>::New();
+    auto outline = vtkSmartPointer<vtkPolyData>::New();
     outline->SetPoints(coordinates);
     outline->SetLines(segments);
     outline->GetPointData()->AddArray(points);

@@ -67,7 +67,7 @@ public:
 
     vtkSmartPointer<vtkPolyData> result() const
     {
-        const auto planes = vtkSmartPointer<vtkPolyData>::New();
+        auto planes = vtkSmartPointer<vtkPolyData>::New();
         planes->SetPoints(m_coordinates);
         planes->SetPolys(m_quads);
         planes->GetPointData()->AddArray(m_pointNumbers);

@@ -6,8 +6,9 @@ namespace {
 /* Which part of a box lies before its anchor: across and down. */
 QPointF anchorParts(AnchorAlignment_e anchor)
 {
-    const int number = static_cast<int>(anchor);
-    return {0.5 * (number % 3), 0.5 * (number / 3)};
+    const int column = static_cast<int>(anchor) % 3;
+    const int row = static_cast<int>(anchor) / 3;
+    return {0.5 * column, 0.5 * row};
 }
 
 } // namespace

@@ -85,7 +85,7 @@ QImage OffscreenWindow::picture(vtkRenderer* renderer, QSize pixels, int samples
     if (data->GetNumberOfTuples() < vtkIdType{pixels.width()} * pixels.height()) {
         return {};
     }
-    const QImage image(data->GetPointer(0), pixels.width(), pixels.height(), pixels.width() * 4,
+    const QImage image(data->GetPointer(0), pixels.width(), pixels.height(), qsizetype{4} * pixels.width(),
                        QImage::Format_RGBA8888_Premultiplied);
     return image.mirrored(false, true).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }

@@ -17,8 +17,9 @@ constexpr double pointsPerInch = 72.0;
 /* 0, 0.5 or 1: the anchor's place along the width, from the left, and along the height, from the bottom. */
 QPointF anchorPart(TextAnchor_e anchor)
 {
-    const int number = static_cast<int>(anchor);
-    return {0.5 * (number % 3), 0.5 * (number / 3)};
+    const int column = static_cast<int>(anchor) % 3;
+    const int row = static_cast<int>(anchor) / 3;
+    return {0.5 * column, 0.5 * row};
 }
 
 } // namespace

@@ -51,7 +51,7 @@ vtkSmartPointer<vtkPolyData> outerSurface(vtkDataSet* geometry)
 /* Every face of every cell, those between two cells once for each. */
 vtkSmartPointer<vtkPolyData> everyFace(vtkUnstructuredGrid& grid)
 {
-    const auto faces = vtkSmartPointer<vtkPolyData>::New();
+    auto faces = vtkSmartPointer<vtkPolyData>::New();
     const auto polygons = vtkSmartPointer<vtkCellArray>::New();
     const auto points = vtkSmartPointer<vtkIdTypeArray>::New();
     const auto cells = vtkSmartPointer<vtkIdTypeArray>::New();
@@ -134,7 +134,7 @@ vtkSmartPointer<vtkFloatArray> gathered(vtkDataArray* values, vtkIdTypeArray* nu
     for (const SurfaceCut& cut : cuts) {
         atCuts.push_back(std::lerp(valueAt(cut.from), valueAt(cut.to), cut.at));
     }
-    const auto result = vtkSmartPointer<vtkFloatArray>::New();
+    auto result = vtkSmartPointer<vtkFloatArray>::New();
     result->SetName(ZoneSurface::valuesName);
     const vtkIdType count = numbers->GetNumberOfTuples();
     result->SetNumberOfTuples(count);
@@ -289,7 +289,7 @@ vtkIdTypeArray* ZoneSurface::cellNumbers()
 
 vtkSmartPointer<vtkPolyData> ZoneSurface::withValues(vtkPolyData* surface, const kernel::FieldArray& field) const
 {
-    const auto result = vtkSmartPointer<vtkPolyData>::New();
+    auto result = vtkSmartPointer<vtkPolyData>::New();
     result->ShallowCopy(surface);
     const bool isNodal = field.location == ValueLocation_Nodal;
     vtkDataSetAttributes* attributes = isNodal ? static_cast<vtkDataSetAttributes*>(result->GetPointData())

@@ -52,8 +52,9 @@ inline QByteArray smallVtkFile()
 /* Lets deferred work, and what it defers again, be done. */
 inline void settle()
 {
-    for (int turn = 0; turn < 3; ++turn)
+    for (int turn = 0; turn < 3; ++turn) {
         QCoreApplication::processEvents();
+    }
 }
 
 } // namespace vantrix::test

@@ -38,8 +38,9 @@ protected:
     {
         QSet<QRgb> colors;
         for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x)
+            for (int x = 0; x < image.width(); ++x) {
                 colors << image.pixel(x, y);
+            }
         }
         return static_cast<int>(colors.size());
     }
@@ -159,8 +160,9 @@ TEST_F(BatchTest, EveryDialogHasItsPicture)
 {
     const Outcome outcome = run({u"--dialogs"_s, path("pictures")});
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    for (const sdk::ui::dialogs::DialogEntry& entry : sdk::ui::dialogs::dialogRegistry())
+    for (const sdk::ui::dialogs::DialogEntry& entry : sdk::ui::dialogs::dialogRegistry()) {
         EXPECT_GT(colorCount(QImage(path("pictures/") + entry.name() + u".png"_s)), 8) << entry.name().toStdString();
+    }
 }
 
 } // namespace

@@ -37,8 +37,9 @@ TEST(CommandLineTest, HelpListsOptionsAndSamples)
 {
     const CommandLine line = parse({u"--help"_s});
     EXPECT_EQ(line.task, Task::Answer);
-    for (const char* text : {"--batch", "--export", "--size", "--dialogs", "flow3d", "fe2d", "lines"})
+    for (const char* text : {"--batch", "--export", "--size", "--dialogs", "flow3d", "fe2d", "lines"}) {
         EXPECT_TRUE(line.text.contains(QLatin1StringView(text))) << text;
+    }
 }
 
 TEST(CommandLineTest, WhatIsWrongIsNamed)

@@ -58,8 +58,9 @@ protected:
         for (const QString& title : titles) {
             QAction* found = nullptr;
             for (QAction* action : bar->actions()) {
-                if (plainText(*action) == title)
+                if (plainText(*action) == title) {
                     found = action;
+                }
             }
             ASSERT_NE(found, nullptr) << title.toStdString();
             ASSERT_TRUE(found->isEnabled()) << title.toStdString();
@@ -94,8 +95,9 @@ protected:
     {
         QMimeData data;
         QList<QUrl> urls;
-        for (const QString& file : files)
+        for (const QString& file : files) {
             urls << QUrl::fromLocalFile(file);
+        }
         data.setUrls(urls);
         const QPoint middle = window.rect().center();
         QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -128,8 +130,9 @@ TEST_F(MainWindowTest, ACircularZoneIsCreatedUndoneAndRedoneThroughTheMenus)
     settle();
     const std::string message = messageOf([dialog] {
         for (QAbstractButton* button : dialog->findChild<QDialogButtonBox*>()->buttons()) {
-            if (button->text().remove(u'&') == "Create"_L1)
+            if (button->text().remove(u'&') == "Create"_L1) {
                 QTest::mouseClick(button, Qt::LeftButton);
+            }
         }
         QTest::qWait(100);
     });
@@ -215,10 +218,11 @@ TEST_F(MainWindowTest, ATextIsPutWhereItIsClickedAndChangedByADoubleClick)
         bool isAsked = false;
         QObject::connect(&timer, &QTimer::timeout, [&] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog && !dialog->isActiveWindow())
+            if (dialog && !dialog->isActiveWindow()) {
                 QApplication::setActiveWindow(dialog);
-            else if (dialog && dialog->focusWidget() && !std::exchange(isAsked, true))
+            } else if (dialog && dialog->focusWidget() && !std::exchange(isAsked, true)) {
                 answer(*dialog);
+            }
         });
         timer.start(20);
         click(&window.workArea(), Qt::LeftButton, Qt::AltModifier, place, -1);
@@ -464,8 +468,9 @@ TEST_F(MainWindowTest, LongWorkIsShownAndCancelled)
         timer.start();
         bool isTold = false;
         while (timer.elapsed() < 10000) {
-            if (!frontEnd.reportProgress("Reading", static_cast<double>(timer.elapsed()) / 10000))
+            if (!frontEnd.reportProgress("Reading", static_cast<double>(timer.elapsed()) / 10000)) {
                 return true;
+            }
             if (button->isVisible() && !isTold) {
                 isTold = true;
                 whenShown();

@@ -14,8 +14,9 @@ protected:
     static QStringList entries(const app::RecentFiles& menu)
     {
         QStringList texts;
-        for (const QAction* action : menu.actions().mid(0, std::max<qsizetype>(0, menu.actions().size() - 2)))
+        for (const QAction* action : menu.actions().mid(0, std::max<qsizetype>(0, menu.actions().size() - 2))) {
             texts << action->text();
+        }
         return texts;
     }
 };
@@ -45,8 +46,9 @@ TEST_F(RecentFilesTest, EntriesAreKeptBetweenRunsNewestFirstAndOnce)
 TEST_F(RecentFilesTest, TheListStaysShort)
 {
     app::RecentFiles menu(nullptr);
-    for (int number = 0; number < 30; ++number)
+    for (int number = 0; number < 30; ++number) {
         menu.add({u"/data/%1.vts"_s.arg(number)});
+    }
     EXPECT_EQ(entries(menu).size(), 10);
     EXPECT_EQ(entries(menu).first(), u"&1 29.vts  (/data)"_s);
 }

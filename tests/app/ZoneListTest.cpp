@@ -6,6 +6,7 @@
 #include "AppTestSupport.h"
 
 #include <QAbstractItemModelTester>
+#include <QLineEdit>
 #include <QListView>
 
 #include <dlfcn.h>
@@ -72,8 +73,9 @@ TEST_F(ZoneListTest, HidingSeveralZonesIsOneStepOfUndo)
     settle();
     const auto shown = [&model] {
         std::string marks;
-        for (int row = 0; row < model.rowCount(); ++row)
+        for (int row = 0; row < model.rowCount(); ++row) {
             marks += model.index(row).data(Qt::CheckStateRole).toInt() == Qt::Checked ? 'x' : '-';
+        }
         return marks;
     };
     EXPECT_EQ(shown(), "x-x-");

@@ -25,7 +25,7 @@ protected:
 
     static std::string take(char* text)
     {
-        const std::string copy = text ? text : "(null)";
+        std::string copy = text ? text : "(null)";
         VtxUtilStringDealloc(&text);
         EXPECT_EQ(text, nullptr);
         return copy;
@@ -34,6 +34,7 @@ protected:
     static long find(const std::vector<const char*>& path)
     {
         std::vector<long> ids;
+        ids.reserve(path.size());
         for (const char* name : path) {
             ids.push_back(VtxUtilStyleGetMacroID(name));
         }

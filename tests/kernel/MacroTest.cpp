@@ -217,7 +217,7 @@ TEST_F(MacroTest, AStepOfStyleIsCalledByWhatItChanges)
             setByInterface(path, 1.25);
         }
         char* name = VtxUtilUndoGetStepName();
-        const std::string text = name ? name : "";
+        std::string text = name ? name : "";
         VtxUtilStringDealloc(&name);
         return text;
     };

@@ -35,7 +35,7 @@ public:
 
     bool change() override
     {
-        for (Candidate const& value : otherValues()) {
+        for (auto const& value : otherValues()) {
             try {
                 m_property->setValue(static_cast<T>(value));
                 return m_property->value() == static_cast<T>(value);

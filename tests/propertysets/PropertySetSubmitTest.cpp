@@ -56,7 +56,7 @@ TEST_F(PropertySetSubmit, WritesAllEditsAsOneStepThatUndoTakesBack)
 TEST_F(PropertySetSubmit, ThatFailsOnOneMemberLeavesTheHostAsItWasAndTellsWhichField)
 {
     long const color = host.framelayoutBackgroundColor()->value();
-    double const width = host.framelayoutWidth()->value();
+    double const width = host.framelayoutWidth()->value(); // NOLINT(clang-analyzer-deadcode.DeadStores): compared below
     modal.framelayoutBackgroundColor()->setValue(static_cast<int>(color) + 1);
     modal.framelayoutWidth()->setValue(-1.0);
 

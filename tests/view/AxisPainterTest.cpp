@@ -153,7 +153,7 @@ TEST(AxisBoxPainter, PutsAxesOnTheOutlineOfTheBox)
     const Canvas canvas(painter, 100.0);
     const Box3 box{{0.0, 0.0, 0.0}, {2.0, 3.0, 1.0}};
     const QRectF picture(0.0, 0.0, 900.0, 800.0);
-    for (double theta = 5.0; theta < 360.0; theta += 20.0) {
+    for (int theta = 5; theta < 360; theta += 20) {
         for (const double psi : {20.0, 60.0, 120.0}) {
             View3D view;
             view.theta = theta;

@@ -23,8 +23,7 @@ double spoken(const NumberText& label)
     if (label.exponent.empty()) {
         return std::strtod(label.text.c_str(), nullptr);
     }
-    const std::size_t times = label.text.find("\u00d7"
-                                              "10");
+    const std::size_t times = label.text.find("\u00d710");
     const std::string mantissa = times != std::string::npos ? label.text.substr(0, times)
                                  : label.text == "10"       ? "1"
                                                             : "-1";
@@ -125,15 +124,8 @@ TEST(AxisTicks, OfAnOrdinaryRangeAreThoseThatAPersonWouldChoose)
     using Texts = std::vector<std::string>;
     EXPECT_EQ(labels(AxisScale(0.0, 1.0), request), (Texts{"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}));
     EXPECT_EQ(labels(AxisScale(-3.0, 2.1), request), (Texts{"-3", "-2", "-1", "0", "1", "2"}));
-    EXPECT_EQ(labels(AxisScale(0.0, 5e-8), request), (Texts{"0", "10^-8",
-                                                            "2\u00d7"
-                                                            "10^-8",
-                                                            "3\u00d7"
-                                                            "10^-8",
-                                                            "4\u00d7"
-                                                            "10^-8",
-                                                            "5\u00d7"
-                                                            "10^-8"}));
+    EXPECT_EQ(labels(AxisScale(0.0, 5e-8), request),
+              (Texts{"0", "10^-8", "2\u00d710^-8", "3\u00d710^-8", "4\u00d710^-8", "5\u00d710^-8"}));
     EXPECT_EQ(labels(AxisScale(0.1, 100.0, true), request), (Texts{"0.1", "1", "10", "100"}));
     EXPECT_EQ(labels(AxisScale(1e-6, 1.0, true), request), (Texts{"10^-6", "10^-4", "10^-2", "10^0"}));
 }
@@ -171,26 +163,18 @@ TEST(AxisTicks, WriteNumbersInTheFormatAskedFor)
         Range range;
         std::vector<std::string> expected;
     };
-    for (const Case& one : {Case{NumberFormat_RangeBestFloat, 3, {0, 1}, {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}},
-                            Case{NumberFormat_BestFloat, 3, {0, 1}, {"0", "0.2", "0.4", "0.6", "0.8", "1"}},
-                            Case{NumberFormat_Integer, 3, {0, 1}, {"0", "1"}},
-                            Case{NumberFormat_Integer, 3, {-40, 60}, {"-40", "-20", "0", "20", "40", "60"}},
-                            Case{NumberFormat_FixedFloat, 2, {0, 1}, {"0.00", "0.20", "0.40", "0.60", "0.80", "1.00"}},
-                            Case{NumberFormat_FixedFloat, 0, {0, 0.5}, {"0"}},
-                            Case{NumberFormat_Exponential,
-                                 1,
-                                 {0, 1000},
-                                 {"0.0E+00", "2.0E+02", "4.0E+02", "6.0E+02", "8.0E+02", "1.0E+03"}},
-                            Case{NumberFormat_SuperScript,
-                                 1,
-                                 {0, 0.3},
-                                 {"0",
-                                  "1\u00d7"
-                                  "10^-1",
-                                  "2\u00d7"
-                                  "10^-1",
-                                  "3\u00d7"
-                                  "10^-1"}}}) {
+    for (const Case& one :
+         {Case{NumberFormat_RangeBestFloat, 3, {0, 1}, {"0.0", "0.2", "0.4", "0.6", "0.8", "1.0"}},
+          Case{NumberFormat_BestFloat, 3, {0, 1}, {"0", "0.2", "0.4", "0.6", "0.8", "1"}},
+          Case{NumberFormat_Integer, 3, {0, 1}, {"0", "1"}},
+          Case{NumberFormat_Integer, 3, {-40, 60}, {"-40", "-20", "0", "20", "40", "60"}},
+          Case{NumberFormat_FixedFloat, 2, {0, 1}, {"0.00", "0.20", "0.40", "0.60", "0.80", "1.00"}},
+          Case{NumberFormat_FixedFloat, 0, {0, 0.5}, {"0"}},
+          Case{NumberFormat_Exponential,
+               1,
+               {0, 1000},
+               {"0.0E+00", "2.0E+02", "4.0E+02", "6.0E+02", "8.0E+02", "1.0E+03"}},
+          Case{NumberFormat_SuperScript, 1, {0, 0.3}, {"0", "1\u00d710^-1", "2\u00d710^-1", "3\u00d710^-1"}}}) {
         TickRequest request;
         request.length = 100.0;
         request.minimumDistance = 18.0;

@@ -1,5 +1,5 @@
-#include "ExpectNear.h"
 #include "view/Camera3D.h"
+#include "ExpectNear.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +17,8 @@ TEST(Camera3D, ShowsTheWholeBoxInsideItsMarginsFromEveryDirection)
 {
     const double aspect = 1.3;
     const double margin = 0.1;
-    for (double theta = 0.0; theta < 360.0; theta += 30.0) {
-        for (double psi = 0.0; psi <= 180.0; psi += 30.0) {
+    for (int theta = 0; theta < 360; theta += 30) {
+        for (int psi = 0; psi <= 180; psi += 30) {
             View3D view;
             view.theta = theta;
             view.psi = psi;

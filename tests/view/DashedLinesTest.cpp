@@ -38,7 +38,7 @@ vtkSmartPointer<vtkPolyData> gridEdges(int columns, int rows)
             lines->InsertNextCell({vtkIdType{j} * columns + i, (vtkIdType{j} + 1) * columns + i});
         }
     }
-    const auto edges = vtkSmartPointer<vtkPolyData>::New();
+    auto edges = vtkSmartPointer<vtkPolyData>::New();
     edges->SetPoints(points);
     edges->SetLines(lines);
     edges->GetPointData()->SetScalars(values);

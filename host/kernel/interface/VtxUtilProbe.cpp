@@ -111,6 +111,7 @@ bool VtxUtilProbeInstallCallbackX(VtxArgListHandle arguments)
         if (function != 0 && VtxUtilMouseIsValidMode(MouseMode_Probe)) {
             VtxUtilMouseSetMode(MouseMode_Probe); // which a macro can play, as it cannot a function of this process
         }
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): functions come as integers
         probes().install(reinterpret_cast<VtxProbeFunction>(function), argumentOr(arguments, "ClientData", 0L),
                          argumentOr(arguments, "StatusLineText", std::string()));
         return true;

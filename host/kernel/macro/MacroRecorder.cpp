@@ -54,7 +54,7 @@ void MacroRecorder::endStep()
     }
 }
 
-void MacroRecorder::recordStep(MacroCommand command)
+void MacroRecorder::recordStep(const MacroCommand& command)
 {
     if (isRecording() && m_depth == 0) {
         write(macroText(command));

@@ -35,7 +35,7 @@ public:
     void dropStep() { m_step.clear(); }
 
     /* A step of its own: what is never done under the lock. */
-    void recordStep(MacroCommand command);
+    void recordStep(const MacroCommand& command);
 
     /*
      * One call of a function of the interface that changes state; the outermost of nested calls counts. The command is

@@ -23,7 +23,7 @@ constexpr double samePlace = 1e-6;
 
 vtkSmartPointer<vtkDataSet> structureOf(vtkDataSet& grid)
 {
-    const auto structure = vtkSmartPointer<vtkDataSet>::Take(grid.NewInstance());
+    auto structure = vtkSmartPointer<vtkDataSet>::Take(grid.NewInstance());
     structure->CopyStructure(&grid);
     return structure;
 }

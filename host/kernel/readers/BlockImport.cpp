@@ -34,7 +34,7 @@ vtkSmartPointer<vtkDataArray> gather(vtkDataArray& values, vtkIdList* origin)
     if (!origin) {
         return &values;
     }
-    const auto result = vtkSmartPointer<vtkDataArray>::Take(values.NewInstance());
+    auto result = vtkSmartPointer<vtkDataArray>::Take(values.NewInstance());
     result->SetNumberOfTuples(origin->GetNumberOfIds());
     values.GetTuples(origin, result);
     return result;

@@ -50,6 +50,7 @@ void deal(std::vector<NamedValues>& targets, long count, const ValueAt& valueAt)
 {
     using Value = typename Array::ValueType;
     std::vector<Value*> outputs;
+    outputs.reserve(targets.size());
     for (const NamedValues& target : targets) {
         outputs.push_back(Array::SafeDownCast(target.values)->GetPointer(0));
     }

@@ -24,8 +24,9 @@ void makeMixedCells(DataSet& dataSet);
 inline void setVariables(DataSet& dataSet, const std::vector<std::string>& names)
 {
     dataSet.variables.clear();
-    for (const std::string& name : names)
+    for (const std::string& name : names) {
         dataSet.variables.push_back({name, true});
+    }
 }
 
 /* Gives a zone N nodal variables whose values at a point `valuesAt(index)` returns as std::array<double, N>. */
@@ -42,8 +43,9 @@ void fillNodal(Zone& zone, const ValuesAt& valuesAt)
     parallelFor(count, [&](long begin, long end) {
         for (long i = begin; i < end; ++i) {
             const std::array<double, N> values = valuesAt(static_cast<long>(i));
-            for (std::size_t v = 0; v < N; ++v)
+            for (std::size_t v = 0; v < N; ++v) {
                 targets[v][i] = static_cast<float>(values[v]);
+            }
         }
     });
 }
@@ -54,8 +56,9 @@ void fillCells(Zone& zone, const ValueAt& valueAt)
 {
     const long count = zone.cellCount();
     const vtkSmartPointer<vtkDataArray> values = makeValues(FieldDataType_Float, count);
-    for (long cell = 0; cell < count; ++cell)
+    for (long cell = 0; cell < count; ++cell) {
         values->SetComponent(cell, 0, valueAt(cell));
+    }
     zone.fields.push_back({values, ValueLocation_CellCentered, {}});
 }
 

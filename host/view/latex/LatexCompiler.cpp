@@ -49,7 +49,7 @@ QString errorIn(const QString& output)
     if (!found.hasMatch()) {
         return u"it gives no reason"_s;
     }
-    const QString what = found.captured(1).trimmed();
+    QString what = found.captured(1).trimmed();
     const auto at = place.match(output, found.capturedEnd());
     if (!at.hasMatch()) {
         return what;
@@ -110,7 +110,7 @@ QByteArray LatexCompiler::dvi(const QString& source)
         {u"-no-shell-escape"_s, u"-interaction=nonstopmode"_s, u"-halt-on-error"_s, u"-file-line-error"_s,
          u"text.tex"_s},
         output);
-    const QByteArray made = read(folder.filePath(u"text.dvi"_s));
+    QByteArray made = read(folder.filePath(u"text.dvi"_s));
     if (made.isEmpty()) {
         fail(u"LaTeX made no page of the text; does it say anything?"_s);
     }

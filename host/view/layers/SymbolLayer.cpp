@@ -36,7 +36,7 @@ vtkSmartPointer<vtkPolyData> flatSymbol(GeomShape_e shape, bool isFilled)
     for (vtkIdType i = 0; i < count; ++i) {
         cells->InsertCellPoint(i);
     }
-    const auto symbol = vtkSmartPointer<vtkPolyData>::New();
+    auto symbol = vtkSmartPointer<vtkPolyData>::New();
     symbol->SetPoints(points);
     if (isFilled) {
         symbol->SetPolys(cells);

@@ -110,7 +110,7 @@ public:
 
     vtkSmartPointer<vtkPolyData> result() const
     {
-        const auto arrows = vtkSmartPointer<vtkPolyData>::New();
+        auto arrows = vtkSmartPointer<vtkPolyData>::New();
         arrows->SetPoints(m_points);
         arrows->SetLines(m_lines);
         arrows->SetPolys(m_triangles);

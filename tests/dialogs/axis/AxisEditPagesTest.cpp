@@ -4,7 +4,9 @@
 #include "sdk/StateChangeEventObservable.h"
 #include "ui/ColorButton.h"
 
+#include <QCheckBox>
 #include <QLabel>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSpinBox>
 

@@ -148,6 +148,7 @@ TEST(OrderedZones, WhatCannotBeMadeIsRefusedWithTheReason)
              makeZone(RectangularZone{1, 1, 1, 0, 0, 0, 1, 1, 1, FieldDataType_Byte}, 3, xyz);
          }},
     };
-    for (const Case& each : cases)
+    for (const Case& each : cases) {
         EXPECT_NE(refusal(each.action).find(each.expected), std::string::npos) << refusal(each.action);
+    }
 }

@@ -60,6 +60,7 @@ protected:
         std::mt19937 random(7);
         std::uniform_int_distribution<vtkIdType> anyCell(0, source->GetNumberOfCells() - 1);
         std::vector<Position> places;
+        places.reserve(200);
         for (int i = 0; i < 200; ++i) {
             places.push_back(placeIn(*source, anyCell(random), random));
         }
@@ -120,6 +121,7 @@ protected:
     static void open(const std::vector<std::string>& names)
     {
         std::vector<std::string> files;
+        files.reserve(names.size());
         for (const std::string& name : names) {
             files.push_back(std::string(VX_SHARED_DATA) + "/" + name);
         }

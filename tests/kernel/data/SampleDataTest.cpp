@@ -31,8 +31,9 @@ TEST_P(SampleDataNamed, IsCompleteAndFinite)
             ASSERT_TRUE(field.isLoaded());
             const long expected = field.location == ValueLocation_Nodal ? zone.pointCount() : zone.cellCount();
             ASSERT_EQ(field.values->GetNumberOfTuples(), expected);
-            for (long i = 0; i < expected; ++i)
+            for (long i = 0; i < expected; ++i) {
                 ASSERT_TRUE(std::isfinite(field.values->GetComponent(i, 0)));
+            }
         }
         const vtkSmartPointer<vtkDataSet> grid = zoneGrid(dataSet, z, {1, 2, 3});
         EXPECT_EQ(grid->GetNumberOfPoints(), zone.pointCount());

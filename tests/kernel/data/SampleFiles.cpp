@@ -56,7 +56,7 @@ vtkSmartPointer<Grid> withValues(vtkSmartPointer<Grid> grid)
 
 vtkSmartPointer<vtkPoints> boxPoints()
 {
-    const auto points = vtkSmartPointer<vtkPoints>::New();
+    auto points = vtkSmartPointer<vtkPoints>::New();
     for (int k = 0; k < 2; ++k) {
         for (int j = 0; j < 3; ++j) {
             for (int i = 0; i < 4; ++i) {
@@ -114,7 +114,7 @@ vtkSmartPointer<vtkStructuredGrid> structured()
 vtkSmartPointer<vtkDataSet> rectilinear()
 {
     const auto axis = [](std::initializer_list<double> values) {
-        const auto array = vtkSmartPointer<vtkDoubleArray>::New();
+        auto array = vtkSmartPointer<vtkDoubleArray>::New();
         for (const double value : values) {
             array->InsertNextValue(value);
         }
@@ -178,7 +178,7 @@ vtkSmartPointer<vtkPolyData> surface()
 
 vtkSmartPointer<vtkMultiBlockDataSet> blocks()
 {
-    const auto all = vtkSmartPointer<vtkMultiBlockDataSet>::New();
+    auto all = vtkSmartPointer<vtkMultiBlockDataSet>::New();
     all->SetBlock(0, bricks());
     all->GetMetaData(0u)->Set(vtkCompositeDataSet::NAME(), "Inlet");
     const auto wall = surface();
@@ -213,8 +213,7 @@ const std::vector<Format>& formats()
 
 std::vector<std::string> writeEnSight(const std::string& folder)
 {
-    const std::vector<std::string> files{folder + "/sample.case", folder + "/sample.geo",
-                                         folder + "/sample.temperature"};
+    std::vector<std::string> files{folder + "/sample.case", folder + "/sample.geo", folder + "/sample.temperature"};
     std::ofstream(files[0]) << "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: sample.geo\n\nVARIABLE\n"
                                "scalar per node: Temperature sample.temperature\n";
     std::ofstream(files[1])
@@ -231,8 +230,8 @@ std::vector<std::string> writeEnSight(const std::string& folder)
 
 std::vector<std::string> writeEnSight6(const std::string& folder)
 {
-    const std::vector<std::string> files{folder + "/six.case", folder + "/six.geo", folder + "/six.temperature",
-                                         folder + "/six.load"};
+    std::vector<std::string> files{folder + "/six.case", folder + "/six.geo", folder + "/six.temperature",
+                                   folder + "/six.load"};
     std::ofstream(files[0]) << "FORMAT\ntype: ensight\n\nGEOMETRY\nmodel: six.geo\n\nVARIABLE\n"
                                "scalar per node: Temperature six.temperature\nscalar per element: Load six.load\n";
     std::ofstream(files[1]) << "Geometry of a test\ntwo triangles and a block\nnode id given\nelement id off\n"
@@ -255,7 +254,7 @@ std::vector<std::string> writeEnSight6(const std::string& folder)
 std::vector<std::string> writeBinaryEnSight(const std::string& folder)
 {
     const auto grid = bricks();
-    const std::vector<std::string> files{folder + "/binary.case", folder + "/binary.geo", folder + "/binary.pressure"};
+    std::vector<std::string> files{folder + "/binary.case", folder + "/binary.geo", folder + "/binary.pressure"};
     std::ofstream(files[0]) << "FORMAT\ntype: ensight gold\n\nGEOMETRY\nmodel: binary.geo\n\nVARIABLE\n"
                                "scalar per node: Pressure binary.pressure\n";
     const auto text = [](std::ofstream& file, std::string line) {
@@ -363,7 +362,8 @@ void writePlot3d(const std::string& gridFile, const std::string& solutionFile, c
         const int points = iMax * jMax * (layout.isTwoDimensional ? 1 : kMax);
         for (int axis = 0; axis < axes; ++axis) {
             for (int n = 0; n < points; ++n) {
-                const std::array<double, 3> place{1.0 * (n % iMax), 0.5 * (n / iMax % jMax), 2.0 * (n / iMax / jMax)};
+                const int k = n / iMax / jMax;
+                const std::array<double, 3> place{1.0 * (n % iMax), 0.5 * (n / iMax % jMax), 2.0 * k};
                 xyz.real(place[static_cast<std::size_t>(axis)]);
             }
         }
