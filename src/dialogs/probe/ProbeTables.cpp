@@ -12,6 +12,11 @@ namespace vantrix::sdk::ui::dialogs::probetables {
 
 namespace {
 
+QString tr(char const* text)
+{
+    return ProbeWidget::tr(text);
+}
+
 /// Replaces the rows of a table one after another.
 class RowWriter
 {
@@ -55,7 +60,7 @@ bool isPolytope(ZoneType_e type)
 
 QString indicesText(IJK_s const& at)
 {
-    return ProbeWidget::tr("I = %1").arg(at.i) + u'\n' + ProbeWidget::tr("J = %1\nK = %2").arg(at.j).arg(at.k);
+    return tr("I = %1").arg(at.i) + u'\n' + tr("J = %1\nK = %2").arg(at.j).arg(at.k);
 }
 
 void addOrderedCell(RowWriter& rows, bool isNearestPoint)
@@ -69,27 +74,25 @@ void addOrderedCell(RowWriter& rows, bool isNearestPoint)
         return;
     }
     if (hasFace) {
-        rows.add({ProbeWidget::tr("Face Plane"), QString::fromStdString(face.planeName + '\n' + face.planeText)});
-        rows.add(ProbeWidget::tr("Face Indices"), face.indicesText);
+        rows.add({tr("Face Plane"), QString::fromStdString(face.planeName + '\n' + face.planeText)});
+        rows.add(tr("Face Indices"), face.indicesText);
     } else {
-        rows.add({hasCell ? ProbeWidget::tr("Cell") : ProbeWidget::tr("Point"), indicesText(indices)});
+        rows.add({hasCell ? tr("Cell") : tr("Point"), indicesText(indices)});
     }
 }
 
 void addElementFaces(RowWriter& rows)
 {
     std::vector<PolyFaceInfo_s> const faces = GetProbedPolytopeFaceNodes();
-    rows.add(ProbeWidget::tr("Num Faces"), static_cast<long>(faces.size()));
+    rows.add(tr("Num Faces"), static_cast<long>(faces.size()));
     for (PolyFaceInfo_s const& face : faces) {
         QStringList nodes;
         for (long const node : face.nodes) {
             nodes << QString::number(node);
         }
-        QString const toolTip = ProbeWidget::tr("Face Num: %1\nNum Nodes: %2\nNodes: %3")
-                                    .arg(face.number)
-                                    .arg(nodes.size())
-                                    .arg(nodes.join(u' '));
-        rows.add({ProbeWidget::tr("Face %1").arg(face.number), nodes.join(u' ')}, toolTip);
+        QString const toolTip =
+            tr("Face Num: %1\nNum Nodes: %2\nNodes: %3").arg(face.number).arg(nodes.size()).arg(nodes.join(u' '));
+        rows.add({tr("Face %1").arg(face.number), nodes.join(u' ')}, toolTip);
     }
 }
 
@@ -102,18 +105,18 @@ void addElement(RowWriter& rows, bool isNearestPoint, ZoneType_e type)
     }
     long const face = VtxUtilProbeFieldGetFace();
     if (isPolytope(type) && face != 0) {
-        rows.add(ProbeWidget::tr("Current Face"), face);
+        rows.add(tr("Current Face"), face);
     }
     if (node != 0) {
-        rows.add(ProbeWidget::tr("Node Num"), node);
+        rows.add(tr("Node Num"), node);
     }
     if (element == 0) {
         return;
     }
-    rows.add(ProbeWidget::tr("Element Num"), element);
+    rows.add(tr("Element Num"), element);
     long number = 0;
     for (long const corner : GetProbedFECellNodes()) {
-        rows.add(ProbeWidget::tr("Node %1").arg(++number), corner);
+        rows.add(tr("Node %1").arg(++number), corner);
     }
     if (isPolytope(type)) {
         addElementFaces(rows);
@@ -122,20 +125,20 @@ void addElement(RowWriter& rows, bool isNearestPoint, ZoneType_e type)
 
 QString numberedAxisCaption(char axis, int number)
 {
-    return ProbeWidget::tr("%1%2:").arg(QLatin1Char(axis)).arg(number);
+    return tr("%1%2:").arg(QLatin1Char(axis)).arg(number);
 }
 
 QString acrossHeader(char probedAxis)
 {
     switch (probedAxis) {
     case 'X':
-        return ProbeWidget::tr("Y-Value");
+        return tr("Y-Value");
     case 'Y':
-        return ProbeWidget::tr("X-Value");
+        return tr("X-Value");
     case 'T':
-        return ProbeWidget::tr("R-Value");
+        return tr("R-Value");
     default:
-        return ProbeWidget::tr("Theta-Value");
+        return tr("Theta-Value");
     }
 }
 
@@ -150,13 +153,13 @@ QString axisName()
 {
     switch (VtxUtilProbeLineGetAxis()) {
     case 'T':
-        return ProbeWidget::tr("Theta");
+        return tr("Theta");
     case 'R':
-        return ProbeWidget::tr("R");
+        return tr("R");
     case 'Y':
-        return ProbeWidget::tr("Y%1").arg(VtxUtilProbeLineGetAxisNumber());
+        return tr("Y%1").arg(VtxUtilProbeLineGetAxisNumber());
     default:
-        return ProbeWidget::tr("X%1").arg(VtxUtilProbeLineGetAxisNumber());
+        return tr("X%1").arg(VtxUtilProbeLineGetAxisNumber());
     }
 }
 
@@ -181,17 +184,17 @@ void fillZoneInfo(QTableWidget& table)
     long jMax = 0;
     long kMax = 0;
     VtxUtilZoneGetIJK(zone, &iMax, &jMax, &kMax);
-    rows.add(ProbeWidget::tr("Zone Type"), GetProbedZoneTypeString());
+    rows.add(tr("Zone Type"), GetProbedZoneTypeString());
     if (VtxUtilZoneIsOrdered(zone)) {
-        rows.add(ProbeWidget::tr("I-Max"), iMax);
-        rows.add(ProbeWidget::tr("J-Max"), jMax);
-        rows.add(ProbeWidget::tr("K-Max"), kMax);
+        rows.add(tr("I-Max"), iMax);
+        rows.add(tr("J-Max"), jMax);
+        rows.add(tr("K-Max"), kMax);
         return;
     }
-    rows.add(ProbeWidget::tr("Total Points"), iMax);
-    rows.add(ProbeWidget::tr("Total Elements"), jMax);
+    rows.add(tr("Total Points"), iMax);
+    rows.add(tr("Total Elements"), jMax);
     if (isPolytope(VtxUtilZoneGetType(zone))) {
-        rows.add(ProbeWidget::tr("Total Faces"), VtxUtilZoneGetFaceCount(zone));
+        rows.add(tr("Total Faces"), VtxUtilZoneGetFaceCount(zone));
     }
 }
 
@@ -212,21 +215,20 @@ void fillFaceNeighbors(QTableWidget& table)
     long const zone = VtxUtilProbeFieldGetZone();
     for (FaceNeighbor_s const& neighbor : GetProbedItemFaceNeighbors()) {
         if (neighbor.cell == 0) {
-            rows.add({QString::number(neighbor.face), ProbeWidget::tr("none"), QString(), QString()});
+            rows.add({QString::number(neighbor.face), tr("none"), QString(), QString()});
             continue;
         }
-        QString const where = neighbor.zone == zone ? ProbeWidget::tr("self") : QString::number(neighbor.zone);
-        rows.add(
-            {QString::number(neighbor.face), where, QString::number(neighbor.cell), ProbeWidget::tr("one to one")});
+        QString const where = neighbor.zone == zone ? tr("self") : QString::number(neighbor.zone);
+        rows.add({QString::number(neighbor.face), where, QString::number(neighbor.cell), tr("one to one")});
     }
 }
 
 void fillInterpolatedValues(QTableWidget& table)
 {
-    table.setHorizontalHeaderLabels({ProbeWidget::tr("Item"), acrossHeader(VtxUtilProbeLineGetAxis())});
+    table.setHorizontalHeaderLabels({tr("Item"), acrossHeader(VtxUtilProbeLineGetAxis())});
     RowWriter rows(table);
     for (LineMapValue_s const& map : GetLineProbeDependentValues()) {
-        rows.add({lineMapText(map.lineMap), map.isValid ? exactText(map.value) : ProbeWidget::tr("N/A")});
+        rows.add({lineMapText(map.lineMap), map.isValid ? exactText(map.value) : tr("N/A")});
     }
 }
 
@@ -241,10 +243,10 @@ void fillSpecificValues(QTableWidget& table)
     VtxUtilProbeLineGetPickedValues(&x, &y);
     VtxUtilLineMapGetAssignment(map, nullptr, nullptr, nullptr, &xAxis, &yAxis);
     RowWriter rows(table);
-    rows.add({ProbeWidget::tr("Line Map"), lineMapText(map)});
-    rows.add(ProbeWidget::tr("Point"), VtxUtilProbeLineGetPoint());
-    rows.add({isPolar ? ProbeWidget::tr("Theta-Value") : numberedAxisCaption('X', xAxis), exactText(x)});
-    rows.add({isPolar ? ProbeWidget::tr("R-Value") : numberedAxisCaption('Y', yAxis), exactText(y)});
+    rows.add({tr("Line Map"), lineMapText(map)});
+    rows.add(tr("Point"), VtxUtilProbeLineGetPoint());
+    rows.add({isPolar ? tr("Theta-Value") : numberedAxisCaption('X', xAxis), exactText(x)});
+    rows.add({isPolar ? tr("R-Value") : numberedAxisCaption('Y', yAxis), exactText(y)});
 }
 
 } // namespace vantrix::sdk::ui::dialogs::probetables
