@@ -1,7 +1,10 @@
 # Headers that nearly every source of a layer includes, precompiled once and shared by the layers that name the owner.
 set(VX_PCH_CORE <algorithm> <functional> <map> <memory> <set> <sstream> <string> <vector>
     <boost/bind/bind.hpp> <boost/function.hpp> <boost/make_shared.hpp> <boost/shared_ptr.hpp> <boost/signals2.hpp>)
-set(VX_PCH_WIDGETS ${VX_PCH_CORE} <QtWidgets/QtWidgets>)
+set(VX_PCH_WIDGETS ${VX_PCH_CORE}
+    <QAbstractListModel> <QApplication> <QCheckBox> <QComboBox> <QDialogButtonBox> <QGridLayout> <QGroupBox> <QLabel>
+    <QLineEdit> <QListView> <QMenu> <QMouseEvent> <QPainter> <QPainterPath> <QPointer> <QPushButton> <QSettings> <QSpinBox>
+    <QTabWidget> <QTimer> <QVBoxLayout>)
 
 # vx_add_layer(name [SOURCES file...] [LINKS target...] [PCH header...|PCH_FROM target])
 #

@@ -7,6 +7,7 @@
 #include "support/KernelDialogTest.h"
 #include "toolbox/ArgList.h"
 
+#include <QStackedWidget>
 #include <QTableWidget>
 
 namespace vantrix::test {
