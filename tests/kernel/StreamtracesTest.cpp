@@ -243,9 +243,9 @@ TEST_F(StreamtracesTest, ARakeIsSpreadEvenlyAndLeavesOutWhatIsOutsideOfTheData)
 TEST_F(StreamtracesTest, AreSpreadOverSurfacesTheSameWayEachTime)
 {
     showFlow(PlotType_Cartesian3D, {11, 11, 11}, cube, uniform);
-    const auto onSurfaces = [](long region) {
+    const auto onSurfaces = [](long region, Streamtrace_e type = Streamtrace_SurfaceLine) {
         return add([&](ArgList& arguments) {
-            arguments.appendArbParam("StreamType", Streamtrace_SurfaceLine);
+            arguments.appendArbParam("StreamType", type);
             arguments.appendArbParam("DistributionRegion", region);
             arguments.appendArbParam("NumPts", 60);
         });
@@ -275,6 +275,10 @@ TEST_F(StreamtracesTest, AreSpreadOverSurfacesTheSameWayEachTime)
     std::vector<double> twice = before;
     twice.insert(twice.end(), before.begin(), before.end());
     EXPECT_EQ(xPositions(), twice);
+
+    showFlow(PlotType_Cartesian3D, {5, 5, 1}, square, uniform);
+    EXPECT_FALSE(onSurfaces(DistributionRegion_SurfacesOfActiveZones, Streamtrace_VolumeLine));
+    EXPECT_THAT(kernel().lastError(), HasSubstr("no volumes"));
 }
 
 TEST_F(StreamtracesTest, WhatCannotBePlacedIsRefusedWithItsCauseAndChangesNothing)
@@ -299,7 +303,7 @@ TEST_F(StreamtracesTest, WhatCannotBePlacedIsRefusedWithItsCauseAndChangesNothin
         };
     };
     const std::pair<Fill, const char*> bad[] = {
-        {at(7.5, Streamtrace_VolumeLine), "(7.5, 0.0, 0.0) is outside of the data field"},
+        {at(7.5, Streamtrace_VolumeLine), "(7.5, 0, 0) is outside of the data field"},
         {at(2.0, Streamtrace_SurfaceLine), "outside of the data field"},
         {at(0.0, Streamtrace_TwoDLine), "for 2D plots"},
         {at(0.0, 5), "must be from 0 to 4"},

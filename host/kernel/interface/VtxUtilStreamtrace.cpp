@@ -144,7 +144,7 @@ bool VtxUtilStreamtraceAddX(VtxArgListHandle arguments)
 {
     const auto add = [&] {
         Kernel& kernel = Kernel::instance();
-        kernel.undoStack().nameStep("Add Streamtraces");
+        boundary::nameStep("Add Streamtraces");
         const Arguments given(*arguments);
         const StreamtracePlacement placement(kernel);
         kernel.streamtraces().add(*kernel.document().activeFrame(),
@@ -166,7 +166,7 @@ bool VtxUtilStreamtraceDeleteRange(long first, long last)
         if (first > last) {
             return boundary::fail("A range of streamtraces runs from the smaller number to the larger.");
         }
-        Kernel::instance().undoStack().nameStep("Delete Streamtraces");
+        boundary::nameStep("Delete Streamtraces");
         std::set<long> handles;
         for (long number = first; number <= last; ++number) {
             handles.insert(streamtraceAt(number)->handle);
@@ -186,7 +186,7 @@ bool VtxUtilStreamtraceDeleteAll(void)
                 handles.insert(streamtrace->handle);
             }
         }
-        Kernel::instance().undoStack().nameStep("Delete Streamtraces");
+        boundary::nameStep("Delete Streamtraces");
         Kernel::instance().streamtraces().remove(handles);
         return true;
     };
@@ -199,22 +199,19 @@ bool VtxUtilStreamtraceGetPosition(long streamtrace, double* x, double* y, doubl
     if (!found) {
         return false;
     }
-    for (const auto& [target, value] : {std::pair{x, found->x}, std::pair{y, found->y}, std::pair{z, found->z}}) {
-        if (target) {
-            *target = value;
-        }
-    }
+    boundary::setIfNotNull(x, found->x);
+    boundary::setIfNotNull(y, found->y);
+    boundary::setIfNotNull(z, found->z);
     return true;
 }
 
 bool VtxUtilStreamtraceGetFormat(long streamtrace, Streamtrace_e* type, StreamDir_e* direction)
 {
     const Streamtrace* found = streamtraceAt(streamtrace);
-    if (found && type) {
-        *type = found->type;
+    if (!found) {
+        return false;
     }
-    if (found && direction) {
-        *direction = found->direction;
-    }
-    return found != nullptr;
+    boundary::setIfNotNull(type, found->type);
+    boundary::setIfNotNull(direction, found->direction);
+    return true;
 }

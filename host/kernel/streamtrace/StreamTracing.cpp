@@ -11,6 +11,7 @@
 #include <vtkStreamTracer.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace vantrix::kernel {

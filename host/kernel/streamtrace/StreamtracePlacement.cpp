@@ -4,6 +4,7 @@
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/NumberText.h"
 #include "kernel/PickList.h"
 #include "kernel/ProbeService.h"
 #include "kernel/StyleStore.h"
@@ -40,12 +41,8 @@ void checkRange(const char* name, long value, long first, long last)
 
 std::string text(const Position& position, bool isThreeD)
 {
-    const auto number = [](double value) {
-        std::string digits = std::to_string(value);
-        digits.erase(digits.find_last_not_of('0') + 1);
-        return digits.back() == '.' ? digits + '0' : digits;
-    };
-    return '(' + number(position[0]) + ", " + number(position[1]) + (isThreeD ? ", " + number(position[2]) : "") + ')';
+    return '(' + numberText(position[0]) + ", " + numberText(position[1]) +
+           (isThreeD ? ", " + numberText(position[2]) : "") + ')';
 }
 
 Position centerOf(vtkDataSet& cells, vtkIdType number)
@@ -137,6 +134,9 @@ std::vector<Streamtrace> StreamtracePlacement::place(const PlacementRequest& req
             if (const auto start = inData(onSurface, made.type)) {
                 inside.push_back(*start);
             }
+        }
+        if (inside.empty()) {
+            throw DataError("There are no volumes to place streamtraces in.");
         }
         positions = std::move(inside);
     }
