@@ -67,7 +67,7 @@ const Layer& layerOf(const QCheckBox& box)
         layers, [&](const Layer& layer) { return box.objectName() == QLatin1StringView(layer.objectName); });
 }
 
-toolbox::StyleValue fieldLayer(const QCheckBox& box)
+toolbox::StyleValue layerStyle(const QCheckBox& box)
 {
     const Layer& layer = layerOf(box);
     return toolbox::StyleValue(layer.group, layer.styleName);
@@ -160,7 +160,7 @@ void SideBar::setLayer(QCheckBox& box, bool isOn)
     }
     const sdk::AppLock lock;
     VtxUtilUndoSetStepName("Layers");
-    fieldLayer(box).setValue(isOn);
+    layerStyle(box).setValue(isOn);
 }
 
 void SideBar::update()
@@ -179,7 +179,7 @@ void SideBar::update()
     m_contourVariable->refresh();
     for (QCheckBox* box : std::as_const(m_layerBoxes)) {
         bool isOn = false;
-        fieldLayer(*box).getValue(&isOn);
+        layerStyle(*box).getValue(&isOn);
         box->setChecked(isOn);
     }
 }
