@@ -27,13 +27,22 @@ private:
 
 } // namespace
 
-std::size_t UndoStack::Step::memory() const
+void UndoStack::countMemory(Step& step)
 {
-    std::size_t bytes = 0;
-    for (const auto& change : changes) {
-        bytes += change->memory();
+    m_memory -= step.memory;
+    step.memory = 0;
+    for (const auto& change : step.changes) {
+        step.memory += change->memory();
     }
-    return bytes;
+    m_memory += step.memory;
+}
+
+void UndoStack::forgetRedo()
+{
+    for (const Step& step : m_redo) {
+        m_memory -= step.memory;
+    }
+    m_redo.clear();
 }
 
 void UndoStack::beginStep()
@@ -53,8 +62,9 @@ void UndoStack::endStep()
     if (step->changes.empty()) {
         return;
     }
-    m_redo.clear();
+    forgetRedo();
     step->state = ++m_lastState;
+    countMemory(*step);
     m_undo.push_back(std::move(*step));
     ++m_revision;
     trim();
@@ -162,6 +172,7 @@ void UndoStack::clear()
 {
     m_undo.clear();
     m_redo.clear();
+    m_memory = 0;
     if (m_current) {
         m_current->changes.clear();
     }
@@ -177,18 +188,16 @@ void UndoStack::setMemoryBound(std::size_t bytes)
 
 void UndoStack::trim()
 {
-    std::size_t total = 0;
-    std::size_t kept = 0;
-    while (kept < m_undo.size()) {
-        total += m_undo[m_undo.size() - 1 - kept].memory();
-        if (total > m_memoryBound) {
-            break;
-        }
-        ++kept;
+    if (m_memory <= m_memoryBound) {
+        return;
     }
-    if (kept < m_undo.size()) {
-        m_oldestState = m_undo[m_undo.size() - 1 - kept].state;
-        m_undo.erase(m_undo.begin(), m_undo.end() - static_cast<std::ptrdiff_t>(kept));
+    // What a step keeps becomes less when variables leave the memory.
+    std::ranges::for_each(m_undo, [this](Step& step) { countMemory(step); });
+    std::ranges::for_each(m_redo, [this](Step& step) { countMemory(step); });
+    while (m_memory > m_memoryBound && !m_undo.empty()) {
+        m_memory -= m_undo.front().memory;
+        m_oldestState = m_undo.front().state;
+        m_undo.pop_front();
         ++m_revision;
     }
 }

@@ -93,9 +93,11 @@ private:
         std::string name;
         unsigned long state = 0; /* after it */
         std::vector<std::unique_ptr<UndoableChange>> changes;
-        std::size_t memory() const;
+        std::size_t memory = 0; /* what its changes kept when it was counted last */
     };
 
+    void countMemory(Step& step);
+    void forgetRedo();
     void trim();
     bool replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo);
 
@@ -104,6 +106,7 @@ private:
     std::deque<Step> m_undo;
     std::deque<Step> m_redo;
     std::unique_ptr<Step> m_current;
+    std::size_t m_memory = 0; /* of all steps that are done or can be redone */
     std::size_t m_memoryBound = std::size_t{2} << 30;
     unsigned long m_revision = 0;
     unsigned long m_lastState = 1;
