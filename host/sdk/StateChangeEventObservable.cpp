@@ -7,6 +7,8 @@
 #include <boost/signals2/dummy_mutex.hpp>
 #include <boost/signals2/signal_type.hpp>
 
+#include <map>
+
 namespace vantrix::sdk::integration {
 
 namespace {
@@ -20,7 +22,7 @@ void passOn(VtxStateChangeHandle change, void* observable)
 
 } // namespace
 
-struct StateChangeEventObservable::Signal
+struct StateChangeEventObservable::Signals
 {
     /// Calls every slot, whatever the ones before it do.
     struct CallEverySlot
@@ -37,9 +39,14 @@ struct StateChangeEventObservable::Signal
     };
 
     // Everything is called on one thread, so a mutex would only cost.
-    boost::signals2::signal_type<
-        void(toolbox::StateChangeEventInterface const&), boost::signals2::keywords::combiner_type<CallEverySlot>,
-        boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type signal;
+    using Signal =
+        boost::signals2::signal_type<void(toolbox::StateChangeEventInterface const&),
+                                     boost::signals2::keywords::combiner_type<CallEverySlot>,
+                                     boost::signals2::keywords::mutex_type<boost::signals2::dummy_mutex>>::type;
+
+    Signal every;
+    // A slot may connect to a further entry while all are told: nothing that is there may move then.
+    std::map<long, Signal> ofEntry;
 };
 
 StateChangeEventObservable& StateChangeEventObservable::getInstance()
@@ -50,7 +57,7 @@ StateChangeEventObservable& StateChangeEventObservable::getInstance()
 }
 
 StateChangeEventObservable::StateChangeEventObservable()
-    : m_signal(std::make_unique<Signal>())
+    : m_signals(std::make_unique<Signals>())
 {
     VtxUtilStateChangeAddListener(&passOn, this);
 }
@@ -59,17 +66,30 @@ StateChangeEventObservable::~StateChangeEventObservable() = default;
 
 void StateChangeEventObservable::notify(toolbox::StateChangeEventInterface const& event)
 {
-    m_signal->signal(event);
+    long const entry = event.kind() == StateChange_Style ? event.styleEntry() : -1;
+    if (entry < 0) {
+        for (auto& [anyEntry, signal] : m_signals->ofEntry) {
+            signal(event);
+        }
+    } else if (auto const listening = m_signals->ofEntry.find(entry); listening != m_signals->ofEntry.end()) {
+        listening->second(event);
+    }
+    m_signals->every(event);
 }
 
 boost::signals2::connection StateChangeEventObservable::connectAtBack(Slot const& slot)
 {
-    return m_signal->signal.connect(slot);
+    return m_signals->every.connect(slot);
+}
+
+boost::signals2::connection StateChangeEventObservable::connectToStyleEntry(long entry, Slot const& slot)
+{
+    return m_signals->ofEntry[entry].connect(slot);
 }
 
 void StateChangeEventObservable::disconnect(SlotEqualTo const& slot)
 {
-    m_signal->signal.disconnect(slot);
+    m_signals->every.disconnect(slot);
 }
 
 } // namespace vantrix::sdk::integration

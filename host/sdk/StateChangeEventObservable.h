@@ -30,18 +30,22 @@ public:
 
     boost::signals2::connection connectAtBack(Slot const& slot) override;
 
+    /// Connects a slot that is told only of what can change the value of one style entry: a style change of that entry,
+    /// or one that names none, and every change of another kind. It is told before the slots that hear of every change.
+    boost::signals2::connection connectToStyleEntry(long entry, Slot const& slot);
+
     /// Tells all slots; what the host's notification does.
     void notify(toolbox::StateChangeEventInterface const& event);
 
 private:
-    struct Signal;
+    struct Signals;
 
     StateChangeEventObservable();
     ~StateChangeEventObservable() override;
 
     void disconnect(SlotEqualTo const& slot);
 
-    std::unique_ptr<Signal> m_signal;
+    std::unique_ptr<Signals> m_signals;
 };
 
 } // namespace vantrix::sdk::integration

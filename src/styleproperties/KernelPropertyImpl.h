@@ -122,8 +122,8 @@ void KernelProperty<T>::signalValueChangedConnected() const
         retrieveValue();
     }
     m_connections.clear();
-    m_connections.add(integration::StateChangeEventObservable::getInstance().connect(
-        [this](toolbox::StateChangeEventInterface const& event) { stateChanged(event); }));
+    m_connections.add(integration::StateChangeEventObservable::getInstance().connectToStyleEntry(
+        m_styleValue.entry(), [this](toolbox::StateChangeEventInterface const& event) { stateChanged(event); }));
 }
 
 template<typename T>

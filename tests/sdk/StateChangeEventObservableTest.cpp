@@ -1,5 +1,6 @@
 #include "sdk/StateChangeEventObservable.h"
 #include "support/RecordingHost.h"
+#include "toolbox/CheckedStyleValue.h"
 
 #include <gmock/gmock.h>
 
@@ -37,4 +38,25 @@ TEST(StateChangeEventObservable, ReachesEverySlotThoughOneThrows)
     host.notify(StateChange_View);
     EXPECT_EQ(calls, 1);
     EXPECT_THAT(host.statusMessages, ElementsAre("broken slot"));
+}
+
+TEST(StateChangeEventObservable, ASlotOfOneEntryHearsOnlyWhatCanChangeItsValue)
+{
+    RecordingHost& host = RecordingHost::instance();
+    host.reset();
+    host.define({"Axis", "Min"}, 0.5);
+    host.define({"Axis", "Max"}, 1.5);
+    std::vector<std::string> heard;
+    StateChangeEventObservable& observable = StateChangeEventObservable::getInstance();
+    vantrix::toolbox::CheckedStyleValue const minimum{vantrix::toolbox::StyleValue("Axis", "Min")};
+    boost::signals2::scoped_connection const every = observable.connect(
+        [&heard](StateChangeEventInterface const& event) { heard.push_back("every " + event.styleParam(2)); });
+    boost::signals2::scoped_connection const ofMinimum =
+        observable.connectToStyleEntry(minimum.entry(), [&heard](StateChangeEventInterface const& event) {
+            heard.push_back("own " + event.styleParam(2));
+        });
+    host.change({"Axis", "Max"}, 2.0);
+    host.change({"Axis", "Min"}, 1.0);
+    host.notify(StateChange_View);
+    EXPECT_THAT(heard, ElementsAre("every Max", "own Min", "every Min", "own ", "every "));
 }
