@@ -1,5 +1,10 @@
 #include "propertybindings/NumberLocale.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 
 namespace {
@@ -11,7 +16,26 @@ public:
 
     State validate(QString& text, int& position) const override
     {
+        if (isNumberInRange(text)) {
+            return Acceptable;
+        }
         return text.contains(QLatin1Char(',')) ? Intermediate : QDoubleValidator::validate(text, position);
+    }
+
+private:
+    // What a property writes into its field is nearly always this, and the general answer takes several times as long.
+    bool isNumberInRange(QString const& text) const
+    {
+        std::array<char, 32> digits; // NOLINT(cppcoreguidelines-pro-type-member-init): as much as is used is written
+        auto const length = static_cast<std::size_t>(text.size());
+        if (length > digits.size() || (decimals() >= 0 && text.size() > decimals())) {
+            return false;
+        }
+        std::ranges::transform(text, digits.begin(), [](QChar digit) { return digit.toLatin1(); });
+        double value = 0.0;
+        auto const [end, error] = std::from_chars(digits.data(), digits.data() + length, value);
+        return error == std::errc() && end == digits.data() + length && std::isfinite(value) && value >= bottom() &&
+               value <= top();
     }
 };
 
