@@ -1,15 +1,18 @@
 #include "view/SurfaceThinning.h"
 
-#include <vtkBinnedDecimation.h>
+#include <vtkCellArray.h>
 #include <vtkCellData.h>
-#include <vtkIdTypeArray.h>
+#include <vtkIdList.h>
 #include <vtkPointData.h>
+#include <vtkPoints.h>
 #include <vtkPolyData.h>
 #include <vtkTriangleFilter.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <unordered_map>
+#include <vector>
 
 namespace vantrix::view {
 
@@ -29,34 +32,68 @@ std::array<int, 3> divisions(vtkPolyData& surface, double most)
     return result;
 }
 
-/* The filter makes single precision of whole numbers; numbers of points and cells stay such. */
-void restoreNumbers(vtkDataSetAttributes& before, vtkDataSetAttributes& after)
+/* The number of the bin that each point is in. */
+std::vector<std::size_t> binsOf(vtkPolyData& surface, double most)
 {
-    for (int i = 0; i < before.GetNumberOfArrays(); ++i) {
-        auto* numbers = vtkIdTypeArray::SafeDownCast(before.GetArray(i));
-        vtkDataArray* values = numbers ? after.GetArray(numbers->GetName()) : nullptr;
-        if (values) {
-            const auto restored = vtkSmartPointer<vtkIdTypeArray>::New();
-            restored->DeepCopy(values);
-            restored->SetName(numbers->GetName());
-            after.AddArray(restored);
+    const std::array<int, 3> bins = divisions(surface, most);
+    std::array<double, 6> bounds{};
+    surface.GetBounds(bounds.data());
+    std::vector<std::size_t> numbers(static_cast<std::size_t>(surface.GetNumberOfPoints()));
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        std::array<double, 3> point{};
+        surface.GetPoint(static_cast<vtkIdType>(i), point.data());
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const double length = bounds[2 * axis + 1] - bounds[2 * axis];
+            const double part = length > 0.0 ? (point[axis] - bounds[2 * axis]) / length : 0.0;
+            const auto last = static_cast<std::size_t>(bins[axis] - 1);
+            numbers[i] = numbers[i] * (last + 1) + std::min(last, static_cast<std::size_t>(part * double(bins[axis])));
         }
     }
+    return numbers;
 }
 
-vtkSmartPointer<vtkPolyData> binned(vtkPolyData& triangles, double most)
+std::size_t countDifferent(std::vector<std::size_t> numbers)
 {
-    const std::array<int, 3> bins = divisions(triangles, most);
-    const auto filter = vtkSmartPointer<vtkBinnedDecimation>::New();
-    filter->SetInputData(&triangles);
-    filter->SetPointGenerationModeToBinPoints();
-    filter->ProduceCellDataOn();
-    filter->AutoAdjustNumberOfDivisionsOff();
-    filter->SetNumberOfDivisions(bins[0], bins[1], bins[2]);
-    filter->Update();
-    restoreNumbers(*triangles.GetPointData(), *filter->GetOutput()->GetPointData());
-    restoreNumbers(*triangles.GetCellData(), *filter->GetOutput()->GetCellData());
-    return filter->GetOutput();
+    std::ranges::sort(numbers);
+    return numbers.size() - std::ranges::unique(numbers).size();
+}
+
+/* The triangles with the first point of each bin in place of all its points; those within one or two bins are gone. */
+vtkSmartPointer<vtkPolyData> clustered(vtkPolyData& triangles, const std::vector<std::size_t>& bins)
+{
+    const auto points = vtkSmartPointer<vtkPoints>::Take(vtkPoints::New(triangles.GetPoints()->GetDataType()));
+    const auto polygons = vtkSmartPointer<vtkCellArray>::New();
+    auto result = vtkSmartPointer<vtkPolyData>::New();
+    vtkPointData& pointData = *result->GetPointData();
+    vtkCellData& cellData = *result->GetCellData();
+    pointData.CopyAllocate(triangles.GetPointData());
+    cellData.CopyAllocate(triangles.GetCellData());
+
+    std::vector<vtkIdType> kept(bins.size());
+    std::unordered_map<std::size_t, vtkIdType> firstOf;
+    for (std::size_t i = 0; i < bins.size(); ++i) {
+        const auto point = static_cast<vtkIdType>(i);
+        const auto [first, isNew] = firstOf.try_emplace(bins[i], static_cast<vtkIdType>(firstOf.size()));
+        kept[i] = first->second;
+        if (isNew) {
+            points->InsertNextPoint(triangles.GetPoint(point));
+            pointData.CopyData(triangles.GetPointData(), point, first->second);
+        }
+    }
+    const auto corner = vtkSmartPointer<vtkIdList>::New();
+    for (vtkIdType triangle = 0; triangle < triangles.GetNumberOfPolys(); ++triangle) {
+        triangles.GetPolys()->GetCellAtId(triangle, corner);
+        std::array<vtkIdType, 3> corners{};
+        for (std::size_t i = 0; i < 3; ++i) {
+            corners[i] = kept[static_cast<std::size_t>(corner->GetId(static_cast<vtkIdType>(i)))];
+        }
+        if (corners[0] != corners[1] && corners[1] != corners[2] && corners[2] != corners[0]) {
+            cellData.CopyData(triangles.GetCellData(), triangle, polygons->InsertNextCell(3, corners.data()));
+        }
+    }
+    result->SetPoints(points);
+    result->SetPolys(polygons);
+    return result;
 }
 
 } // namespace
@@ -74,15 +111,16 @@ vtkSmartPointer<vtkPolyData> thinned(vtkPolyData* surface, double keptPoints)
     triangles->Update();
     // The bins that a surface passes through grow with the square of their number along an axis.
     double most = std::sqrt(wanted);
-    vtkSmartPointer<vtkPolyData> result;
+    std::vector<std::size_t> bins;
     for (int trial = 0; trial < 4; ++trial) {
-        result = binned(*triangles->GetOutput(), most);
-        const auto count = static_cast<double>(std::max<vtkIdType>(1, result->GetNumberOfPoints()));
-        if (std::abs(count - wanted) < 0.15 * wanted) {
+        bins = binsOf(*surface, most);
+        const auto count = static_cast<double>(countDifferent(bins));
+        if (std::abs(count - wanted) < 0.1 * wanted) {
             break;
         }
         most *= std::sqrt(wanted / count);
     }
+    const vtkSmartPointer<vtkPolyData> result = clustered(*triangles->GetOutput(), bins);
     return result->GetNumberOfPolys() > 0 ? result : vtkSmartPointer<vtkPolyData>(surface);
 }
 
