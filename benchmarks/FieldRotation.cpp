@@ -15,6 +15,7 @@
 
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QWindow>
 
 #include <benchmark/benchmark.h>
 
@@ -83,7 +84,10 @@ void rotate(benchmark::State& state)
     view::WorkArea area(kernel::Kernel::instance());
     area.resize(size);
     area.show();
-    QCoreApplication::processEvents();
+    // A window that is not exposed is not painted.
+    while (!area.windowHandle()->isExposed()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     area.fitPaper();
     area.repaint();
     QPointF place(400.0, 300.0);

@@ -1,6 +1,9 @@
-// One style change of the host with 1 000 listening kernel properties beside 1 000 raw reads of the store.
+// One state change of the host with 1 000 listening kernel properties beside 1 000 raw reads of the store: a style
+// change of another entry, of which they need not hear, and a change of the view, of which they all do.
 
 #include "api/VtxUtil.h"
+#include "kernel/Kernel.h"
+#include "kernel/StateChanges.h"
 #include "sdk/AppLock.h"
 #include "styleproperties/KernelProperty.h"
 #include "toolbox/ArgList.h"
@@ -23,13 +26,20 @@ constexpr int listeners = 1000;
 StyleValue const mirrored("FrameLayout", "Width");
 StyleValue const changed("FrameLayout", "HeaderColor");
 
-void change(long round)
+void changeStyle(long round)
 {
     vantrix::sdk::AppLock const lock;
     changed.setValue(round % 2 ? 2L : 3L);
 }
 
-void stateChange(benchmark::State& state)
+void changeView(long /*round*/)
+{
+    vantrix::kernel::Kernel::instance().stateChanges().send(StateChange_View);
+}
+
+using Change = void (*)(long round);
+
+void listening(benchmark::State& state, Change change)
 {
     std::vector<boost::shared_ptr<KernelProperty<double>>> properties;
     long heard = 0;
@@ -43,9 +53,10 @@ void stateChange(benchmark::State& state)
     }
     state.counters["heard"] = static_cast<double>(heard);
 }
-BENCHMARK(stateChange)->Name("state_change/ours");
+BENCHMARK_CAPTURE(listening, style, &changeStyle)->Name("state_change/ours");
+BENCHMARK_CAPTURE(listening, view, &changeView)->Name("view_change/ours");
 
-void rawReads(benchmark::State& state)
+void rawReads(benchmark::State& state, Change change)
 {
     vantrix::toolbox::RawArray<long> ids;
     mirrored.initMacroIDsfromStyleValueNames(ids);
@@ -61,6 +72,7 @@ void rawReads(benchmark::State& state)
         }
     }
 }
-BENCHMARK(rawReads)->Name("state_change/bound");
+BENCHMARK_CAPTURE(rawReads, style, &changeStyle)->Name("state_change/bound");
+BENCHMARK_CAPTURE(rawReads, view, &changeView)->Name("view_change/bound");
 
 } // namespace
