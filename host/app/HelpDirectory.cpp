@@ -9,8 +9,9 @@ QString helpDirectory()
 {
     const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../" VX_INSTALLED_HELP);
     for (const QString& candidate : {installed, QStringLiteral(VX_SOURCE_HELP)}) {
-        if (QDir(candidate).exists())
+        if (QDir(candidate).exists()) {
             return QDir::cleanPath(candidate);
+        }
     }
     return {};
 }

@@ -67,8 +67,9 @@ bool HelpWindow::showPage(const QString& page)
 {
     const QString name = page.section(u'#', 0, 0);
     const QFileInfo file(helpDirectory() + u'/' + name);
-    if (name.isEmpty() || helpDirectory().isEmpty() || !file.isFile())
+    if (name.isEmpty() || helpDirectory().isEmpty() || !file.isFile()) {
         return false;
+    }
     m_browser->setSource(QUrl::fromLocalFile(file.absoluteFilePath()).resolved(QUrl(page)));
     show();
     raise();

@@ -18,8 +18,9 @@ QAction* addHostAction(QMenu& menu, const QString& text, const QString& objectNa
             const sdk::AppLock lock;
             isDone = call();
         }
-        if (!isDone)
+        if (!isDone) {
             VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        }
     });
     return action;
 }

@@ -1,6 +1,7 @@
 #include "app/ImageSizeDialog.h"
 
 #include "app/PictureExport.h"
+#include "ui/IntegerSpinBox.h"
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -22,7 +23,7 @@ constexpr int usualDensity = 150;
 
 QSpinBox* newSpinBox(const QString& name, int least, int most, const QString& suffix, QWidget* parent)
 {
-    auto* box = new QSpinBox(parent);
+    auto* box = new sdk::ui::common::IntegerSpinBox(parent);
     box->setObjectName(name);
     box->setRange(least, most);
     box->setSuffix(suffix);

@@ -45,8 +45,9 @@ QString LayoutFiles::title(const QString& untitled) const
 
 bool LayoutFiles::attempt(bool isDone)
 {
-    if (!isDone)
+    if (!isDone) {
         VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    }
     return isDone;
 }
 
@@ -58,8 +59,9 @@ QString LayoutFiles::ask(const QString& title, bool isSaving) const
     dialog.setAcceptMode(isSaving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(isSaving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setDefaultSuffix(suffix().mid(1));
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
         return {};
+    }
     QSettings().setValue(layoutFolderKey, dialog.directory().absolutePath());
     return dialog.selectedFiles().first();
 }
@@ -71,11 +73,13 @@ bool LayoutFiles::clear()
 
 bool LayoutFiles::choose()
 {
-    if (!mayDrop())
+    if (!mayDrop()) {
         return false;
+    }
     const QString file = ask(tr("Open Layout"), false);
-    if (file.isEmpty())
+    if (file.isEmpty()) {
         return false;
+    }
     const sdk::WaitState wait;
     return attempt(VtxUtilLayoutOpen(file.toUtf8().constData()));
 }
@@ -98,16 +102,18 @@ bool LayoutFiles::saveAs()
 
 bool LayoutFiles::saveTo(const QString& file)
 {
-    if (!attempt(VtxUtilLayoutSave(file.toUtf8().constData())))
+    if (!attempt(VtxUtilLayoutSave(file.toUtf8().constData()))) {
         return false;
+    }
     VtxUtilStatusMessage(tr("Saved \"%1\".").arg(file).toUtf8().constData());
     return true;
 }
 
 bool LayoutFiles::mayDrop()
 {
-    if (!m_layout.isModified())
+    if (!m_layout.isModified()) {
         return true;
+    }
     const auto answer = QMessageBox::warning(
         &m_window, tr("Unsaved Changes"), tr("The layout has changes that are not saved. Save them?"),
         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);

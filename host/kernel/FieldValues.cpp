@@ -43,7 +43,7 @@ vtkSmartPointer<vtkDataArray> newArray(FieldDataType_e type)
 
 vtkSmartPointer<vtkDataArray> makeValues(FieldDataType_e type, long count)
 {
-    const vtkSmartPointer<vtkDataArray> values = newArray(type);
+    vtkSmartPointer<vtkDataArray> values = newArray(type);
     const double bytes = static_cast<double>(count) * static_cast<double>(valueSize(type));
     if (bytes <= availableMemory()) {
         try {
@@ -58,7 +58,7 @@ vtkSmartPointer<vtkDataArray> makeValues(FieldDataType_e type, long count)
 
 vtkSmartPointer<vtkDataArray> makeZeros(FieldDataType_e type, long count)
 {
-    const vtkSmartPointer<vtkDataArray> values = makeValues(type, count);
+    vtkSmartPointer<vtkDataArray> values = makeValues(type, count);
     values->Fill(0.0);
     return values;
 }
@@ -117,10 +117,11 @@ std::optional<ValueRange> variableRange(const DataSet& dataSet, long variable)
             continue;
         }
         const std::optional<ValueRange> range = valueRange(*field->values);
-        if (range && all)
+        if (range && all) {
             all = ValueRange{std::min(all->minimum, range->minimum), std::max(all->maximum, range->maximum)};
-        else if (range)
+        } else if (range) {
             all = range;
+        }
     }
     return all;
 }

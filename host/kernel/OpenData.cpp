@@ -64,6 +64,7 @@ void OpenData::files(const std::vector<std::string>& names)
         DataReader::read(names, read, [&](double fraction) { return progress.report(fraction); });
     }
     std::vector<std::string> paths;
+    paths.reserve(names.size());
     for (const std::string& name : names) {
         paths.push_back(std::filesystem::absolute(name).string());
     }

@@ -19,27 +19,30 @@ namespace {
 
 void expectDimension(const char* name, long value, long least)
 {
-    if (value < least || value > std::numeric_limits<int>::max())
+    if (value < least || value > std::numeric_limits<int>::max()) {
         throw DataError(std::string("The ") + name + " dimension is " + std::to_string(value) + "; it must be from " +
                         std::to_string(least) + " to " + std::to_string(std::numeric_limits<int>::max()) + ".");
+    }
 }
 
 void expectPlace(const char* name, double value, FieldDataType_e type)
 {
     const double limit = type == FieldDataType_Float ? static_cast<double>(std::numeric_limits<float>::max())
                                                      : std::numeric_limits<double>::max();
-    if (!(std::abs(value) <= limit))
+    if (!(std::abs(value) <= limit)) {
         throw DataError(std::string("The ") + name + " is not a number that " +
                         (type == FieldDataType_Float ? "single" : "double") +
                         " precision holds; it must lie within +/-" +
                         (type == FieldDataType_Float ? "3.4028e+38." : "1.7976e+308."));
+    }
 }
 
 void expectFloatingPoint(FieldDataType_e type)
 {
-    if (type != FieldDataType_Float && type != FieldDataType_Double)
+    if (type != FieldDataType_Float && type != FieldDataType_Double) {
         throw DataError("A zone is created with values of single (1) or double precision (2); the data type " +
                         std::to_string(static_cast<int>(type)) + " cannot hold coordinates.");
+    }
 }
 
 /* The coordinates, the zeros of the other variables, and the points that a plot makes of them. */
@@ -47,19 +50,21 @@ void expectMemory(const std::array<long, 3>& dimensions, FieldDataType_e type)
 {
     const double points =
         static_cast<double>(dimensions[0]) * static_cast<double>(dimensions[1]) * static_cast<double>(dimensions[2]);
-    if (points * static_cast<double>(valueSize(type)) * 7.0 > availableMemory())
+    if (points * static_cast<double>(valueSize(type)) * 7.0 > availableMemory()) {
         throw DataError("The index values are too large: " + std::to_string(dimensions[0]) + " x " +
                         std::to_string(dimensions[1]) + " x " + std::to_string(dimensions[2]) +
                         " points are more than there is memory for.");
+    }
 }
 
 /* `count` numbers evenly spaced, both ends exact. */
 std::vector<double> spaced(long count, double first, double last)
 {
     std::vector<double> values(static_cast<std::size_t>(count), first);
-    for (long i = 1; i < count; ++i)
+    for (long i = 1; i < count; ++i) {
         values[static_cast<std::size_t>(i)] =
             std::lerp(first, last, static_cast<double>(i) / static_cast<double>(count - 1));
+    }
     return values;
 }
 
@@ -70,9 +75,10 @@ void fillOrdered(T* values, const std::array<long, 3>& dimensions, const ValueAt
     parallelFor(jMax * kMax, [&, iCount = iMax, jCount = jMax](long begin, long end) {
         for (long row = begin; row < end; ++row) {
             T* target = values + row * iCount;
-            for (long i = 0; i < iCount; ++i)
+            for (long i = 0; i < iCount; ++i) {
                 target[i] = static_cast<T>(valueAt(static_cast<std::size_t>(i), static_cast<std::size_t>(row % jCount),
                                                    static_cast<std::size_t>(row / jCount)));
+            }
         }
     });
 }
@@ -85,10 +91,11 @@ void setCoordinate(Zone& zone, long variable, FieldDataType_e type, const ValueA
         return;
     }
     const vtkSmartPointer<vtkDataArray> values = makeValues(type, zone.pointCount());
-    if (auto* singles = vtkFloatArray::FastDownCast(values))
+    if (auto* singles = vtkFloatArray::FastDownCast(values)) {
         fillOrdered(singles->GetPointer(0), zone.dimensions(), valueAt);
-    else
+    } else {
         fillOrdered(vtkDoubleArray::FastDownCast(values)->GetPointer(0), zone.dimensions(), valueAt);
+    }
     zone.fields[static_cast<std::size_t>(variable - 1)].values = values;
 }
 
@@ -96,10 +103,12 @@ void setOthersToZero(Zone& zone, FieldDataType_e type)
 {
     vtkSmartPointer<vtkDataArray> zeros;
     for (FieldArray& field : zone.fields) {
-        if (field.isAvailable())
+        if (field.isAvailable()) {
             continue;
-        if (!zeros)
+        }
+        if (!zeros) {
             zeros = makeZeros(type, zone.pointCount());
+        }
         field.values = zeros;
     }
 }
@@ -156,8 +165,9 @@ Zone makeZone(const RectangularZone& box, long variableCount, const CoordinateVa
     const std::pair<const char*, double> places[] = {{"minimum of X", box.xMin}, {"maximum of X", box.xMax},
                                                      {"minimum of Y", box.yMin}, {"maximum of Y", box.yMax},
                                                      {"minimum of Z", box.zMin}, {"maximum of Z", box.zMax}};
-    for (const auto& [name, place] : places)
+    for (const auto& [name, place] : places) {
         expectPlace(name, place, box.dataType);
+    }
     Zone zone = Zone::ordered("Rectangular zone", box.iMax, box.jMax, box.kMax);
     expectMemory(zone.dimensions(), box.dataType);
 

@@ -207,6 +207,7 @@ void StyleStore::setDocument(const Document& document)
 long StyleStore::entry(const std::vector<std::string>& path) const
 {
     std::vector<long> ids;
+    ids.reserve(path.size());
     for (const std::string& name : path) {
         ids.push_back(styleNameId(name));
     }

@@ -23,7 +23,7 @@ bool matches(QString const& text, std::string const& pattern)
 } // namespace
 
 QLgIndexSpinBox::QLgIndexSpinBox(QWidget* parent)
-    : QSpinBox(parent)
+    : IntegerSpinBox(parent)
 {
     setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     setKeyboardTracking(false);

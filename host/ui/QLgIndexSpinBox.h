@@ -1,16 +1,15 @@
 #pragma once
 
 #include "propertymanager/SpinBoxIncDecCalculatorBase.h"
+#include "ui/IntegerSpinBox.h"
 
 #include <boost/shared_ptr.hpp>
-
-#include <QSpinBox>
 
 namespace vantrix::sdk::ui::common {
 
 /// A spin box for indices in "Mx" notation: "Mx" stands for the largest index and is 0, "Mx-3" is -3, a positive number
 /// is itself. The value changes when editing is finished or a step is made.
-class QLgIndexSpinBox : public QSpinBox
+class QLgIndexSpinBox : public IntegerSpinBox
 {
 public:
     using StepCalculator = boost::shared_ptr<propertymanager::SpinBoxIncDecCalculatorBase>;

@@ -67,6 +67,11 @@ double QScientificSpinBox::valueFromText(QString const& text) const
     return text.trimmed().toDouble(); // QString reads in the C locale
 }
 
+void QScientificSpinBox::fixup(QString& /*text*/) const
+{
+    // The base class takes the commas out: "3,14" would be 314.
+}
+
 QValidator::State QScientificSpinBox::validate(QString& text, int& position) const
 {
     QDoubleValidator validator(minimum(), maximum(), ALL_DECIMALS, nullptr);

@@ -30,6 +30,7 @@ public:
     void stepBy(int steps) override;
     QString textFromValue(double value) const override;
     double valueFromText(QString const& text) const override;
+    void fixup(QString& text) const override;
     QValidator::State validate(QString& text, int& position) const override;
 
 private:

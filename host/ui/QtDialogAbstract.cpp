@@ -5,6 +5,8 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QEvent>
+#include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>

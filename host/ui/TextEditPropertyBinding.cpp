@@ -3,6 +3,7 @@
 #include "sdk/AppLock.h"
 
 #include <QEvent>
+#include <QFocusEvent>
 
 namespace vantrix::sdk::ui::dialogs::propertybindings {
 

@@ -82,7 +82,7 @@ public:
 
     vtkSmartPointer<vtkPolyData> result() const
     {
-        const auto dashes = vtkSmartPointer<vtkPolyData>::New();
+        auto dashes = vtkSmartPointer<vtkPolyData>::New();
         dashes->SetPoints(m_points);
         dashes->SetLines(m_dashes);
         if (m_pointValues) {

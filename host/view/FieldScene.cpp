@@ -24,7 +24,7 @@ namespace {
 
 vtkSmartPointer<vtkPoints> logarithmicPoints(vtkPoints* points, const std::array<bool, 3>& isLogarithmic)
 {
-    const auto result = vtkSmartPointer<vtkPoints>::New();
+    auto result = vtkSmartPointer<vtkPoints>::New();
     result->SetDataTypeToDouble();
     result->SetNumberOfPoints(points->GetNumberOfPoints());
     Point3 point{};
@@ -43,7 +43,7 @@ vtkSmartPointer<vtkPoints> logarithmicPoints(vtkPoints* points, const std::array
 /* Points and cells without arrays; of a volume in a flat plot, its first layer. */
 vtkSmartPointer<vtkDataSet> shapeOf(vtkDataSet* source, bool isFlat, const std::array<bool, 3>& isLogarithmic)
 {
-    const auto shape = vtkSmartPointer<vtkDataSet>::Take(source->NewInstance());
+    auto shape = vtkSmartPointer<vtkDataSet>::Take(source->NewInstance());
     shape->CopyStructure(source);
     auto* points = vtkPointSet::SafeDownCast(shape);
     auto* grid = vtkStructuredGrid::SafeDownCast(shape);

@@ -55,7 +55,7 @@ std::vector<std::size_t> binsOf(vtkPolyData& surface, double most)
 std::size_t countDifferent(std::vector<std::size_t> numbers)
 {
     std::ranges::sort(numbers);
-    return numbers.size() - std::ranges::unique(numbers).size();
+    return static_cast<std::size_t>(std::unique(numbers.begin(), numbers.end()) - numbers.begin());
 }
 
 /* The triangles with the first point of each bin in place of all its points; those within one or two bins are gone. */

@@ -45,7 +45,7 @@ protected:
     /* Another value that the description allows. */
     static StyleData legalChange(const StyleEntry& entry)
     {
-        const StyleData present = defaultOf(entry);
+        StyleData present = defaultOf(entry);
         switch (entry.type) {
         case StyleType::Flag:
             return 1 - entry.integerDefault;

@@ -4,6 +4,7 @@
 
 #include <cstring>
 #include <optional>
+#include <utility>
 
 using vantrix::test::RecordingHost;
 

@@ -2,6 +2,7 @@
 #include "property/Property.h"
 #include "support/RecordingHost.h"
 #include "support/UserInput.h"
+#include "ui/IntegerSpinBox.h"
 #include "ui/SpinBoxDoublePropertyBinding.h"
 #include "ui/SpinBoxIntPropertyBinding.h"
 #include "ui/SpinBoxLgIndexPropertyBinding.h"
@@ -91,9 +92,17 @@ TEST(SpinBoxDoubleBinding, TellsThatAValueIsRefusedAndShowsTheOldOne)
     EXPECT_EQ(bound.property->value(), 1.0);
     EXPECT_EQ(RecordingHost::instance().messages.size(), 1U);
     EXPECT_EQ(test::textOf(fieldOf(bound.box)), "1");
+}
 
-    test::enter(fieldOf(bound.box), "3,5");
-    EXPECT_EQ(bound.property->value(), 1.0);
+TEST(SpinBoxDoubleBinding, NeverReadsACommaAsAnythingElse)
+{
+    Bound<QScientificSpinBox, double> bound(1.0, -1e6, 1e6);
+    SpinBoxDoublePropertyBinding const binding(&bound.box, bound.property, BindingInterface::Immediate);
+    for (auto const* text : {"3,5", "3,14", "1,000", "-2,5", "1.5,"}) {
+        test::enter(fieldOf(bound.box), text);
+        EXPECT_EQ(bound.property->value(), 1.0) << text;
+        EXPECT_EQ(test::textOf(fieldOf(bound.box)), "1");
+    }
 }
 
 TEST(SpinBoxDoubleBinding, StepsAsTheCalculatorSays)
@@ -110,7 +119,7 @@ TEST(SpinBoxDoubleBinding, StepsAsTheCalculatorSays)
 
 TEST(SpinBoxIntBinding, StepsAndTakesWholeNumbers)
 {
-    Bound<QSpinBox, int> bound(3, 1, 5000);
+    Bound<IntegerSpinBox, int> bound(3, 1, 5000);
     bound.box.setRange(1, 5000);
     SpinBoxIntPropertyBinding const binding(&bound.box, bound.property, BindingInterface::OnIdle);
     EXPECT_EQ(bound.box.value(), 3);
@@ -118,6 +127,8 @@ TEST(SpinBoxIntBinding, StepsAndTakesWholeNumbers)
     EXPECT_EQ(bound.property->value(), 2);
     test::enter(fieldOf(bound.box), "400");
     EXPECT_EQ(bound.property->value(), 400);
+    test::enter(fieldOf(bound.box), "1,5");
+    EXPECT_EQ(bound.property->value(), 400) << "not 15";
 }
 
 TEST(SpinBoxIntBinding, LeavesAValueAloneThatTheSpinBoxCannotShow)

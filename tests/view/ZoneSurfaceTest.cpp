@@ -30,7 +30,7 @@ vtkSmartPointer<vtkStructuredGrid> block(int iMax, int jMax, int kMax)
             }
         }
     }
-    const auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
+    auto grid = vtkSmartPointer<vtkStructuredGrid>::New();
     grid->SetDimensions(iMax, jMax, kMax);
     grid->SetPoints(points);
     return grid;
@@ -56,7 +56,7 @@ TEST(ZoneSurface, DrawsTheChosenFacesOfAVolume)
     struct Case
     {
         SurfacesToPlot_e faces;
-        long cells;
+        int cells;
     };
     for (const Case& expected : {Case{SurfacesToPlot_None, 0},
                                  {SurfacesToPlot_BoundaryFaces, 2 * (12 + 8 + 6)},
@@ -200,8 +200,8 @@ TEST(ZonePoints, TakesTheChosenPointsWithTheirValues)
         std::size_t count;
     };
     for (const Case& expected : {Case{{PointsToPlot_AllNodes, {1, 1, 1}}, 60},
-                                 {{PointsToPlot_SurfaceNodes, {1, 1, 1}}, 60 - 3 * 2 * 1},
-                                 {{PointsToPlot_AllNodes, {2, 3, 2}}, 3 * 2 * 2},
+                                 {{PointsToPlot_SurfaceNodes, {1, 1, 1}}, 60 - 6},
+                                 {{PointsToPlot_AllNodes, {2, 3, 2}}, 12},
                                  {{PointsToPlot_AllCellCenters, {1, 1, 1}}, 24},
                                  {{PointsToPlot_SurfaceCellCenters, {1, 1, 1}}, 24}}) {
         view::ZonePoints points;

@@ -69,7 +69,7 @@ Zone makeRing()
     Zone zone = Zone::finiteElement("Around the hole", ZoneType_FEQuad, around * rings, cells);
     fillNodal<6>(zone, [](long point) {
         const double angle = 2.0 * std::numbers::pi * static_cast<double>(point % around) / around;
-        const double t = static_cast<double>(point / around) / (rings - 1);
+        const double t = std::floor(static_cast<double>(point) / around) / (rings - 1);
         const double c = std::cos(angle), s = std::sin(angle);
         const double edge = halfWidth / std::max(std::abs(c), std::abs(s));
         const double r = 1.0 + (edge - 1.0) * std::expm1(1.8 * t) / std::expm1(1.8);
@@ -98,7 +98,7 @@ Zone makeEnd()
     Zone zone = Zone::finiteElement("Far end", ZoneType_FETriangle, columns * rows, cells);
     fillNodal<6>(zone, [](long point) {
         const double x = halfWidth + (plateEnd - halfWidth) * static_cast<double>(point % columns) / (columns - 1);
-        const double y = halfWidth * (2.0 * static_cast<double>(point / columns) / (rows - 1) - 1.0);
+        const double y = halfWidth * (2.0 * std::floor(static_cast<double>(point) / columns) / (rows - 1) - 1.0);
         return valuesAt(x, y);
     });
     addEnergy(zone);

@@ -21,11 +21,15 @@ int dot(const Place& a, const Place& b)
 std::vector<Place> corners()
 {
     std::vector<Place> result;
-    for (int x = -2; x <= 2; ++x)
-        for (int y = -2; y <= 2; ++y)
-            for (int z = -2; z <= 2; ++z)
-                if (std::abs(x) + std::abs(y) + std::abs(z) == 3 && x * y * z == 0)
+    for (int x = -2; x <= 2; ++x) {
+        for (int y = -2; y <= 2; ++y) {
+            for (int z = -2; z <= 2; ++z) {
+                if (std::abs(x) + std::abs(y) + std::abs(z) == 3 && x * y * z == 0) {
                     result.push_back({x, y, z});
+                }
+            }
+        }
+    }
     return result;
 }
 
@@ -33,16 +37,20 @@ std::vector<Place> corners()
 std::vector<Place> face(const Place& normal, int distance)
 {
     std::vector<Place> result;
-    for (const Place& corner : corners())
-        if (dot(corner, normal) == distance)
+    for (const Place& corner : corners()) {
+        if (dot(corner, normal) == distance) {
             result.push_back(corner);
+        }
+    }
     const double length = std::sqrt(dot(normal, normal));
     const Place& first = result.front();
     std::array<double, 3> u{}, v{};
-    for (std::size_t c = 0; c < 3; ++c)
+    for (std::size_t c = 0; c < 3; ++c) {
         u[c] = first[c] - distance * normal[c] / (length * length);
-    for (std::size_t c = 0; c < 3; ++c)
+    }
+    for (std::size_t c = 0; c < 3; ++c) {
         v[c] = (normal[(c + 1) % 3] * u[(c + 2) % 3] - normal[(c + 2) % 3] * u[(c + 1) % 3]) / length;
+    }
     const auto angle = [&](const Place& p) {
         return std::atan2(p[0] * v[0] + p[1] * v[1] + p[2] * v[2], p[0] * u[0] + p[1] * u[1] + p[2] * u[2]);
     };
@@ -58,10 +66,13 @@ std::vector<std::vector<Place>> faces()
         result.push_back(face({0, sign, 0}, 2));
         result.push_back(face({0, 0, sign}, 2));
     }
-    for (const int x : {-1, 1})
-        for (const int y : {-1, 1})
-            for (const int z : {-1, 1})
+    for (const int x : {-1, 1}) {
+        for (const int y : {-1, 1}) {
+            for (const int z : {-1, 1}) {
                 result.push_back(face({x, y, z}, 3));
+            }
+        }
+    }
     return result;
 }
 
@@ -69,13 +80,16 @@ std::vector<std::vector<Place>> faces()
 std::vector<Place> centres(int count)
 {
     std::vector<Place> result;
-    for (int i = 0; i < count; ++i)
-        for (int j = 0; j < count; ++j)
+    for (int i = 0; i < count; ++i) {
+        for (int j = 0; j < count; ++j) {
             for (int k = 0; k < count; ++k) {
                 result.push_back({4 * i, 4 * j, 4 * k});
-                if (i + 1 < count && j + 1 < count && k + 1 < count)
+                if (i + 1 < count && j + 1 < count && k + 1 < count) {
                     result.push_back({4 * i + 2, 4 * j + 2, 4 * k + 2});
+                }
             }
+        }
+    }
     return result;
 }
 
@@ -97,8 +111,9 @@ void makePolyhedra(DataSet& dataSet)
     std::vector<Place> places;
     const auto number = [&](const Place& place) {
         const auto [found, isNew] = numbers.try_emplace(place, static_cast<vtkIdType>(places.size()));
-        if (isNew)
+        if (isNew) {
             places.push_back(place);
+        }
         return found->second;
     };
     const auto cells = vtkSmartPointer<vtkCellArray>::New();
@@ -106,15 +121,18 @@ void makePolyhedra(DataSet& dataSet)
     const auto locations = vtkSmartPointer<vtkIdTypeArray>::New();
     for (const Place& centre : cellCentres) {
         std::vector<vtkIdType> points;
-        for (const Place& corner : cellCorners)
+        points.reserve(cellCorners.size());
+        for (const Place& corner : cellCorners) {
             points.push_back(number(sum(centre, corner)));
+        }
         addCell(*cells, points);
         locations->InsertNextValue(stream->GetNumberOfValues());
         stream->InsertNextValue(static_cast<vtkIdType>(cellFaces.size()));
         for (const std::vector<Place>& face : cellFaces) {
             stream->InsertNextValue(static_cast<vtkIdType>(face.size()));
-            for (const Place& corner : face)
+            for (const Place& corner : face) {
                 stream->InsertNextValue(number(sum(centre, corner)));
+            }
         }
     }
 

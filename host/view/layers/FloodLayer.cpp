@@ -82,7 +82,7 @@ vtkSmartPointer<vtkPolyData> cutOff(vtkSmartPointer<vtkPolyData> surface, const 
 
 vtkSmartPointer<vtkLookupTable> FloodLayer::contrastedTable(vtkLookupTable& table, double contrast)
 {
-    const auto result = vtkSmartPointer<vtkLookupTable>::New();
+    auto result = vtkSmartPointer<vtkLookupTable>::New();
     result->DeepCopy(&table);
     for (vtkIdType i = 0; i < table.GetNumberOfTableValues(); ++i) {
         const double* rgba = table.GetTableValue(i);

@@ -15,7 +15,7 @@ constexpr auto sizesName = "vxSize";
 
 vtkSmartPointer<vtkFloatArray> array(const char* name, const std::vector<double>& values)
 {
-    const auto result = vtkSmartPointer<vtkFloatArray>::New();
+    auto result = vtkSmartPointer<vtkFloatArray>::New();
     result->SetName(name);
     result->SetNumberOfTuples(static_cast<vtkIdType>(values.size()));
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -39,7 +39,7 @@ vtkSmartPointer<vtkPolyData> turnedToViewer(vtkPolyData* shape, const Placement&
         }
         points->InsertNextPoint(turned.data());
     }
-    const auto result = vtkSmartPointer<vtkPolyData>::New();
+    auto result = vtkSmartPointer<vtkPolyData>::New();
     result->ShallowCopy(shape);
     result->SetPoints(points);
     return result;
@@ -70,7 +70,7 @@ void GlyphLayer::setShape(vtkPolyData* shape, bool isFlat)
 }
 
 void GlyphLayer::setPoints(std::vector<std::array<double, 3>> places, const std::vector<double>& colors,
-                           std::vector<double> sizes)
+                           const std::vector<double>& sizes)
 {
     m_places = std::move(places);
     m_points = vtkSmartPointer<vtkPolyData>::New();

@@ -20,7 +20,7 @@ public:
 
     /* Places in the data, and for each a value that colours it and a size; either may be empty. */
     void setPoints(std::vector<std::array<double, 3>> places, const std::vector<double>& colors,
-                   std::vector<double> sizes);
+                   const std::vector<double>& sizes);
 
     /* The size of the shape in pixels; where points have sizes of their own, of size 1. */
     void setSize(double pixels) { m_size = pixels; }

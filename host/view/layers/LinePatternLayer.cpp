@@ -18,9 +18,9 @@ bool looksAlike(const Placement& one, const Placement& other)
 
 } // namespace
 
-void LinePatternLayer::setLineGeometry(vtkSmartPointer<vtkPolyData> lines)
+void LinePatternLayer::setLineGeometry(const vtkSmartPointer<vtkPolyData>& lines)
 {
-    m_lines = std::move(lines);
+    m_lines = lines;
     m_hasChains = false;
     m_isMade = false;
 }

@@ -20,7 +20,7 @@ public:
 
 protected:
     /* The lines themselves; polygons only with the solid pattern. */
-    void setLineGeometry(vtkSmartPointer<vtkPolyData> lines);
+    void setLineGeometry(const vtkSmartPointer<vtkPolyData>& lines);
 
     /* `length` of one repetition in pixels. */
     void setPattern(LinePattern_e pattern, double length);

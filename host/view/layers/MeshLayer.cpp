@@ -37,7 +37,7 @@ vtkSmartPointer<vtkPolyData> edgesOf(vtkPolyData* cells)
             }
         }
     }
-    const auto edges = vtkSmartPointer<vtkPolyData>::New();
+    auto edges = vtkSmartPointer<vtkPolyData>::New();
     edges->SetPoints(cells->GetPoints());
     edges->SetLines(lines);
     edges->GetPointData()->ShallowCopy(cells->GetPointData());

@@ -138,7 +138,8 @@ void ProbeDialog::launch()
 
 void ProbeDialog::probeCallbackProxy(char wasSuccessful, char isNearestPoint, long clientData)
 {
-    auto& dialog = *reinterpret_cast<ProbeDialog*>(clientData);
+    // The host hands back the number it was given.
+    auto& dialog = *reinterpret_cast<ProbeDialog*>(clientData); // NOLINT(performance-no-int-to-ptr)
     if (wasSuccessful != 1 && !dialog.isVisible()) {
         return;
     }

@@ -95,7 +95,7 @@ std::string GetProbedItemName()
     AppLock const lock(false);
     char* name = nullptr;
     VtxUtilProbeFieldGetName(&name);
-    std::string const text = takeHostString(name);
+    std::string text = takeHostString(name);
     if (VtxUtilProbeFieldGetCZType() != ProbeSource_Zone) {
         return text;
     }
@@ -232,7 +232,7 @@ std::vector<LineMapValue_s> GetLineProbeDependentValues()
         long const map = VtxUtilProbeLineGetMap(index);
         LineMapValue_s row{static_cast<int>(map), false, 0.0};
         row.isValid = VtxUtilProbeLineGetValue(index, &row.value);
-        values.push_back(std::move(row));
+        values.push_back(row);
     }
     return values;
 }
@@ -261,7 +261,7 @@ std::string FormatProbedFieldVarValue(int variable, double value)
         bool const isDate =
             VtxUtilAxisLabelGetTimeDateFormat(axis, 1, &format) && VtxUtilStringFormatTimeDate(value, format, &text);
         VtxUtilStringDealloc(&format);
-        std::string const date = takeHostString(text);
+        std::string date = takeHostString(text);
         if (isDate) {
             return date;
         }

@@ -155,7 +155,7 @@ protected:
         StyleChanges changes;
         change(widget);
         EXPECT_EQ(changes.counts.size(), 1U) << "one value is edited";
-        std::string const path = changes.counts.empty() ? std::string() : changes.counts.begin()->first;
+        std::string path = changes.counts.empty() ? std::string() : changes.counts.begin()->first;
         EXPECT_EQ(changes.counts[path], 1) << path << " is written once";
         EXPECT_NE(shownBy(widget), before) << path;
         EXPECT_TRUE(VtxUtilUndo());

@@ -30,6 +30,7 @@ public:
 std::vector<std::string> texts(AxisAlignmentModel const& model)
 {
     std::vector<std::string> all;
+    all.reserve(static_cast<std::size_t>(model.size()));
     for (int row = 0; row < model.size(); ++row) {
         all.push_back(model.getStr(row));
     }

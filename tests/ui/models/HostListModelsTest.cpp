@@ -29,6 +29,7 @@ protected:
 std::vector<std::string> textsOf(HostListModelAbstract const& model)
 {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(model.size()));
     for (int row = 0; row < model.size(); ++row) {
         texts.push_back(model.getStr(row));
     }
