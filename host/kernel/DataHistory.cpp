@@ -140,7 +140,7 @@ void DataHistory::apply(const MacroCommand& command, DataSet& dataSet, const Pro
     } else {
         throw DataError("\"" + command.name + "\" is not known as a way to make data.");
     }
-    dataSet.history.push_back(command);
+    dataSet.history.push_back(std::make_shared<const MacroCommand>(command));
 }
 
 } // namespace vantrix::kernel

@@ -37,7 +37,7 @@ public:
     std::vector<std::shared_ptr<const Zone>> zones;
     std::vector<bool> zoneEnabled; /* as long as `zones` */
 
-    std::vector<MacroCommand> history; /* how it came to be; see DataHistory */
+    std::vector<std::shared_ptr<const MacroCommand>> history; /* how it came to be; see DataHistory */
 
     long variableCount() const { return static_cast<long>(variables.size()); }
     long zoneCount() const { return static_cast<long>(zones.size()); }

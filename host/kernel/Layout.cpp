@@ -63,7 +63,8 @@ public:
     void writeDataSet(long number, const DataSet& dataSet)
     {
         write(0, {"DataSet", {{"Id", number}}});
-        for (MacroCommand command : dataSet.history) { // NOLINT(performance-for-range-copy): its files are changed
+        for (const auto& made : dataSet.history) {
+            MacroCommand command = *made;
             for (auto& [name, value] : command.arguments) {
                 if (auto* files = std::get_if<std::vector<std::string>>(&value)) {
                     for (std::string& file : *files) {
