@@ -101,7 +101,7 @@ void MacroPlayer::play(const std::vector<Line>& lines, const std::string& name)
                 play(lines[i]);
             } catch (const ActionCancelled&) {
                 throw;
-            } catch (const DataError& failure) {
+            } catch (const std::exception& failure) {
                 throw located(name, lines[i].number, failure.what());
             }
         }
