@@ -316,9 +316,10 @@ AxisTicks clockTicks(const AxisScale& scale, TickRequest request)
                                                {43200, 3},
                                                {86400, 3}}};
     request.anchor = 0.0;
+    const auto asked = request.minorCount >= 0 ? request.minorCount : 4;
     for (const ClockStep& step : steps) {
         request.spacing = step.seconds / 86400.0;
-        request.minorCount = std::min(request.minorCount >= 0 ? request.minorCount : 4, step.minorCount);
+        request.minorCount = std::min(asked, step.minorCount);
         AxisTicks ticks = spacedTicks(scale, request);
         if (!ticks.major.empty()) {
             return ticks;

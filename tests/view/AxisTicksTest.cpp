@@ -179,7 +179,11 @@ TEST(AxisTicks, WriteNumbersInTheFormatAskedFor)
         request.length = 100.0;
         request.minimumDistance = 18.0;
         request.number = {one.format, one.precision, {}};
-        EXPECT_EQ(labels(AxisScale(one.range.minimum, one.range.maximum), request), one.expected);
+        const AxisScale scale(one.range.minimum, one.range.maximum);
+        EXPECT_EQ(labels(scale, request), one.expected);
+        EXPECT_FALSE(AxisTicks::make(scale, request).minor.empty()) << one.format;
+        request.minorCount = 0;
+        EXPECT_TRUE(AxisTicks::make(scale, request).minor.empty()) << one.format;
     }
 }
 
