@@ -26,7 +26,8 @@ public:
     /* Whether a place inside of the area was free. */
     bool take(QPointF place)
     {
-        if (!m_area.contains(place)) {
+        // Nothing of a logarithmic axis is at or below zero; a rectangle takes what is not a number for inside.
+        if (!std::isfinite(place.x()) || !std::isfinite(place.y()) || !m_area.contains(place)) {
             return false;
         }
         const auto column = static_cast<std::size_t>((place.x() - m_area.left()) / m_pixel);

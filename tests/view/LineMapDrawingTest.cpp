@@ -206,3 +206,22 @@ TEST(PolarAxisPainter, KeepsNumbersAndTitlesInsideTheFrame)
         }
     }
 }
+
+TEST(LineMapDrawing, LeavesOutSymbolsThatALogarithmicAxisHasNoPlaceFor)
+{
+    const kernel::DataSet data = dataSet({{0.25, -1.0}, {0.5, 0.0}, {0.75, 1.0}});
+    PlotStyle plot = lineStyle();
+    plot.lineMaps[0].hasLines = false;
+    plot.lineMaps[0].hasSymbols = true;
+    plot.lineMaps[0].symbol.color = Qt::red;
+    QImage image(imageSize, imageSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    const Canvas canvas(painter, 100.0);
+    LinePlot(canvas, 4.0, data, plot).paint({100, 100, 200, 200}, {}, [](const LineMapStyle&) {
+        return [](double x, double y) { return QPointF(100.0 + 200.0 * x, 200.0 - 50.0 * std::log10(y)); };
+    });
+    painter.end();
+    EXPECT_GT(redPixels(image, {240, 190, 20, 20}), 0);
+    EXPECT_EQ(redPixels(image, {100, 100, 130, 200}), 0);
+}
