@@ -166,7 +166,7 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
                        : std::nullopt;
     };
     m_streamtraces->update(dataSet, m_traced, logarithmicAxes(style), style.streamtraces, groupOf, context);
-    m_streamtraces->place(m_placement);
+    place(Placement(m_placement));
 }
 
 void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& style, const ZoneStyle& zoneStyle,

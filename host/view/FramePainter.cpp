@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <new>
 
 namespace vantrix::view {
 namespace {
@@ -90,6 +91,8 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
         paintPlot(canvas, inside);
     } catch (const kernel::DataError& error) {
         paintNotice(canvas, inside, QString::fromStdString(error.what()));
+    } catch (const std::bad_alloc&) {
+        paintNotice(canvas, inside, QObject::tr("There is not enough memory to draw the data."));
     }
     if (hasTexts()) {
         for (const auto& geometry : m_geometries) {
@@ -248,7 +251,7 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
     const PictureKey key{m_revision, pixels, m_isApproximate ? settings.keptPoints : 1.0,
                          hasTexts(), sorted, isPlain ? 0 : smoothSamples};
     const bool takesScreen =
-        isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.revision == m_revision;
+        isExport && !settings.exportsAnew && !m_onScreen.image.isNull() && m_onScreen.key.isWhole(m_revision);
     const ContourLabels labels(canvas, frameHeightInches(canvas), area, m_plot.style.contourGroups);
     KeptPicture& kept = isExport && !takesScreen ? m_exported : m_onScreen;
     if (!takesScreen && (key != kept.key || kept.image.isNull())) {
@@ -310,15 +313,21 @@ FieldScene& FramePainter::scene()
     return *m_thinScene;
 }
 
+void FramePainter::makeScene()
+{
+    if (m_request.settings.cache != GraphicsCache::All) { /* not all is kept from the last picture */
+        scene().setStreamtraces(m_traced);
+        scene().update(*m_dataSet, m_plot.style, m_frameHeight,
+                       {smoothSamples, sortedSurfaces, m_onScreen.key.keptPoints});
+    }
+}
+
 std::optional<Point3> FramePainter::pick(QPointF place)
 {
     if (!m_plot.camera || !m_plot.area.contains(place) || !m_dataSet) {
         return std::nullopt;
     }
-    if (scene().zoneCount() == 0) { /* not kept from the last picture */
-        scene().update(*m_dataSet, m_plot.style, m_frameHeight,
-                       {smoothSamples, sortedSurfaces, m_onScreen.key.keptPoints});
-    }
+    makeScene();
     const std::optional<Point3> point = scene().pick((place.x() - m_plot.area.left()) / m_plot.area.width(),
                                                      (m_plot.area.bottom() - place.y()) / m_plot.area.height());
     scene().release(m_request.settings.cache);
@@ -329,9 +338,10 @@ kernel::PickedObject FramePainter::objectAt(QPointF place, double reach)
 {
     constexpr kernel::PickedObject frame{.type = PickObject_Frame};
     const kernel::PickedObject marked = m_plot.hits.at(place, reach).value_or(frame);
-    if (!hasField(m_plot.style) || !m_plot.area.contains(place)) {
+    if (!hasField(m_plot.style) || !m_plot.area.contains(place) || !m_dataSet) {
         return marked;
     }
+    makeScene();
     const double across = (place.x() - m_plot.area.left()) / m_plot.area.width();
     const double up = (m_plot.area.bottom() - place.y()) / m_plot.area.height();
     kernel::PickedObject drawn{.type = PickObject_Streamtrace};
@@ -339,6 +349,7 @@ kernel::PickedObject FramePainter::objectAt(QPointF place, double reach)
     if (drawn.number == 0) {
         drawn = {.type = PickObject_Zone, .number = scene().zoneAt(across, up)};
     }
+    scene().release(m_request.settings.cache);
     return drawn.number != 0 && pickOrder(drawn) < pickOrder(marked) ? drawn : marked;
 }
 

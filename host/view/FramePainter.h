@@ -84,6 +84,9 @@ private:
         int sortedSurfaces = 0;
         int samples = 0;
         bool operator==(const PictureKey&) const = default;
+
+        /* Whether it shows all of what is plotted, with smooth edges. */
+        bool isWhole(unsigned long present) const { return revision == present && keptPoints >= 1.0 && samples > 0; }
     };
     struct KeptPicture
     {
@@ -105,6 +108,7 @@ private:
     bool mayApproximate() const;
     bool hasTexts() const;
     FieldScene& scene();
+    void makeScene();
 
     OffscreenWindow& m_window;
     FieldScene m_scene;

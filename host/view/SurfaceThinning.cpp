@@ -58,7 +58,39 @@ std::size_t countDifferent(std::vector<std::size_t> numbers)
     return static_cast<std::size_t>(std::unique(numbers.begin(), numbers.end()) - numbers.begin());
 }
 
-/* The triangles with the first point of each bin in place of all its points; those within one or two bins are gone. */
+/* Of the points of each bin the one farthest out, so that a surface keeps its extent and its corners. */
+std::unordered_map<std::size_t, vtkIdType> outermostOfBins(vtkPolyData& surface, const std::vector<std::size_t>& bins)
+{
+    std::array<double, 6> bounds{};
+    surface.GetBounds(bounds.data());
+    const auto distance = [&](vtkIdType number) {
+        std::array<double, 3> point{};
+        surface.GetPoint(number, point.data());
+        double most = 0.0;
+        double sum = 0.0;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const double half = 0.5 * (bounds[2 * axis + 1] - bounds[2 * axis]);
+            const double out = half > 0.0 ? std::abs(point[axis] - bounds[2 * axis] - half) / half : 0.0;
+            most = std::max(most, out);
+            sum += out;
+        }
+        return most + 0.1 * sum;
+    };
+    std::unordered_map<std::size_t, vtkIdType> outermost;
+    std::unordered_map<std::size_t, double> distances;
+    for (std::size_t i = 0; i < bins.size(); ++i) {
+        const auto point = static_cast<vtkIdType>(i);
+        const double present = distance(point);
+        const auto [farthest, isNew] = distances.try_emplace(bins[i], present);
+        if (isNew || present > farthest->second) {
+            farthest->second = present;
+            outermost[bins[i]] = point;
+        }
+    }
+    return outermost;
+}
+
+/* The triangles with one point of each bin in place of all its points; those within one or two bins are gone. */
 vtkSmartPointer<vtkPolyData> clustered(vtkPolyData& triangles, const std::vector<std::size_t>& bins)
 {
     const auto points = vtkSmartPointer<vtkPoints>::Take(vtkPoints::New(triangles.GetPoints()->GetDataType()));
@@ -70,16 +102,13 @@ vtkSmartPointer<vtkPolyData> clustered(vtkPolyData& triangles, const std::vector
     cellData.CopyAllocate(triangles.GetCellData());
 
     std::vector<vtkIdType> kept(bins.size());
-    std::unordered_map<std::size_t, vtkIdType> firstOf;
-    for (std::size_t i = 0; i < bins.size(); ++i) {
-        const auto point = static_cast<vtkIdType>(i);
-        const auto [first, isNew] = firstOf.try_emplace(bins[i], static_cast<vtkIdType>(firstOf.size()));
-        kept[i] = first->second;
-        if (isNew) {
-            points->InsertNextPoint(triangles.GetPoint(point));
-            pointData.CopyData(triangles.GetPointData(), point, first->second);
-        }
+    std::unordered_map<std::size_t, vtkIdType> numberOf;
+    for (const auto& [bin, point] : outermostOfBins(triangles, bins)) {
+        const vtkIdType number = points->InsertNextPoint(triangles.GetPoint(point));
+        pointData.CopyData(triangles.GetPointData(), point, number);
+        numberOf.emplace(bin, number);
     }
+    std::ranges::transform(bins, kept.begin(), [&](std::size_t bin) { return numberOf.at(bin); });
     const auto corner = vtkSmartPointer<vtkIdList>::New();
     for (vtkIdType triangle = 0; triangle < triangles.GetNumberOfPolys(); ++triangle) {
         triangles.GetPolys()->GetCellAtId(triangle, corner);

@@ -2,6 +2,7 @@
 
 #include "kernel/BlankedZone.h"
 #include "kernel/probe/ShownPlanes.h"
+#include "view/FeatureEdges.h"
 #include "view/IndexOutline.h"
 #include "view/IndexPlanes.h"
 #include "view/SurfaceThinning.h"
@@ -12,7 +13,6 @@
 #include <vtkCellData.h>
 #include <vtkDataSet.h>
 #include <vtkDataSetSurfaceFilter.h>
-#include <vtkFeatureEdges.h>
 #include <vtkFloatArray.h>
 #include <vtkIdTypeArray.h>
 #include <vtkPointData.h>
@@ -93,20 +93,6 @@ vtkSmartPointer<vtkPolyData> withNormals(vtkPolyData* surface, bool isOrdered)
     filter->SetFeatureAngle(featureAngle);
     filter->SplittingOn();
     filter->SetConsistency(!isOrdered);
-    filter->Update();
-    return filter->GetOutput();
-}
-
-vtkSmartPointer<vtkPolyData> featureEdges(vtkPolyData* surface, bool hasBorders, bool hasCreases)
-{
-    const auto filter = vtkSmartPointer<vtkFeatureEdges>::New();
-    filter->SetInputData(surface);
-    filter->SetFeatureAngle(featureAngle);
-    filter->SetBoundaryEdges(hasBorders);
-    filter->SetFeatureEdges(hasCreases);
-    filter->NonManifoldEdgesOff();
-    filter->ManifoldEdgesOff();
-    filter->ColoringOff();
     filter->Update();
     return filter->GetOutput();
 }
@@ -268,7 +254,7 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::makeEdges(EdgeType_e type)
     vtkStructuredGrid* grid = vtkStructuredGrid::SafeDownCast(m_geometry);
     // Blanking is no end of the zone: it shortens edges and makes no new ones.
     const vtkSmartPointer<vtkPolyData> whole = m_blanked ? wholeSurface() : vtkSmartPointer<vtkPolyData>(surface());
-    vtkSmartPointer<vtkPolyData> edges = featureEdges(whole, hasBorders && !grid, hasCreases);
+    vtkSmartPointer<vtkPolyData> edges = featureEdges(*whole, hasBorders && !grid, hasCreases);
     if (grid && hasBorders) {
         // An ordered zone ends where its indices do, even where the surface closes on itself.
         edges = joined(indexOutline(*grid, pointNumbersName, cellNumbersName), edges);

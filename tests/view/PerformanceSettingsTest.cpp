@@ -90,7 +90,8 @@ TEST_F(PerformanceSettings, AllFramesAlwaysApproximatedKeepThePartOfThePointsTha
         const QImage approximate = screen();
         EXPECT_NE(approximate, full);
         EXPECT_TRUE(renderer.isApproximate(id()));
-        EXPECT_NEAR(saturated(approximate), saturated(full), 0.2 * saturated(full)) << "contours are not what they were";
+        EXPECT_NEAR(saturated(approximate), saturated(full), 0.2 * saturated(full))
+            << "contours are not what they were";
         const double kept = static_cast<double>(renderer.surfacePointCount(id())) / points;
         EXPECT_NEAR(kept, percent / 100.0, 0.3 * percent / 100.0);
     }
@@ -136,6 +137,8 @@ TEST_F(PerformanceSettings, GraphicsObjectsAreKeptAsTheCacheIsSet)
     const view::FramePlot* plot = renderer.plot(id());
     const auto point = renderer.pick(id(), plot->area.center());
     ASSERT_TRUE(point);
+    const kernel::PickedObject object = renderer.objectAt(id(), plot->area.center(), 0.01);
+    EXPECT_EQ(object.type, PickObject_Zone);
     set("Interface/UseDisplayLists", 0L);
     sample.set("FrameLayout/BorderThickness", 0.2);
     const QImage uncached = screen();
@@ -143,6 +146,7 @@ TEST_F(PerformanceSettings, GraphicsObjectsAreKeptAsTheCacheIsSet)
     const auto again = renderer.pick(id(), plot->area.center());
     ASSERT_TRUE(again) << "picking needs what was not kept";
     EXPECT_EQ(*again, *point);
+    EXPECT_EQ(renderer.objectAt(id(), plot->area.center(), 0.01), object);
     EXPECT_EQ(renderer.keptZoneCount(), 0);
     set("Interface/UseDisplayLists", 1L);
     sample.set("FrameLayout/BorderThickness", 0.1);
@@ -174,6 +178,11 @@ TEST_F(PerformanceSettings, AFastExportTakesThePictureOfTheScreen)
     EXPECT_EQ(renderer.renderCount(), count + 1);
     EXPECT_NE(fast, safe) << "the one is finer";
     set("Interface/UseOffScreenBitMap", 0L);
+    set("Interface/PlotApproximationMode", long{PlotApproximationMode_AllAlwaysApproximated});
+    screen();
+    EXPECT_EQ(renderer.pageImage(page(), 1100), safe) << "an approximate plot is no picture to export";
+    set("Interface/PlotApproximationMode", long{PlotApproximationMode_Automatic});
+    screen();
     sample.set("GlobalContour/ColorMap/Name", std::string("Heat"), 1);
     EXPECT_GT(differences(renderer.pageImage(page(), 1100), fast), 1000) << "what the screen shows is out of date";
 }

@@ -1,4 +1,5 @@
 #include "view/ZoneSurface.h"
+#include "view/FeatureEdges.h"
 #include "view/ZonePoints.h"
 
 #include "kernel/BlankedZone.h"
@@ -6,12 +7,17 @@
 #include <gtest/gtest.h>
 
 #include <vtkCell.h>
+#include <vtkCellArray.h>
 #include <vtkDoubleArray.h>
 #include <vtkIdTypeArray.h>
+#include <vtkMath.h>
 #include <vtkPointData.h>
 #include <vtkPoints.h>
 #include <vtkPolyData.h>
 #include <vtkStructuredGrid.h>
+
+#include <array>
+#include <cmath>
 
 using namespace vantrix;
 using view::PointSelection;
@@ -187,6 +193,43 @@ TEST(ZoneSurface, TrimsCellsAlongStraightLines)
         length += std::sqrt(borders->GetCell(cell)->GetLength2());
     }
     EXPECT_NEAR(length, (3.25 - 2.5) + 3.25 + (3.0 - 2.5), 1e-6) << "the border along X and Y, no new one";
+}
+
+TEST(ZoneSurface, KeepsItsExtentWhenItIsThinned)
+{
+    const auto grid = block(31, 21, 1);
+    for (const double kept : {0.5, 0.1, 0.02}) {
+        view::ZoneSurface surface;
+        surface.set(grid, {}, kept);
+        vtkPolyData* thin = surface.surface();
+        EXPECT_NEAR(double(thin->GetNumberOfPoints()), kept * 31 * 21, 0.4 * kept * 31 * 21);
+        std::array<double, 6> bounds{};
+        thin->GetBounds(bounds.data());
+        EXPECT_EQ(bounds, (std::array{0.0, 30.0, 0.0, 20.0, 0.0, 0.0})) << kept;
+    }
+}
+
+TEST(FeatureEdges, AreThoseOfOnePolygonAloneAndThoseWhereTwoMeetSharply)
+{
+    for (const double degrees : {30.0, 60.0}) {
+        const double angle = vtkMath::RadiansFromDegrees(degrees);
+        const auto sheet = vtkSmartPointer<vtkPolyData>::New();
+        const auto points = vtkSmartPointer<vtkPoints>::New();
+        const auto quads = vtkSmartPointer<vtkCellArray>::New();
+        for (const double y : {0.0, 1.0}) {
+            points->InsertNextPoint(-1.0, y, 0.0);
+            points->InsertNextPoint(0.0, y, 0.0);
+            points->InsertNextPoint(std::cos(angle), y, std::sin(angle));
+        }
+        quads->InsertNextCell({0, 1, 4, 3});
+        quads->InsertNextCell({1, 2, 5, 4});
+        sheet->SetPoints(points);
+        sheet->SetPolys(quads);
+        const int sharp = degrees > 35.0 ? 1 : 0;
+        EXPECT_EQ(view::featureEdges(*sheet, true, false)->GetNumberOfLines(), 6);
+        EXPECT_EQ(view::featureEdges(*sheet, false, true)->GetNumberOfLines(), sharp);
+        EXPECT_EQ(view::featureEdges(*sheet, true, true)->GetNumberOfLines(), 6 + sharp);
+    }
 }
 
 TEST(ZonePoints, TakesTheChosenPointsWithTheirValues)

@@ -36,12 +36,13 @@ FieldLayer::FieldLayer(vtkRenderer* renderer, vtkSmartPointer<vtkMapper> mapper,
     m_mapper->SetRelativeCoincidentTopologyPolygonOffsetParameters(0.0, -2.0 * order);
     m_actor->SetMapper(m_mapper);
     m_actor->VisibilityOff();
-    m_renderer->AddActor(m_actor);
 }
 
 FieldLayer::~FieldLayer()
 {
-    m_renderer->RemoveActor(m_actor);
+    if (m_isAdded) {
+        m_renderer->RemoveActor(m_actor);
+    }
 }
 
 void FieldLayer::place(const Placement& placement)
@@ -79,6 +80,11 @@ vtkActor& FieldLayer::actor() const
 
 void FieldLayer::setShown(bool isShown)
 {
+    // A renderer looks through all its actors for each that comes or goes: those of layers never shown stay away.
+    if (isShown && !m_isAdded) {
+        m_renderer->AddActor(m_actor);
+        m_isAdded = true;
+    }
     m_actor->SetVisibility(isShown);
 }
 

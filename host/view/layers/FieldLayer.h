@@ -107,6 +107,7 @@ private:
     vtkRenderer* m_renderer;
     vtkSmartPointer<vtkMapper> m_mapper;
     vtkSmartPointer<vtkActor> m_actor;
+    bool m_isAdded = false; /* to the renderer */
     double m_order;
     long m_geometryCount = 0;
 };
