@@ -1,5 +1,6 @@
 #include "ui/QtDialogAbstract.h"
 
+#include "ui/PlaceBeside.h"
 #include "ui/ReadingOrder.h"
 #include "ui/WheelGuard.h"
 
@@ -134,6 +135,12 @@ void QtDialogAbstract::prepare()
     setUpButtons();
     setUpKeyboard();
     (new WheelGuard(this))->guard(*this);
+    if (m_opensBesidePlot) {
+        if (!testAttribute(Qt::WA_Resized)) {
+            adjustSize();
+        }
+        placeBesidePlot(*this);
+    }
     restorePersistentState();
     m_prepared = true;
     limitHeight();

@@ -49,6 +49,9 @@ public:
     /// Adds a Help button to the form's QDialogButtonBox where it has none, and lets it and F1 trigger the action.
     void setHelpAction(QAction* action);
 
+    /// Lets the dialog open beside the plot, where the user has not put it anywhere yet. See placeBesidePlot().
+    void openBesidePlot() { m_opensBesidePlot = true; }
+
     /// Keeps a further piece of state: restored when the dialog is shown first, saved whenever it is hidden.
     void addPersistentState(std::unique_ptr<PersistentStateInterface> state);
 
@@ -80,6 +83,7 @@ private:
     std::vector<std::unique_ptr<PersistentStateInterface>> m_persistentStates;
     std::unique_ptr<QSettings> m_settings; ///< with the group of the dialog open, from the first launch on
     bool m_prepared = false;
+    bool m_opensBesidePlot = false;
     bool m_relevant = true;
     QDialogButtonBox* m_buttonBox = nullptr;
     QWidget* m_content = nullptr;

@@ -1,6 +1,7 @@
 #include "ui/TableCopyHandler.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 
@@ -30,7 +31,13 @@ std::vector<int> allBelow(int count)
 TableCopyHandler::TableCopyHandler(QAbstractItemView* table)
     : QObject(table)
     , m_table(table)
-{}
+{
+    auto* const copy = new QAction(tr("Copy"), table);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    connect(copy, &QAction::triggered, this, &TableCopyHandler::copyToClipboard);
+    table->addAction(copy);
+}
 
 QString TableCopyHandler::text() const
 {

@@ -8,7 +8,8 @@ class QAbstractItemView;
 namespace vantrix::sdk::ui::common {
 
 /// Copies a table to the clipboard as text: a line for the header and one for each row, cells parted by tabs. Of a
-/// selection of several cells only the rows and columns that it reaches are copied, else the whole table.
+/// selection of several cells only the rows and columns that it reaches are copied, else the whole table. The table
+/// gets an action "Copy" for it, with the usual key.
 class TableCopyHandler : public QObject
 {
     Q_OBJECT

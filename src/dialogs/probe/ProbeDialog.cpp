@@ -11,7 +11,6 @@
 #include "toolbox/ArgList.h"
 #include "toolbox/HostString.h"
 #include "ui/LaunchHelpAction.h"
-#include "ui/PlaceBeside.h"
 #include "ui/relevance/StateChangeDependentRelevance.h"
 
 #include <QDialogButtonBox>
@@ -80,8 +79,9 @@ void ProbeDialog::Impl::buildForm()
         probeInfo->setCurrentPage(lastProbePage);
     }
     m_dialog.resize(m_dialog.sizeHint().expandedTo(QSize(520, 460))); // all tabs are seen
-    vantrix::dialogs::common::placeBesidePlot(m_dialog);              // unless the user put it elsewhere
-    m_dialog.restoreGeometry(geometry);
+    if (!m_dialog.restoreGeometry(geometry)) {
+        m_dialog.openBesidePlot();
+    }
 }
 
 ProbeDialog& ProbeDialog::getInstance(QWidget& parent)
