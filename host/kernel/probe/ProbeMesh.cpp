@@ -12,6 +12,7 @@
 #include <vtkUnstructuredGrid.h>
 
 #include <algorithm>
+#include <limits>
 #include <set>
 
 namespace vantrix::kernel {
@@ -296,6 +297,27 @@ bool ProbeMesh::findClosest(const Position& position, double radius, MeshPlace& 
     return place.cell == cell && !isTrimmed(place);
 }
 
+/* Of some cells the one whose distance is least; -1 of none. */
+long ProbeMesh::closestCell(vtkIdList& cells, const Position& position)
+{
+    long closest = cells.GetNumberOfIds() > 0 ? static_cast<long>(cells.GetId(0)) : -1;
+    double least2 = std::numeric_limits<double>::infinity();
+    for (const vtkIdType cell : cells) {
+        Position on{};
+        Position parametric{};
+        int subCell = 0;
+        double distance2 = 0.0;
+        m_shape->GetCell(cell, m_cell);
+        const int inside = m_cell->EvaluatePosition(position.data(), on.data(), subCell, parametric.data(), distance2,
+                                                    m_weights.data());
+        if (inside >= 0 && distance2 < least2) {
+            least2 = distance2;
+            closest = static_cast<long>(cell);
+        }
+    }
+    return closest;
+}
+
 bool ProbeMesh::findNearestPoint(const Position& position, MeshPlace& place)
 {
     vtkStaticPointLocator& locator = pointLocator();
@@ -308,7 +330,7 @@ bool ProbeMesh::findNearestPoint(const Position& position, MeshPlace& place)
     }
     vtkNew<vtkIdList> cells;
     m_shape->GetPointCells(point, cells);
-    place.cell = cells->GetNumberOfIds() > 0 ? static_cast<long>(cells->GetId(0)) : -1;
+    place.cell = closestCell(*cells, position);
     place.points = {zonePoint(point)};
     place.weights = {1.0};
     m_shape->GetPoint(point, place.position.data());

@@ -57,8 +57,8 @@ public:
     /* Finds the place of the mesh that is closest, no further away than `radius`. */
     bool findClosest(const Position& position, double radius, MeshPlace& place);
 
-    /* Finds the point that is closest, and a cell, if there is one, that it is a corner of; the point counts for
-     * everything. */
+    /* Finds the point that is closest, and of the cells that it is a corner of, if there are any, the one that holds
+     * the position or is closest to it; the point counts for everything. */
     bool findNearestPoint(const Position& position, MeshPlace& place);
 
     /* Whether it has a cell with corners at all of these positions: that cell, or -1. */
@@ -92,6 +92,7 @@ private:
     bool isTrimmed(const MeshPlace& place) const;
     bool evaluate(long cell, const Position& position, MeshPlace& place);
     void take(long cell, MeshPlace& place);
+    long closestCell(vtkIdList& cells, const Position& position);
     vtkStaticCellLocator& cellLocator();
     vtkSmartPointer<vtkDataSet> leftPoints();
     vtkStaticPointLocator& pointLocator();

@@ -140,6 +140,22 @@ TEST_F(ProbeTest, AFlatPlotShowsTheFirstLayerOfAVolume)
     EXPECT_NEAR(VtxUtilProbeFieldGetValue(VtxUtilVarGetNumByAssignment('X')), at[0], 1e-5);
 }
 
+TEST_F(ProbeTest, TheCellOfTheNearestPointIsTheOneThatHoldsThePosition)
+{
+    const LockScope lock;
+    ASSERT_TRUE(VtxUtilCreateRectangularZone(6, 5, 1, 0, 0, 0, 5, 4, 0, FieldDataType_Double)) << lastError();
+    const struct
+    {
+        Position at;
+        long cell;
+    } cases[] = {{{2.2, 2.1, 0.0}, 15}, {{1.8, 2.1, 0.0}, 14}, {{2.2, 1.9, 0.0}, 9}, {{1.8, 1.9, 0.0}, 8}};
+    for (const auto& [at, cell] : cases) {
+        ASSERT_TRUE(probeAt(at, false, true)) << lastError();
+        EXPECT_EQ(VtxUtilProbeFieldGetPoint(), 15);
+        EXPECT_EQ(VtxUtilProbeFieldGetCell(), cell) << at[0] << ", " << at[1];
+    }
+}
+
 TEST_F(ProbeTest, TheNearestPointIsTheNearestOfAllZones)
 {
     show("mixed");
