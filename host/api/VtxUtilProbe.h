@@ -1,8 +1,9 @@
 /*
  * Probing: the values of a plot at a place or an index.
  *
- * The host keeps the result of the last probe. A probe-information handle says what was probed, so that it can be done
- * again after data or style changed. A result is about the frame that was active when it was made.
+ * The host keeps the result of the last probe that found something: one that finds nothing leaves it as it is. A
+ * probe-information handle says what was probed, so that it can be done again after data or style changed. A result is
+ * about the frame that was active when it was made.
  */
 #ifndef VTX_UTIL_PROBE_H
 #define VTX_UTIL_PROBE_H
@@ -30,14 +31,18 @@ bool VtxUtilProbeInstallCallbackX(VtxArgListHandle arguments);
 /* Whether a function receives probes. */
 bool VtxUtilProbeIsCallbackInstalled(void);
 
-/* What was probed last, for VtxUtilProbePerform(); null when nothing was. Released by VtxUtilProbeInfoDealloc(), which
- * sets the handle to null. */
+/* The last probe that found something, for VtxUtilProbePerform(); null when none did. Released by
+ * VtxUtilProbeInfoDealloc(), which sets the handle to null. */
 VtxProbeInfoHandle VtxUtilProbeInfoGet(void);
 void VtxUtilProbeInfoDealloc(VtxProbeInfoHandle* info);
 
 /* Probes again what `info` says, and calls `function` (may be null) with the client data of the installed one. False
  * when it finds nothing. */
 bool VtxUtilProbePerform(VtxProbeInfoHandle info, VtxProbeFunction function);
+
+/* Lets the probe of a handle be the last one again, with what it had found when the handle was taken; null for none.
+ * Nothing is probed and no function is told. */
+void VtxUtilProbeInfoRestore(VtxProbeInfoHandle info);
 
 /* The plot type that the last probe was made in; `PlotType_Sketch` when there was none. */
 PlotType_e VtxUtilProbeGetPlotType(void);

@@ -23,6 +23,13 @@ const FieldArray* DataSet::field(long zoneNumber, long variable) const
     return &found->fields[static_cast<std::size_t>(variable - 1)];
 }
 
+long DataSet::zoneNumber(long identity) const
+{
+    const auto found =
+        std::find_if(zones.begin(), zones.end(), [&](const auto& zone) { return zone->identity() == identity; });
+    return found == zones.end() ? 0 : found - zones.begin() + 1;
+}
+
 long DataSet::variableNumber(const std::string& name) const
 {
     const auto found =

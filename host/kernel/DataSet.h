@@ -46,6 +46,9 @@ public:
     const Zone* zone(long number) const;
     const FieldArray* field(long zone, long variable) const;
 
+    /* The number of the zone with an identity, see Zone::identity(); 0 when there is none. */
+    long zoneNumber(long identity) const;
+
     /* The number of the variable with that name (case counts), 0 when there is none. */
     long variableNumber(const std::string& name) const;
 

@@ -96,24 +96,39 @@ bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it may be the one that is kept
     const ProbeRequest asked = request;
     MacroRecorder::Call call(m_kernel.macroRecorder(), m_kernel.lock().isRecorded());
-    m_result = resultOf(asked, frame);
-    m_request = asked;
-    if (std::holds_alternative<LineNearestRequest>(asked) && lineResult()) {
-        m_request = lineResult()->picked; // what is nearest may be another point in another view
+    Result result = resultOf(asked, frame);
+    const bool isFound = !std::holds_alternative<std::monostate>(result);
+    if (isFound) {
+        m_found = {asked,
+                   static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType"))),
+                   frame.id(), std::move(result)};
+        if (lineResult() && lineResult()->pickedMap != 0) {
+            m_found.request = lineResult()->picked; // what is nearest may be another point in another view
+        } else if (fieldResult() && fieldResult()->picked) {
+            m_found.request = *fieldResult()->picked;
+        }
     }
-    m_frameId = frame.id();
-    m_plotType = static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType")));
-    const bool isFound = !std::holds_alternative<std::monostate>(m_result);
     if (isFound && call.isDescribed()) {
-        call.succeeded(probeCommand(*m_request));
+        call.succeeded(probeCommand(*m_found.request));
     }
     if (told) {
         told(isFound ? 1 : 0, isNearestPoint(asked) ? 1 : 0, m_clientData);
     }
+    tellListeners();
+    return isFound;
+}
+
+void ProbeService::restore(const Found& found)
+{
+    m_found = found;
+    tellListeners();
+}
+
+void ProbeService::tellListeners() const
+{
     for (const auto& [owner, listener] : m_listeners) {
         listener();
     }
-    return isFound;
 }
 
 void ProbeService::addListener(const void* owner, std::function<void()> listener)
@@ -128,12 +143,12 @@ void ProbeService::removeListener(const void* owner)
 
 const FieldProbeResult* ProbeService::fieldResult() const
 {
-    return std::get_if<FieldProbeResult>(&m_result);
+    return std::get_if<FieldProbeResult>(&m_found.result);
 }
 
 const LineProbeResult* ProbeService::lineResult() const
 {
-    return std::get_if<LineProbeResult>(&m_result);
+    return std::get_if<LineProbeResult>(&m_found.result);
 }
 
 FieldProbe& ProbeService::fieldProbe()
@@ -153,10 +168,7 @@ void ProbeService::reset()
     m_fieldProbe.reset();
     m_fieldContext = {};
     m_meshes.clear();
-    m_request.reset();
-    m_frameId = 0;
-    m_plotType = PlotType_Sketch;
-    m_result = std::monostate();
+    m_found = {};
 }
 
 } // namespace vantrix::kernel

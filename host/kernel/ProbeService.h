@@ -19,11 +19,22 @@ using ProbeRequest =
 
 /*
  * Probes the active frame, keeps what was found last, and tells the installed function of it. What was found is about
- * the frame that was active then, and stays as it was when data or style change.
+ * the frame that was active then, and stays as it was when data or style change, or a probe finds nothing.
  */
 class ProbeService
 {
 public:
+    using Result = std::variant<std::monostate, FieldProbeResult, LineProbeResult>;
+
+    /* A probe and what it found; as it is made, of none. */
+    struct Found
+    {
+        std::optional<ProbeRequest> request;
+        PlotType_e plotType = PlotType_Sketch;
+        long frameId = 0;
+        Result result;
+    };
+
     explicit ProbeService(Kernel& kernel);
     ~ProbeService();
     ProbeService(const ProbeService&) = delete;
@@ -38,18 +49,22 @@ public:
 
     /*
      * Probes, keeps request and result, and tells the installed function, or in its place `told`, which may be
-     * null. False when the position is outside the data; there is no result then. Throws DataError, and changes
-     * nothing, for what cannot be probed.
+     * null. False when the position is outside the data; what was found before is kept then. Throws DataError, and
+     * changes nothing, for what cannot be probed.
      */
     bool perform(const ProbeRequest& request) { return perform(request, m_function); }
     bool perform(const ProbeRequest& request, VtxProbeFunction told);
 
-    /* What was probed last; null where nothing was. */
-    const ProbeRequest* request() const { return m_request ? &*m_request : nullptr; }
-    PlotType_e plotType() const { return m_plotType; }
+    /* The last probe that found something. */
+    const Found& found() const { return m_found; }
+
+    /* Lets an earlier probe be the last one again, without probing. */
+    void restore(const Found& found);
+
+    PlotType_e plotType() const { return m_found.plotType; }
 
     /* The frame that was probed; 0 where nothing was. */
-    long frameId() const { return m_frameId; }
+    long frameId() const { return m_found.frameId; }
 
     /* What was found; null where nothing was, or the last probe was of another kind. */
     const FieldProbeResult* fieldResult() const;
@@ -69,7 +84,7 @@ public:
 private:
     static void stateChanged(VtxStateChangeHandle change, void* service);
 
-    using Result = std::variant<std::monostate, FieldProbeResult, LineProbeResult>;
+    void tellListeners() const;
     Result resultOf(const ProbeRequest& request, const Frame& frame);
 
     /* What a FieldProbe was made for. */
@@ -89,10 +104,7 @@ private:
     long m_clientData = 0;
     std::string m_statusLineText;
     bool m_isModeOn = false;
-    std::optional<ProbeRequest> m_request;
-    PlotType_e m_plotType = PlotType_Sketch;
-    long m_frameId = 0;
-    Result m_result;
+    Found m_found;
     std::map<const void*, std::function<void()>> m_listeners;
 };
 

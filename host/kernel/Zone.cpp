@@ -1,5 +1,7 @@
 #include "kernel/Zone.h"
 
+#include <atomic>
+
 namespace vantrix::kernel {
 
 namespace {
@@ -25,6 +27,12 @@ long cornersPerCell(ZoneType_e type)
 }
 
 } // namespace
+
+Zone::Zone()
+{
+    static std::atomic<long> last = 0;
+    m_identity = ++last;
+}
 
 Zone Zone::ordered(std::string name, long iMax, long jMax, long kMax)
 {

@@ -32,6 +32,10 @@ public:
      */
     static Zone finiteElement(std::string name, ZoneType_e type, long pointCount, vtkSmartPointer<vtkCellArray> cells);
 
+    /* A number that no other zone of the process has; copies keep it, so that a zone is known again whatever was
+     * edited of it and wherever it is in its data set. */
+    long identity() const { return m_identity; }
+
     const std::string& name() const { return m_name; }
     void setName(std::string name) { m_name = std::move(name); }
 
@@ -65,8 +69,9 @@ public:
     BlankedZoneCache& blankings() const { return m_blankings; }
 
 private:
-    Zone() = default;
+    Zone();
 
+    long m_identity;
     std::string m_name;
     ZoneType_e m_type = ZoneType_Ordered;
     std::array<long, 3> m_dimensions{1, 1, 1};

@@ -16,7 +16,7 @@ using vantrix::kernel::boundary::setIfNotNull;
 /* What the interface hands out as VtxProbeInfoHandle. */
 struct VtxProbeInfo
 {
-    ProbeRequest request;
+    ProbeService::Found found;
 };
 
 namespace {
@@ -126,8 +126,8 @@ bool VtxUtilProbeIsCallbackInstalled(void)
 VtxProbeInfoHandle VtxUtilProbeInfoGet(void)
 {
     return boundary::guarded<VtxProbeInfoHandle>(nullptr, [] {
-        const ProbeRequest* request = probes().request();
-        return request ? new VtxProbeInfo{*request} : nullptr;
+        const ProbeService::Found& found = probes().found();
+        return found.request ? new VtxProbeInfo{found} : nullptr;
     });
 }
 
@@ -141,7 +141,16 @@ void VtxUtilProbeInfoDealloc(VtxProbeInfoHandle* info)
 
 bool VtxUtilProbePerform(VtxProbeInfoHandle info, VtxProbeFunction function)
 {
-    return probing([&] { return info ? perform(info->request, function) : boundary::fail("Nothing was probed yet."); });
+    return probing(
+        [&] { return info ? perform(*info->found.request, function) : boundary::fail("Nothing was probed yet."); });
+}
+
+void VtxUtilProbeInfoRestore(VtxProbeInfoHandle info)
+{
+    boundary::guarded(false, [&] {
+        probes().restore(info ? info->found : ProbeService::Found());
+        return true;
+    });
 }
 
 PlotType_e VtxUtilProbeGetPlotType(void)

@@ -343,14 +343,20 @@ std::optional<FieldProbeResult> FieldProbe::probe(const FieldPositionRequest& re
 
 FieldProbeResult FieldProbe::probe(const FieldIndexRequest& request)
 {
-    checkIndex("Zone", request.zone, m_dataSet->zoneCount());
-    const Zone& zone = *m_dataSet->zone(request.zone);
+    const long number = request.zoneIdentity != 0 ? m_dataSet->zoneNumber(request.zoneIdentity) : request.zone;
+    if (request.zoneIdentity != 0 && number == 0) {
+        throw DataError("The zone that was probed, then number " + std::to_string(request.zone) +
+                        ", is no longer in the data of the active frame.");
+    }
+    checkIndex("Zone", number, m_dataSet->zoneCount());
+    const Zone& zone = *m_dataSet->zone(number);
     const auto [iMax, jMax, kMax] = zone.dimensions();
     checkIndex("I", request.i, iMax);
     checkIndex("J", request.j, zone.isOrdered() ? jMax : 1);
     checkIndex("K", request.k, zone.isOrdered() ? kMax : 1);
 
-    FieldProbeResult result = newResult(request.zone);
+    FieldProbeResult result = newResult(number);
+    result.picked = {request.i, request.j, request.k, number, zone.identity()};
     const long point =
         zone.isOrdered() ? pointNumber(zone, {request.i - 1, request.j - 1, request.k - 1}) : request.i - 1;
     result.point = point + 1;
@@ -368,7 +374,7 @@ FieldProbeResult FieldProbe::probe(const FieldIndexRequest& request)
             value = field->values->GetComponent(point, 0);
         } else if (field) {
             if (cells.empty()) {
-                cells = wholeMesh(request.zone)->cellsAround(point);
+                cells = wholeMesh(number)->cellsAround(point);
             }
             if (!cells.empty()) {
                 value = mean(*field->values, cells);

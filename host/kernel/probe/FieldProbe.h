@@ -35,6 +35,7 @@ struct FieldIndexRequest
     long j = 1;
     long k = 1;
     long zone = 1;
+    long zoneIdentity = 0; /* that zone, whatever its number is now; 0 for the one that has the number */
 };
 
 /* Where a position is in the data: the zone, and the place in one of its meshes. */
@@ -57,7 +58,8 @@ struct FieldProbeResult
     Position position{0.0, 0.0, 0.0};
     std::vector<std::optional<double>> values;
     std::vector<std::optional<double>> cellCenterValues;
-    std::vector<VtxFieldData> fields; /* where the values of each variable belong */
+    std::optional<FieldIndexRequest> picked; /* of a probe by index: the same, with the zone's identity */
+    std::vector<VtxFieldData> fields;        /* where the values of each variable belong */
 };
 
 /*
@@ -73,7 +75,7 @@ public:
     /* Nothing when the position is outside the data. Throws DataError when the plot cannot be probed. */
     std::optional<FieldProbeResult> probe(const FieldPositionRequest& request);
 
-    /* Throws DataError, too, for a zone or an index that is not there. */
+    /* Throws DataError, too, for a zone or an index that is not there, or no longer. */
     FieldProbeResult probe(const FieldIndexRequest& request);
 
     /* Finds the place of a position. `zones` restricts the search where it is not null; `start`, a place of an earlier

@@ -140,7 +140,9 @@ LineProbeResult LineProbe::resultOf(const Map& from, long point) const
     result.point = point + 1;
     const Zone& zone = *m_dataSet->zone(from.zone);
     const auto [iMax, jMax, kMax] = zone.isOrdered() ? zone.dimensions() : std::array<long, 3>{zone.pointCount(), 1, 1};
-    result.picked = {point % iMax + 1, point / iMax % jMax + 1, point / iMax / jMax + 1, from.number};
+    const LineMapAssignment shown = m_lineMaps.assignment(from.number);
+    result.picked = {point % iMax + 1, point / iMax % jMax + 1, point / iMax / jMax + 1, from.number,
+                     zone.identity(),  shown.xVariable,         shown.yVariable};
     result.pickedX = from.x->values->GetComponent(point, 0);
     result.pickedY = from.y->values->GetComponent(point, 0);
     result.position = result.pickedX;
@@ -148,16 +150,44 @@ LineProbeResult LineProbe::resultOf(const Map& from, long point) const
     return result;
 }
 
+bool LineProbe::shows(long number, const LineIndexRequest& request) const
+{
+    const LineMapAssignment shown = m_lineMaps.assignment(number);
+    const Zone* zone = m_dataSet->zone(shown.zone);
+    return zone && zone->identity() == request.zoneIdentity && shown.xVariable == request.xVariable &&
+           shown.yVariable == request.yVariable;
+}
+
+/* Line maps have no identity of their own: one that moved to another number is known by what it shows. */
+long LineProbe::lineMapOf(const LineIndexRequest& request) const
+{
+    const bool isThere = m_lineMaps.has(request.lineMap);
+    if (request.zoneIdentity == 0 || (isThere && shows(request.lineMap, request))) {
+        return request.lineMap;
+    }
+    for (long number = 1; number <= m_lineMaps.count(); ++number) {
+        if (shows(number, request)) {
+            return number;
+        }
+    }
+    if (m_dataSet->zoneNumber(request.zoneIdentity) == 0) {
+        throw DataError("The zone of the line map that was probed, then number " + std::to_string(request.lineMap) +
+                        ", is no longer in the data of the active frame.");
+    }
+    return request.lineMap; // which may have been given other data
+}
+
 LineProbeResult LineProbe::probe(const LineIndexRequest& request) const
 {
-    if (!m_lineMaps.has(request.lineMap)) {
-        throw DataError("There is no line map " + std::to_string(request.lineMap) + "; the plot has " +
+    const long number = lineMapOf(request);
+    if (!m_lineMaps.has(number)) {
+        throw DataError("There is no line map " + std::to_string(number) + "; the plot has " +
                         std::to_string(m_lineMaps.count()) + ".");
     }
-    const Map probed = map(request.lineMap);
+    const Map probed = map(number);
     const Zone* zone = m_dataSet->zone(probed.zone);
     if (!zone || !probed.x) {
-        throw DataError("Line map " + std::to_string(request.lineMap) + " has no values to probe.");
+        throw DataError("Line map " + std::to_string(number) + " has no values to probe.");
     }
     const auto [iMax, jMax, kMax] = zone->dimensions();
     const std::array<long, 3> last{iMax, zone->isOrdered() ? jMax : 1, zone->isOrdered() ? kMax : 1};
@@ -170,7 +200,7 @@ LineProbeResult LineProbe::probe(const LineIndexRequest& request) const
     }
     const long point = request.i - 1 + last[0] * (request.j - 1 + last[1] * (request.k - 1));
     if (point >= probed.x->values->GetNumberOfTuples()) {
-        throw DataError("Line map " + std::to_string(request.lineMap) + " has no value at that index.");
+        throw DataError("Line map " + std::to_string(number) + " has no value at that index.");
     }
     return resultOf(probed, point);
 }

@@ -26,6 +26,11 @@ struct LineIndexRequest
     long j = 1;
     long k = 1;
     long lineMap = 1;
+
+    /* What the line map showed, for one that is known again by it; 0 for the one that has the number. */
+    long zoneIdentity = 0;
+    long xVariable = 0;
+    long yVariable = 0;
 };
 
 /* A probe of the point of all line maps that is drawn closest to a place of the picture. */
@@ -70,7 +75,9 @@ public:
     /* Throws DataError when the frame's plot is no line plot, or has no data. */
     LineProbe(StyleStore& style, const Frame& frame);
 
-    /* Throw DataError for an axis, a line map or an index that is not there. Nothing when no line has a value. */
+    /* Throw DataError for an axis, a line map or an index that is not there. Nothing when no line has a value. A
+     * request that says what its line map showed is for the line map that shows that now, where there is one; it is
+     * refused when the zone is gone. */
     std::optional<LineProbeResult> probe(const LinePositionRequest& request) const;
     LineProbeResult probe(const LineIndexRequest& request) const;
     std::optional<LineProbeResult> probe(const LineNearestRequest& request) const;
@@ -89,6 +96,8 @@ private:
         bool isBlanked(long point) const;
     };
     Map map(long number) const;
+    bool shows(long number, const LineIndexRequest& request) const;
+    long lineMapOf(const LineIndexRequest& request) const;
     std::vector<Map> shownMaps() const;
     LineProbeResult resultOf(const Map& map, long point) const;
 

@@ -77,7 +77,9 @@ std::pair<int, int> ProbeHistory::probeAgain()
         record = std::move(*again);
         addVariablesOf(record);
     }
-    VtxUtilProbePerform(last, nullptr);
+    if (!VtxUtilProbePerform(last, nullptr)) {
+        VtxUtilProbeInfoRestore(last);
+    }
     VtxUtilProbeInfoDealloc(&last);
     if (rowCount() > 0) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
@@ -150,7 +152,7 @@ QVariant ProbeHistory::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
     }
-    QStringList const names = {tr("Probe"), tr("Item"), tr("X"), tr("Y"), tr("Z")};
+    QStringList const names = {tr("Probe"), tr("Item"), tr("Position X"), tr("Position Y"), tr("Position Z")};
     return section < FirstValueColumn ? names[section]
                                       : m_variables[static_cast<std::size_t>(section - FirstValueColumn)];
 }

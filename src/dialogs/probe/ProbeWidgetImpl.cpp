@@ -138,6 +138,11 @@ void ProbeWidget::Impl::releaseInfo()
 
 void ProbeWidget::Impl::takeProbe(bool isNearestPoint, bool probeSucceeded)
 {
+    if (probeSucceeded) {
+        m_tabsFilled.fill(false);
+    } else if (m_probeSucceeded && !m_isReprobing) {
+        fillOtherTabs();
+    }
     m_isNearestPoint = isNearestPoint;
     m_probeSucceeded = probeSucceeded;
     if (!m_isReprobing) { // else the host is working with the one there is
@@ -198,7 +203,19 @@ void ProbeWidget::Impl::updateCartesianPages()
         return;
     }
     WaitState const wait;
-    switch (lastProbePage) {
+    updateTab(lastProbePage);
+}
+
+void ProbeWidget::Impl::updateTab(int page)
+{
+    if (page < 0 || page >= static_cast<int>(m_tabsFilled.size())) {
+        return;
+    }
+    bool& isFilled = m_tabsFilled[static_cast<std::size_t>(page)];
+    if (!m_probeSucceeded && !isFilled) {
+        emptyTab(page); // what it shows is of another probe than the name above the tabs
+    }
+    switch (page) {
     case FieldProbeDialogPage_NodalValues:
         updateVarValues();
         break;
@@ -219,6 +236,46 @@ void ProbeWidget::Impl::updateCartesianPages()
         }
         break;
     default:
+        break;
+    }
+    isFilled = isFilled || m_probeSucceeded;
+}
+
+/// Once a probe has failed, nothing is read of the one before it: the tabs that were not looked at must have it by
+/// then.
+void ProbeWidget::Impl::fillOtherTabs()
+{
+    if (!dataSetAndFrameAreAvailable() || !isFieldPlot(VtxUtilFrameGetPlotType())) {
+        return;
+    }
+    for (std::size_t page = 0; page < m_tabsFilled.size(); ++page) {
+        if (!m_tabsFilled[page]) {
+            updateTab(static_cast<int>(page));
+        }
+    }
+}
+
+void ProbeWidget::Impl::emptyTab(int page)
+{
+    auto const emptyValues = [](QTableWidget& table) {
+        for (int row = 0; row < table.rowCount(); ++row) {
+            delete table.takeItem(row, 1);
+        }
+    };
+    switch (page) {
+    case FieldProbeDialogPage_NodalValues:
+        emptyValues(*m_form.varValues_tableWidget);
+        break;
+    case FieldProbeDialogPage_CellCenteredValues:
+        emptyValues(*m_form.cellCenterValues_tableWidget);
+        break;
+    case FieldProbeDialogPage_ZoneCellInfo:
+        m_form.zoneInfo_tableWidget->setRowCount(0);
+        m_form.cellInfo_tableWidget->setRowCount(0);
+        break;
+    default:
+        m_form.faceNeighbor_cellNumber_label->setText(tr("Cell: N/A"));
+        m_form.faceNeighbor_tableWidget->setRowCount(0);
         break;
     }
 }
@@ -356,8 +413,11 @@ void ProbeWidget::Impl::reprobe()
 {
     AppLock const lock(false);
     m_isReprobing = true;
-    bool const succeeded = m_callback && VtxUtilFrameGetPlotType() != PlotType_Sketch && hasInfo() &&
-                           VtxUtilProbePerform(m_probeInfo, m_callback);
+    bool const canProbe = m_callback && VtxUtilFrameGetPlotType() != PlotType_Sketch && hasInfo();
+    bool const succeeded = canProbe && VtxUtilProbePerform(m_probeInfo, m_callback);
+    if (canProbe && !succeeded) {
+        VtxUtilStatusMessage(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    }
     m_probeSucceeded = succeeded;
     m_isReprobing = false;
 }

@@ -51,6 +51,9 @@ private:
     void setStackedWidgetPage();
     void updateProbeWidget();
     void updateCartesianPages();
+    void updateTab(int page);
+    void fillOtherTabs();
+    void emptyTab(int page);
     void updateProbedItemInfo();
     void updateVarValues();
     void updateCellCenterValues();
@@ -82,6 +85,7 @@ private:
     Ui::ProbeWidget m_form;
     bool m_isNearestPoint = false;
     bool m_probeSucceeded = false;
+    std::array<bool, 4> m_tabsFilled{}; ///< with the probe that the name above them is of
     VtxProbeInfoHandle m_probeInfo = nullptr;
     bool m_isReprobing = false;
     Callback m_callback = nullptr;

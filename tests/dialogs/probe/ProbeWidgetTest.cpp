@@ -224,6 +224,24 @@ TEST_F(ProbeDialogsTest, AFailedProbeLeavesTheTablesAndOtherDataEmptyThePage)
     EXPECT_EQ(pageOf(dialog, "stackedWidget"), "noProbeData_page");
 }
 
+TEST_F(ProbeDialogsTest, AfterAFailedProbeAllTabsAreOfTheLastOneThatFoundSomething)
+{
+    open("fe2d");
+    auto& dialog = launch<ProbeDialog>();
+    ASSERT_TRUE(probeIndex(5, 1, 1, 1));
+    showTab(dialog, FieldProbeDialogPage_ZoneCellInfo);
+    auto& zone = table(dialog, "zoneInfo_tableWidget");
+    ASSERT_EQ(valueOf(zone, "Zone Type"), "FE-Quad");
+    showTab(dialog, FieldProbeDialogPage_NodalValues);
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    EXPECT_FALSE(probeAt(1e6, 0.0, 0.0));
+    EXPECT_EQ(find<QLabel>(dialog, "probedItemName_label").text(), QStringLiteral("Zone 2: Far end"));
+    showTab(dialog, FieldProbeDialogPage_ZoneCellInfo);
+    EXPECT_EQ(valueOf(zone, "Zone Type"), "FE-Triangle");
+    EXPECT_EQ(valueOf(table(dialog, "cellInfo_tableWidget"), "Node Num"), "7");
+    EXPECT_EQ(VtxUtilProbeFieldGetZone(), 2) << "and so is what the host keeps";
+}
+
 TEST_F(ProbeDialogsTest, ANameColumnThatTheUserWidenedStaysSo)
 {
     open("fe2d");

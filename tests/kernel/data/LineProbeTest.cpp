@@ -1,5 +1,7 @@
 #include "ProbeFixture.h"
 
+#include "kernel/LineMaps.h"
+
 using namespace vantrix::kernel;
 using testing::HasSubstr;
 
@@ -73,6 +75,34 @@ TEST_F(ProbeTest, APointOfALineIsTakenByIndexOrNearness)
     }
     expectPicked();
     VtxUtilProbeInfoDealloc(&info);
+}
+
+TEST_F(ProbeTest, AProbedLineMapIsFollowedToAnotherNumberAndMissedWhenItsZoneIsGone)
+{
+    show("lines");
+    const LockScope lock;
+    const auto probePoint = [](long map) {
+        EXPECT_TRUE(VtxUtilProbeAtLineIndexX(Arguments().with("I", 7L).with("LineMap", map))) << lastError();
+        return VtxUtilProbeInfoGet();
+    };
+    ASSERT_NE(LineMaps(kernel().style(), *document().activeFrame()).assignment(2).zone, 1);
+    VtxProbeInfoHandle first = probePoint(1);
+    VtxProbeInfoHandle second = probePoint(2);
+    double y = 0.0, again = 0.0;
+    ASSERT_TRUE(VtxUtilProbeLineGetPickedValues(nullptr, &y));
+    VtxSetHandle zones = VtxUtilSetAlloc();
+    VtxUtilSetAddMember(zones, 1);
+    ASSERT_TRUE(VtxUtilDataSetDeleteZone(zones)) << lastError();
+    VtxUtilSetDealloc(&zones);
+
+    EXPECT_FALSE(VtxUtilProbePerform(first, nullptr));
+    EXPECT_THAT(lastError(), HasSubstr("no longer in the data"));
+    ASSERT_TRUE(VtxUtilProbePerform(second, nullptr)) << lastError();
+    EXPECT_EQ(VtxUtilProbeLineGetPickedMap(), 1);
+    ASSERT_TRUE(VtxUtilProbeLineGetPickedValues(nullptr, &again));
+    EXPECT_EQ(again, y);
+    VtxUtilProbeInfoDealloc(&first);
+    VtxUtilProbeInfoDealloc(&second);
 }
 
 TEST_F(ProbeTest, ThetaIsTheSameAFullCircleOn)

@@ -76,7 +76,7 @@ TEST_F(ProbeTest, TheReceiverIsToldAndAProbeIsDoneAgain)
 
     EXPECT_FALSE(probeAt({1e6, 1e6, 0.0}));
     EXPECT_FALSE(wasSuccessful);
-    EXPECT_FALSE(VtxUtilProbeFieldIsVarValid(1));
+    EXPECT_EQ(VtxUtilProbeFieldGetValue(3), before) << "what was found before is kept";
     EXPECT_EQ(receivedCount, 3);
     {
         const LockScope lock;
@@ -106,6 +106,36 @@ TEST_F(ProbeTest, TheReceiverIsToldAndAProbeIsDoneAgain)
     const LockScope lock;
     EXPECT_TRUE(VtxUtilProbeInstallCallbackX(Arguments().with("CallbackFunction", 0L)));
     EXPECT_FALSE(VtxUtilProbeIsCallbackInstalled());
+}
+
+TEST_F(ProbeTest, AProbedZoneIsFollowedToAnotherNumberAndMissedWhenItIsGone)
+{
+    show("fe2d");
+    const auto found = [] {
+        VtxProbeInfoHandle info = VtxUtilProbeInfoGet();
+        return std::shared_ptr<VtxProbeInfo>(info, [](VtxProbeInfoHandle taken) { VtxUtilProbeInfoDealloc(&taken); });
+    };
+    ASSERT_TRUE(probeIndex(5, 1, 1, 1));
+    const auto first = found();
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    const double value = VtxUtilProbeFieldGetValue(3);
+    const auto second = found();
+    const LockScope lock;
+    VtxSetHandle zones = VtxUtilSetAlloc();
+    VtxUtilSetAddMember(zones, 1);
+    ASSERT_TRUE(VtxUtilDataSetDeleteZone(zones)) << lastError();
+    VtxUtilSetDealloc(&zones);
+
+    EXPECT_FALSE(VtxUtilProbePerform(first.get(), nullptr));
+    EXPECT_THAT(lastError(), HasSubstr("no longer in the data"));
+    ASSERT_TRUE(VtxUtilProbePerform(second.get(), nullptr)) << lastError();
+    EXPECT_EQ(VtxUtilProbeFieldGetZone(), 1);
+    EXPECT_EQ(VtxUtilProbeFieldGetValue(3), value);
+
+    VtxUtilProbeInfoRestore(first.get());
+    EXPECT_EQ(VtxUtilProbeFieldGetPoint(), 5) << "as it was found";
+    VtxUtilProbeInfoRestore(nullptr);
+    EXPECT_EQ(VtxUtilProbeFieldGetZone(), 0);
 }
 
 TEST_F(ProbeTest, VariablesAreLoadedOnDemand)
