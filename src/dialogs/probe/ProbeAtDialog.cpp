@@ -12,6 +12,7 @@
 #include "ui/SpinBoxDoublePropertyBinding.h"
 #include "ui/SpinBoxLgIndexPropertyBinding.h"
 #include "ui/TabWidgetLaunchHelpAction.h"
+#include "ui/relevance/FieldPlotTypeDependentRelevance.h"
 #include "ui_ProbeAtDialog.h"
 
 #include <array>
@@ -43,6 +44,7 @@ private:
     ProbeAtDialog& m_dialog;
     ProbeAtDialogManager m_manager;
     Ui::AtProbe m_form;
+    QPushButton* m_several = nullptr;
     std::array<QAbstractButton*, 10> m_xyButtons{}; ///< X1 to X5, Y1 to Y5
     boost::ptr_vector<BindingInterface> m_bindings;
     std::unique_ptr<BindingInterface> m_indexListBinding; ///< to the zones, in a line plot to the line maps
@@ -69,11 +71,11 @@ ProbeAtDialog::Impl::Impl(ProbeAtDialog& dialog)
 
 void ProbeAtDialog::Impl::createButtons()
 {
-    QPushButton* const several = m_form.buttonBox->addButton(tr("&Several..."), QDialogButtonBox::ActionRole);
-    several->setObjectName(QStringLiteral("atProbe_Several_PushButton"));
-    several->setToolTip(tr("Probe many positions at once"));
+    m_several = m_form.buttonBox->addButton(tr("&Several..."), QDialogButtonBox::ActionRole);
+    m_several->setObjectName(QStringLiteral("atProbe_Several_PushButton"));
+    m_several->setToolTip(tr("Probe many positions at once"));
     m_bindings.push_back(
-        new ButtonBinding(several, [this] { ProbePositionsDialog::getInstance(*m_dialog.parentWidget()).launch(); }));
+        new ButtonBinding(m_several, [this] { ProbePositionsDialog::getInstance(*m_dialog.parentWidget()).launch(); }));
     QPushButton* const probe = m_form.buttonBox->button(QDialogButtonBox::Apply);
     probe->setText(tr("&Do Probe"));
     m_bindings.push_back(new ButtonBinding(probe, [this] { m_dialog.doProbe(); }));
@@ -126,6 +128,7 @@ void ProbeAtDialog::Impl::bindRelevanciesToControls()
     m_formBindings.apply(ProbeAtDialogManager::threeDRelevance(),
                          {m_form.atProbe_PositionAreaFieldZ_Label, m_form.atProbe_PositionAreaFieldZ_1Text,
                           m_form.atProbe_PositionAreaFieldVolume_ToggleButton});
+    m_formBindings.apply(boost::make_shared<propertymanager::FieldPlotTypeDependentRelevance const>(), {m_several});
 }
 
 QAbstractButton* ProbeAtDialog::Impl::xyButton(propertymanager::LineProbeAxis_e axis, int number) const
@@ -200,6 +203,7 @@ ProbeAtDialog::ProbeAtDialog(QWidget& parent)
         {{m_impl->form().atProbe_Position_Page, QStringLiteral("probe_at_position.html")},
          {m_impl->form().atProbe_Index_Page, QStringLiteral("probe_at_index.html")}},
         m_impl->form().pageForm, this));
+    openBesidePlot();
 }
 
 ProbeAtDialog::~ProbeAtDialog() = default;

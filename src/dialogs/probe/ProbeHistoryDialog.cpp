@@ -102,6 +102,8 @@ void ProbeHistoryDialog::Impl::buildForm()
     m_differences->setAlternatingRowColors(true);
     m_differences->verticalHeader()->hide();
     m_differences->horizontalHeader()->setStretchLastSection(true);
+    m_differences->setContextMenuPolicy(Qt::ActionsContextMenu);
+    new common::TableCopyHandler(m_differences);
 
     auto* const below = new QWidget(&m_dialog);
     auto* const belowLayout = new QVBoxLayout(below);
@@ -134,6 +136,7 @@ void ProbeHistoryDialog::Impl::buildForm()
     layout->addLayout(actions);
     layout->addWidget(buttonBox);
     m_dialog.resize(720, 540);
+    m_dialog.openBesidePlot();
 }
 
 std::vector<int> ProbeHistoryDialog::Impl::selectedRows() const
@@ -204,7 +207,8 @@ void ProbeHistoryDialog::Impl::probeAgain()
     auto const [probed, lost] = m_history.probeAgain();
     if (probed < m_history.rowCount() || lost > 0) {
         QString const text = tr("%1 of %2 probes were made again. Of the others the data are not shown in the active "
-                                "frame, or the position is outside of them now; they keep their values.")
+                                "frame, the zone is gone, or the position is outside of the data now; they keep their "
+                                "values.")
                                  .arg(probed - lost)
                                  .arg(m_history.rowCount());
         VtxUtilDialogMessageBox(text.toUtf8().constData(), MessageBox_Information);

@@ -56,26 +56,38 @@ Outcome probeAt(ProbePositionsDialog::Position const& at, bool isInVolume)
 
 } // namespace
 
-std::vector<ProbePositionsDialog::Position> ProbePositionsDialog::parse(QString const& text, QString& problem)
+std::vector<ProbePositionsDialog::Position> ProbePositionsDialog::parse(QString const& text, int dimension,
+                                                                        QString& problem)
 {
     static QRegularExpression const separators(QStringLiteral("[\\s,;]+"));
+    static QRegularExpression const commaInNumber(QStringLiteral("\\d,\\d"));
+    static QRegularExpression const otherSeparator(QStringLiteral("[\\s;]"));
     std::vector<Position> positions;
     int number = 0;
     for (QString const& line : text.split(u'\n')) {
         ++number;
-        if (line.trimmed().isEmpty() || line.trimmed().startsWith(u'#')) {
+        QString const trimmed = line.trimmed();
+        if (trimmed.isEmpty() || trimmed.startsWith(u'#')) {
             continue;
+        }
+        if (trimmed.contains(commaInNumber) && trimmed.contains(otherSeparator)) {
+            problem = tr("Line %1, \"%2\", has a comma within a number: write a decimal point, or part all numbers by "
+                         "commas alone.")
+                          .arg(number)
+                          .arg(trimmed);
+            return {};
         }
         QStringList const words = line.split(separators, Qt::SkipEmptyParts);
         Position position{0.0, 0.0, 0.0};
-        bool isGood = words.size() == 2 || words.size() == 3;
+        bool isGood = words.size() == dimension;
         for (int i = 0; i < words.size() && isGood; ++i) {
             position[static_cast<std::size_t>(i)] = propertybindings::numberLocale().toDouble(words[i], &isGood);
         }
         if (!isGood) {
-            problem = tr("Line %1, \"%2\", is no position: write X, Y and, in a 3D plot, Z, parted by blanks.")
-                          .arg(number)
-                          .arg(line.trimmed());
+            QString const wrong = dimension == 3
+                                      ? tr("Line %1, \"%2\", is no position: write X, Y and Z, parted by blanks.")
+                                      : tr("Line %1, \"%2\", is no position: write X and Y, parted by blanks.");
+            problem = wrong.arg(number).arg(trimmed);
             return {};
         }
         positions.push_back(position);
@@ -101,7 +113,7 @@ ProbePositionsDialog::ProbePositionsDialog(QWidget& parent)
     m_impl->positions->setObjectName(QStringLiteral("probePositions_plainTextEdit"));
     m_impl->positions->setTabChangesFocus(true);
     m_impl->positions->setPlaceholderText(QStringLiteral("0.5 1.25 0\n0.75 1.25 0"));
-    auto* const label = new QLabel(tr("&Positions, one a line: X Y Z"), this);
+    auto* const label = new QLabel(tr("&Positions, one a line: X Y, in a 3D plot X Y Z"), this);
     label->setBuddy(m_impl->positions);
     m_impl->isInVolume = new QCheckBox(tr("Probe within &volume"), this);
     m_impl->isInVolume->setObjectName(QStringLiteral("probePositions_volume_checkBox"));
@@ -114,6 +126,7 @@ ProbePositionsDialog::ProbePositionsDialog(QWidget& parent)
     layout->addWidget(m_impl->isInVolume);
     layout->addWidget(buttonBox);
     resize(380, 320);
+    openBesidePlot();
     connect(buttonBox->button(QDialogButtonBox::Apply), &QPushButton::clicked, this, &ProbePositionsDialog::probe);
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("probe_history.html"), this));
 }
@@ -123,7 +136,8 @@ ProbePositionsDialog::~ProbePositionsDialog() = default;
 void ProbePositionsDialog::probe()
 {
     QString problem;
-    std::vector<Position> const positions = parse(m_impl->positions->toPlainText(), problem);
+    int const dimension = VtxUtilFrameGetPlotType() == PlotType_Cartesian3D ? 3 : 2;
+    std::vector<Position> const positions = parse(m_impl->positions->toPlainText(), dimension, problem);
     if (positions.empty()) {
         VtxUtilDialogErrMsg(problem.toUtf8().constData());
         return;

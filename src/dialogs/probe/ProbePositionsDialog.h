@@ -21,10 +21,11 @@ public:
     /// The one dialog of the process. The first call creates it as a child of the parent; it goes with the parent.
     static ProbePositionsDialog& getInstance(QWidget& parent);
 
-    /// Reads lines of two or three numbers parted by blanks, tabs, commas or semicolons; empty lines and lines that
-    /// begin with # are left out.
+    /// Reads lines of numbers parted by blanks, tabs, commas or semicolons; empty lines and lines that begin with # are
+    /// left out. A comma between digits does not part where something else does: it may be meant as a decimal point.
+    /// @param dimension  how many numbers a line has to have, 2 or 3
     /// @param problem  what is wrong with which line; the positions are then empty
-    static std::vector<Position> parse(QString const& text, QString& problem);
+    static std::vector<Position> parse(QString const& text, int dimension, QString& problem);
 
     ~ProbePositionsDialog() override;
 

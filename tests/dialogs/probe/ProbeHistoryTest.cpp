@@ -3,7 +3,9 @@
 #include "dialogs/probe/ProbeHistory.h"
 #include "dialogs/probe/ProbeHistoryDialog.h"
 #include "dialogs/probe/ProbePositionsDialog.h"
+#include "toolbox/Set.h"
 
+#include <QClipboard>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -69,6 +71,10 @@ TEST_F(ProbeHistoryTest, ProbesAreListedAndTwoOfThemCompared)
               "Distance: " + QString::asprintf("%.18g", std::hypot(3.0, 2.0, 0.0)).toStdString());
     auto& differences = table(dialog, "probeHistory_differences_tableWidget");
     ASSERT_EQ(differences.rowCount(), 2);
+    differences.setFocus();
+    QTest::keyClick(&differences, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(),
+                testing::MatchesRegex("Variable\tProbe [0-9]+\tProbe [0-9]+\tDifference\nX\t1\t4\t3\nY\t.*"));
     EXPECT_EQ(cell(differences, 0, 3), "3");
     EXPECT_EQ(cell(differences, 1, 3), "2");
     press(dialog, "probeHistory_remove_pushButton");
@@ -127,6 +133,27 @@ TEST_F(ProbeHistoryTest, ProbingAgainTakesTheDataOfNowAndLeavesTheLastProbe)
     EXPECT_EQ(history().record(0).values.at(QStringLiteral("Y")), 10.0);
 }
 
+TEST_F(ProbeHistoryTest, AProbeWhoseZoneIsGoneKeepsItsValuesAndIsCounted)
+{
+    open("fe2d");
+    ASSERT_TRUE(probeIndex(5, 1, 1, 1));
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    std::vector<std::map<QString, double>> const before = {history().record(0).values, history().record(1).values};
+    {
+        sdk::AppLock const lock;
+        toolbox::Set const first(std::set<int>{1});
+        ASSERT_TRUE(VtxUtilDataSetDeleteZone(first.handle()));
+    }
+    idle();
+    press(launch<ProbeHistoryDialog>(), "probeHistory_probeAgain_pushButton");
+    EXPECT_THAT(frontEnd.messages, testing::ElementsAre(testing::HasSubstr("1 of 2 probes were made again")));
+    EXPECT_EQ(history().record(0).values, before[0]);
+    EXPECT_EQ(history().record(1).values, before[1]);
+    EXPECT_EQ(text(0, ProbeHistory::ItemColumn), "Zone 1: Around the hole");
+    EXPECT_EQ(text(1, ProbeHistory::ItemColumn), "Zone 1: Far end") << "it only has another number";
+    EXPECT_EQ(VtxUtilProbeFieldGetPoint(), 7) << "the last probe is what it was";
+}
+
 TEST_F(ProbeHistoryTest, OldProbesAreDroppedButNotThePinnedOnes)
 {
     ASSERT_TRUE(probeIndex(1, 1, 1));
@@ -149,7 +176,7 @@ TEST_F(ProbeHistoryTest, TheTableIsExportedAndAFileThatCannotBeWrittenIsTold)
     QFile file(name);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     QString const text = QString::fromUtf8(file.readAll());
-    EXPECT_THAT(text.toStdString(), testing::StartsWith("Probe\tItem\tX\tY\tZ\t"));
+    EXPECT_THAT(text.toStdString(), testing::StartsWith("Probe\tItem\tPosition X\tPosition Y\tPosition Z\tX\tY\t"));
     EXPECT_EQ(text.count(u'\n'), 2);
     EXPECT_THAT(text.toStdString(), testing::HasSubstr("\t1\t2\t0\t"));
     EXPECT_THAT(dialog.exportTo(folder.filePath(QStringLiteral("missing/probes.txt"))).toStdString(),
@@ -160,16 +187,30 @@ TEST_F(ProbeHistoryTest, SeveralPositionsAreProbedAtOnce)
 {
     auto& dialog = launch<ProbePositionsDialog>();
     auto& positions = find<QPlainTextEdit>(dialog, "probePositions_plainTextEdit");
-    positions.setPlainText(QStringLiteral("# x y\n1 1\n2;1.5\t0\n\n4e0, 3, 0\n99 1\n"));
+    positions.setPlainText(QStringLiteral("# x y\n1 1\n2;1.5\n\n4e0, 3\n99,1\n"));
     click(dialog, QDialogButtonBox::Apply);
     ASSERT_EQ(history().rowCount(), 3);
     EXPECT_EQ(text(1, ProbeHistory::YColumn), "1.5");
     EXPECT_THAT(frontEnd.messages, testing::ElementsAre("1 of 4 positions are outside of the data."));
 
-    positions.setPlainText(QStringLiteral("1 1\n1,5;2 x\n"));
+    struct
+    {
+        char const* text;
+        char const* message;
+    } const wrong[] = {{"1 1\n1 x\n", "Line 2, \"1 x\", is no position: write X and Y,"},
+                       {"1 1 0", "is no position"},
+                       {"1,5 2", "comma within a number"},
+                       {"1,5;2", "comma within a number"}};
+    for (auto const& [text, message] : wrong) {
+        positions.setPlainText(QLatin1String(text));
+        click(dialog, QDialogButtonBox::Apply);
+        EXPECT_EQ(history().rowCount(), 3) << "a line that cannot be read keeps all from being probed";
+        EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr(message));
+    }
+    open("flow3d");
+    positions.setPlainText(QStringLiteral("1 1"));
     click(dialog, QDialogButtonBox::Apply);
-    EXPECT_EQ(history().rowCount(), 3) << "a line that cannot be read keeps all from being probed";
-    EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("Line 2, \"1,5;2 x\", is no position"));
+    EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("write X, Y and Z"));
     positions.setPlainText(QString());
     click(dialog, QDialogButtonBox::Apply);
     EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("There is no position"));
