@@ -180,6 +180,7 @@ void MainWindow::offerRecovery()
 
 void MainWindow::activateObject(PickObject_e type)
 {
+    m_statusLine->setText({}); // what was told of an earlier click
     if (type == PickObject_Text) {
         m_textPlacement->edit(VtxUtilPickListGetText(1));
     } else if (!sdk::ui::dialogs::launchDialogForPicked(type, *this)) {

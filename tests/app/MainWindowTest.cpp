@@ -22,6 +22,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QStatusBar>
 
 #include <QTextBrowser>
 
@@ -282,6 +283,17 @@ TEST_F(MainWindowTest, ATextIsPutWhereItIsClickedAndChangedByADoubleClick)
     ASSERT_TRUE(window.playMacro(path("text.macro")));
     EXPECT_EQ(kernel::Kernel::instance().texts().find(VtxUtilTextGetFirst())->text, "two\nlines");
     EXPECT_EQ(VtxUtilLockGetViolationCount(), 0);
+}
+
+TEST_F(MainWindowTest, WhatWasToldOfADoubleClickGoesWithTheNext)
+{
+    ASSERT_TRUE(window.openSample(u"fe2d"_s));
+    settle();
+    const auto* status = window.statusBar()->findChild<QLabel*>();
+    Q_EMIT window.workArea().objectActivated(PickObject_Zone);
+    EXPECT_EQ(status->text(), u"There is no dialog for what was clicked."_s);
+    Q_EMIT window.workArea().objectActivated(PickObject_Frame);
+    EXPECT_EQ(status->text(), QString());
 }
 
 TEST_F(MainWindowTest, TheSideBarOfALinePlotShowsAndNamesLineMaps)
