@@ -6,7 +6,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -41,10 +40,7 @@ void QLgIndexSpinBox::stepBy(int steps)
         return;
     }
     interpretText();
-    double next = value();
-    for (int step = 0; step < std::abs(steps); ++step) {
-        next = steps > 0 ? m_stepCalculator->increment(next) : m_stepCalculator->decrement(next);
-    }
+    double const next = m_stepCalculator->afterSteps(value(), steps);
     setValue(static_cast<int>(std::clamp<double>(next, minimum(), maximum())));
     selectAll();
 }

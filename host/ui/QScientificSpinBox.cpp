@@ -44,11 +44,7 @@ void QScientificSpinBox::stepBy(int steps)
         return;
     }
     interpretText();
-    double next = value();
-    for (int step = 0; step < std::abs(steps); ++step) {
-        next = steps > 0 ? m_stepCalculator->increment(next) : m_stepCalculator->decrement(next);
-    }
-    setValue(next);
+    setValue(m_stepCalculator->afterSteps(value(), steps));
     selectAll();
 }
 

@@ -13,18 +13,21 @@ SpinBoxIncDecCalculatorPercentage::SpinBoxIncDecCalculatorPercentage(double perc
 
 double SpinBoxIncDecCalculatorPercentage::increment(double current)
 {
-    return rounded(current + step(current));
+    return stepped(current, 1.0);
 }
 
 double SpinBoxIncDecCalculatorPercentage::decrement(double current)
 {
-    return rounded(current - step(current));
+    return stepped(current, -1.0);
 }
 
-double SpinBoxIncDecCalculatorPercentage::step(double current) const
+double SpinBoxIncDecCalculatorPercentage::stepped(double current, double direction) const
 {
     double const lastDecimal = std::pow(10.0, -m_decimals);
-    return deltaFactor() * std::max(std::abs(current) * m_percent / 100.0, lastDecimal);
+    for (int step = 0; step < deltaFactor(); ++step) {
+        current = rounded(current + direction * std::max(std::abs(current) * m_percent / 100.0, lastDecimal));
+    }
+    return current;
 }
 
 double SpinBoxIncDecCalculatorPercentage::rounded(double value) const

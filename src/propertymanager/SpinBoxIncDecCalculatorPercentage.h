@@ -5,7 +5,8 @@
 namespace vantrix::sdk::ui::propertymanager {
 
 /// Steps by a percentage of the value at hand, rounded to a number of decimals. A value so small that its step would
-/// round to nothing moves by one in the last decimal, so that a spin box never sticks, at 0 least of all.
+/// round to nothing moves by one in the last decimal, so that a spin box never sticks, at 0 least of all. Each of
+/// several steps is a percentage of the value that the one before gave.
 class SpinBoxIncDecCalculatorPercentage : public SpinBoxIncDecCalculatorBase
 {
 public:
@@ -17,7 +18,7 @@ public:
     double decrement(double current) override;
 
 private:
-    double step(double current) const;
+    double stepped(double current, double direction) const;
     double rounded(double value) const;
 
     double m_percent;

@@ -13,12 +13,12 @@ SpinBoxIncDecCalculatorWholeNumberRange::SpinBoxIncDecCalculatorWholeNumberRange
 
 double SpinBoxIncDecCalculatorWholeNumberRange::increment(double current)
 {
-    return std::clamp<double>(std::floor(current + delta() * deltaFactor()), m_minimum, m_maximum);
+    return std::clamp<double>(std::floor(current + delta()), m_minimum, m_maximum);
 }
 
 double SpinBoxIncDecCalculatorWholeNumberRange::decrement(double current)
 {
-    return std::clamp<double>(std::ceil(current - delta() * deltaFactor()), m_minimum, m_maximum);
+    return std::clamp<double>(std::ceil(current - delta()), m_minimum, m_maximum);
 }
 
 } // namespace vantrix::sdk::ui::propertymanager

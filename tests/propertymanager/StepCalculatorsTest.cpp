@@ -91,3 +91,23 @@ TEST_F(StepCalculators, PercentagesNeverStickAndWholeNumbersStayInTheirRange)
     EXPECT_EQ(1, range.decrement(2));
     EXPECT_EQ(5, range.increment(2.5));
 }
+
+TEST_F(StepCalculators, SeveralStepsAtOnceGoAsFarAsOneByOne)
+{
+    SpinBoxIncDecCalculatorBase fixed(2.5);
+    SpinBoxIncDecCalculatorPercentage percent(10.0, 2);
+    SpinBoxIncDecCalculatorWholeNumberRange range(-20, 50, 3);
+    for (SpinBoxIncDecCalculatorBase* const calculator : {&fixed, static_cast<SpinBoxIncDecCalculatorBase*>(&percent),
+                                                          static_cast<SpinBoxIncDecCalculatorBase*>(&range)}) {
+        double up = 7.0;
+        double down = 7.0;
+        for (int step = 0; step < 10; ++step) {
+            up = calculator->increment(up);
+            down = calculator->decrement(down);
+        }
+        EXPECT_DOUBLE_EQ(up, calculator->afterSteps(7.0, 10));
+        EXPECT_DOUBLE_EQ(down, calculator->afterSteps(7.0, -10));
+        EXPECT_EQ(7.0, calculator->afterSteps(7.0, 0));
+        EXPECT_EQ(1, calculator->deltaFactor()) << "the next input starts anew";
+    }
+}

@@ -117,6 +117,19 @@ TEST(SpinBoxDoubleBinding, StepsAsTheCalculatorSays)
     EXPECT_EQ(bound.property->value(), 5.0);
 }
 
+TEST(SpinBoxDoubleBinding, APageKeyIsOneInputOfTenSteps)
+{
+    Bound<QScientificSpinBox, double> bound(1.0, 0.0, 100.0);
+    SpinBoxDoublePropertyBinding const binding(
+        &bound.box, bound.property, BindingInterface::Immediate,
+        boost::make_shared<sdk::ui::propertymanager::SpinBoxIncDecCalculatorBase>(0.5));
+    QTest::keyClick(&bound.box, Qt::Key_PageUp);
+    EXPECT_EQ(bound.property->value(), 6.0);
+    EXPECT_EQ(bound.changes, 1);
+    QTest::keyClick(&bound.box, Qt::Key_Down);
+    EXPECT_EQ(bound.property->value(), 5.5);
+}
+
 TEST(SpinBoxIntBinding, StepsAndTakesWholeNumbers)
 {
     Bound<IntegerSpinBox, int> bound(3, 1, 5000);

@@ -14,14 +14,21 @@ AxisRangeSpinBoxIncDecCalculator::AxisRangeSpinBoxIncDecCalculator(
 
 double AxisRangeSpinBoxIncDecCalculator::increment(double current)
 {
-    return VtxUtilAxisGetNextRangeValue(m_properties.axisChar(), m_properties.axisNum(), current, true,
-                                        m_autoAdjustToNiceValues.value());
+    return stepped(current, true);
 }
 
 double AxisRangeSpinBoxIncDecCalculator::decrement(double current)
 {
-    return VtxUtilAxisGetNextRangeValue(m_properties.axisChar(), m_properties.axisNum(), current, false,
-                                        m_autoAdjustToNiceValues.value());
+    return stepped(current, false);
+}
+
+double AxisRangeSpinBoxIncDecCalculator::stepped(double current, bool up) const
+{
+    for (int step = 0; step < deltaFactor(); ++step) {
+        current = VtxUtilAxisGetNextRangeValue(m_properties.axisChar(), m_properties.axisNum(), current, up,
+                                               m_autoAdjustToNiceValues.value());
+    }
+    return current;
 }
 
 } // namespace vantrix::sdk::ui::propertymanager

@@ -7,7 +7,8 @@ namespace vantrix::sdk::ui::propertymanager {
 
 class AxisEditProperties;
 
-/// Steps an end of the range of the axis that is being edited. The host decides what the next value is.
+/// Steps an end of the range of the axis that is being edited. The host decides what the next value is, at each of
+/// several steps anew.
 class AxisRangeSpinBoxIncDecCalculator : public SpinBoxIncDecCalculatorBase
 {
 public:
@@ -19,6 +20,8 @@ public:
     double decrement(double current) override;
 
 private:
+    double stepped(double current, bool up) const;
+
     AxisEditProperties const& m_properties;
     UIStylePropertyAbstract<bool> const& m_autoAdjustToNiceValues;
 };
