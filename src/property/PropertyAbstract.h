@@ -42,7 +42,8 @@ public:
     /// start to watch their source here; does nothing in this class.
     virtual void signalValueChangedConnected() const;
 
-    /// Writes into the storage, without validation and without a signal. Use setValue().
+    /// Writes into the storage, without validation; a signal is sent only where the storage is another property, which
+    /// sends its own. Use setValue().
     virtual void storeValue(T const& value) = 0;
 
     /// Exact comparison with the current value: no tolerance, and NaN equals nothing.
@@ -58,7 +59,8 @@ public:
     virtual void emitValueChangedSignal(T const& value) const;
 
     /// Validates, and unless the property has that value already, stores it and signals once with what the storage
-    /// then holds (which may differ from what it was given).
+    /// then holds (which may differ from what it was given). A storage that signals for itself, such as one that relays
+    /// another property, has signalled.
     /// @throws InvalidPropertyValueException; nothing was stored and nothing is signalled
     void setValue(T const& value);
 
@@ -138,8 +140,12 @@ void PropertyAbstract<T>::setValue(T const& value)
     if (isEqual(value)) {
         return;
     }
+    unsigned long const emissions = m_valueChanged.emissionCount();
     storeValue(value);
-    emitValueChangedSignal(retrieveValue());
+    T const stored = retrieveValue();
+    if (m_valueChanged.emissionCount() == emissions) {
+        emitValueChangedSignal(stored);
+    }
 }
 
 template<typename T>

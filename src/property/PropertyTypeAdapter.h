@@ -28,12 +28,7 @@ public:
 
     ~PropertyTypeAdapter() override = default;
 
-    void storeValue(Outer const& value) override
-    {
-        // setValue() signals for itself; without the block the source's echo would be a second signal.
-        boost::signals2::shared_connection_block const block(m_sourceConnection);
-        m_source->setValue(m_toSource(value));
-    }
+    void storeValue(Outer const& value) override { m_source->setValue(m_toSource(value)); }
 
     Outer retrieveValue() const override { return m_toOuter(m_source->value()); }
 

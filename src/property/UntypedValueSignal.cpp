@@ -20,6 +20,7 @@ void UntypedValueSignal::disconnect(SlotEqualTo const& slot)
 
 void UntypedValueSignal::emit(void const* value) const
 {
+    ++m_emissions;
     m_signal(value);
 }
 

@@ -18,8 +18,10 @@ public:
     void disconnect(SlotEqualTo const& slot);
     void emit(void const* value) const;
     std::size_t slotCount() const;
+    unsigned long emissionCount() const { return m_emissions; }
 
 private:
+    mutable unsigned long m_emissions = 0;
     boost::signals2::signal<void(void const*)> m_signal;
 };
 

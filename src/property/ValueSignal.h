@@ -27,6 +27,9 @@ public:
 
     std::size_t slotCount() const { return m_signal.slotCount(); }
 
+    /// How often the signal was sent, whether anybody listened or not.
+    unsigned long emissionCount() const { return m_signal.emissionCount(); }
+
 private:
     template<typename Slot>
     struct TypedSlot

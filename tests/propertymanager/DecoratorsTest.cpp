@@ -21,12 +21,15 @@ TEST(SurfaceTranslucencyDecorator, LeavesTheCheckToTheWrappedPropertyAndSignalsO
     UILocalStyleProperty<int> percent(boost::make_shared<BoundedValueValidator<int>>(1, 99), 50);
     SurfaceTranslucencyDecorator decorator(percent);
     std::vector<int> heard;
+    std::vector<int> heardOfDecorator;
     percent.connectToValueChangedSignal([&](int value) { heard.push_back(value); });
+    decorator.connectToValueChangedSignal([&](int value) { heardOfDecorator.push_back(value); });
     decorator.setValue(70);
     EXPECT_EQ(70, percent.value());
     EXPECT_THROW(decorator.setValue(100), InvalidPropertyValueException);
     EXPECT_EQ(70, decorator.value());
     EXPECT_THAT(heard, ElementsAre(70));
+    EXPECT_THAT(heardOfDecorator, ElementsAre(70));
 }
 
 TEST(FloodColoringPropertyProxy, RefusesRGBOnlyWhereNeitherHostNorPlotTypeAllowsIt)
@@ -53,10 +56,14 @@ TEST(FloodColoringPropertyProxy, RefusesRGBOnlyWhereNeitherHostNorPlotTypeAllows
     proxy.connectToValueChangedSignal([&](ContourColoring_e value) { announced.push_back(value); });
     proxy.storeValue(ContourColoring_RGB);
     EXPECT_THAT(announced, ElementsAre(ContourColoring_Group3)) << "the widget has to show the old value again";
+    proxy.setValue(ContourColoring_RGB);
+    EXPECT_THAT(announced, ElementsAre(ContourColoring_Group3, ContourColoring_Group3)) << "once more, not twice";
 
     plotTypeAllows = true;
+    announced.clear();
     proxy.setValue(ContourColoring_RGB);
     EXPECT_EQ(ContourColoring_RGB, coloring.value());
+    EXPECT_THAT(announced, ElementsAre(ContourColoring_RGB));
 
     coloring.setValue(ContourColoring_Group1);
     plotTypeAllows = false;

@@ -6,8 +6,6 @@
 using namespace vantrix;
 using namespace vantrix::sdk::ui::propertymanager;
 using test::RecordingHost;
-using testing::Contains;
-using testing::Each;
 using testing::IsEmpty;
 
 namespace {
@@ -73,7 +71,7 @@ TEST_F(UIKernelStylePropertyTest, WritesThroughAtOnceAndThrowsWhatTheHostSays)
     property.setValue(9);
     EXPECT_EQ(std::get<long>(host.get({"Count"})), 9);
     EXPECT_EQ(host.writes, 1);
-    EXPECT_THAT(heard, testing::AllOf(Contains(9), Each(9)));
+    EXPECT_THAT(heard, testing::ElementsAre(9));
 
     heard.clear();
     host.nextWriteCode = SetValueReturnCode_OutOfRange;

@@ -5,9 +5,6 @@
 #include <gmock/gmock.h>
 
 using namespace vantrix::sdk::ui::propertymanager;
-using testing::Each;
-using testing::IsEmpty;
-using testing::Not;
 using vantrix::test::FlagRelevance;
 
 namespace {
@@ -40,7 +37,7 @@ TEST_F(UIStylePropertyDecoratorTest, ShowsTheWrappedValueInItsOwnForm)
     heard.clear();
     sign.setValue(true);
     EXPECT_EQ(number.value(), 1);
-    EXPECT_THAT(heard, testing::AllOf(Not(IsEmpty()), Each(true)));
+    EXPECT_THAT(heard, testing::ElementsAre(true));
 }
 
 TEST_F(UIStylePropertyDecoratorTest, HasTheVisibleAndSensitiveStateOfTheWrappedProperty)

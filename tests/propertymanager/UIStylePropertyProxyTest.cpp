@@ -72,6 +72,7 @@ TEST_F(UIStylePropertyProxyTest, StoresInTheTargetUnlessItHasTheValue)
     EXPECT_EQ(first.value(), 3.0);
     EXPECT_EQ(first.stores, 1);
     EXPECT_THAT(heardByTarget, ElementsAre(3.0));
+    EXPECT_THAT(heard, ElementsAre(3.0));
     proxy.setValue(std::numeric_limits<double>::quiet_NaN());
     proxy.setValue(std::numeric_limits<double>::quiet_NaN());
     EXPECT_EQ(first.stores, 3);
