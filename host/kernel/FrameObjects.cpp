@@ -110,6 +110,24 @@ bool FrameObjects<Object>::change(Object object)
 }
 
 template<class Object>
+void FrameObjects<Object>::changeAll(Frame& frame, const std::function<void(Object&)>& edit)
+{
+    List objects = frame.objects<Object>();
+    std::set<long> changed;
+    for (auto& object : objects) {
+        Object edited = *object;
+        edit(edited);
+        if (edited != *object) {
+            changed.insert(object->handle);
+            object = std::make_shared<const Object>(std::move(edited));
+        }
+    }
+    if (!changed.empty()) {
+        replace(frame, std::move(objects), changed.size() == 1 ? *changed.begin() : 0);
+    }
+}
+
+template<class Object>
 bool FrameObjects<Object>::remove(long handle)
 {
     Frame* frame = frameOf(handle);

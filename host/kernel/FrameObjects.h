@@ -4,6 +4,7 @@
 #include "kernel/Streamtrace.h"
 #include "kernel/Text.h"
 
+#include <functional>
 #include <memory>
 #include <set>
 #include <vector>
@@ -32,6 +33,9 @@ public:
 
     /* Swaps in another state of the object with the same handle. False when there is no such object. */
     bool change(Object object);
+
+    /* Lets `edit` change each object of a frame but not its handle. */
+    void changeAll(Frame& frame, const std::function<void(Object&)>& edit);
 
     bool remove(long handle);
 

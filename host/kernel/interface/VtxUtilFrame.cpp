@@ -1,6 +1,7 @@
 #include "api/VtxUtilFrame.h"
 
 #include "kernel/Document.h"
+#include "kernel/ForegroundColors.h"
 #include "kernel/FrontEnd.h"
 #include "kernel/MouseModes.h"
 #include "kernel/PaperSizes.h"
@@ -73,7 +74,8 @@ SetValueReturnCode_e VtxUtilFrameSetBackgroundColor(long color)
         if (code == SetValueReturnCode_Ok) {
             constexpr long black = 0;
             constexpr long white = 7;
-            style().replaceForegroundColors(document().activeFrame()->id(), color, color == black ? white : black);
+            replaceForegroundColors(Kernel::instance(), *Kernel::instance().document().activeFrame(), color,
+                                    color == black ? white : black);
         }
         return code;
     };
