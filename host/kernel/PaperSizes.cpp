@@ -9,6 +9,8 @@ namespace vantrix::kernel {
 
 namespace {
 
+constexpr double millimetresPerInch = 25.4;
+
 PaperDimensions upright(const StyleStore& style, long pageId, PaperSize_e size)
 {
     switch (size) {
@@ -17,9 +19,9 @@ PaperDimensions upright(const StyleStore& style, long pageId, PaperSize_e size)
     case PaperSize_Double:
         return {11.0, 17.0};
     case PaperSize_A4:
-        return {8.27, 11.69};
+        return {210.0 / millimetresPerInch, 297.0 / millimetresPerInch};
     case PaperSize_A3:
-        return {11.69, 16.54};
+        return {297.0 / millimetresPerInch, 420.0 / millimetresPerInch};
     case PaperSize_Custom1:
         return {style.real(pageId, style.entry("Paper/Custom1/Width")),
                 style.real(pageId, style.entry("Paper/Custom1/Height"))};

@@ -112,8 +112,8 @@ TEST_F(DocumentTest, PaperHasItsSizeInItsOrientation)
     };
     set("Paper/Custom2/Width", 3.0);
     for (const Case& one : {Case{PaperSize_Letter, true, 8.5, 11}, Case{PaperSize_Double, false, 17, 11},
-                            Case{PaperSize_A4, true, 8.27, 11.69}, Case{PaperSize_A3, false, 16.54, 11.69},
-                            Case{PaperSize_Custom2, true, 3, 14}}) {
+                            Case{PaperSize_A4, true, 210 / 25.4, 297 / 25.4},
+                            Case{PaperSize_A3, false, 420 / 25.4, 297 / 25.4}, Case{PaperSize_Custom2, true, 3, 14}}) {
         double width = 0;
         double height = 0;
         ASSERT_TRUE(VtxUtilPaperGetDimensionsBySize(one.size, one.portrait, &width, &height));

@@ -41,8 +41,8 @@ TEST_F(PaperSetupDialogTest, EachSizeShowsItsDimensionsBeforeItIsSet)
     };
     for (Case const& each : {Case{"paper_SizeLetter_RadioButton", "8.5 x 11", "11 x 8.5"},
                              Case{"paper_SizeDouble_RadioButton", "11 x 17", "17 x 11"},
-                             Case{"paper_SizeA4_RadioButton", "8.27 x 11.69", "11.69 x 8.27"},
-                             Case{"paper_SizeA3_RadioButton", "11.69 x 16.54", "16.54 x 11.69"},
+                             Case{"paper_SizeA4_RadioButton", "8.26772 x 11.6929", "11.6929 x 8.26772"},
+                             Case{"paper_SizeA3_RadioButton", "11.6929 x 16.5354", "16.5354 x 11.6929"},
                              Case{"paper_SizeCustom1_RadioButton", "8.5 x 14", "14 x 8.5"},
                              Case{"paper_SizeCustom2_RadioButton", "8.5 x 14", "14 x 8.5"}}) {
         click(dialog, each.button);
@@ -70,6 +70,9 @@ TEST_F(PaperSetupDialogTest, DimensionsAreInTheUnitsOfTheRulerAndTheTitleTellsWh
         EXPECT_EQ(title(dialog), each.title) << each.spacing;
         EXPECT_EQ(dimensions(dialog), each.dimensions) << each.spacing;
     }
+    setRuler(1);
+    click(dialog, "paper_SizeA4_RadioButton");
+    EXPECT_EQ(dimensions(dialog), "29.7 x 21");
 }
 
 TEST_F(PaperSetupDialogTest, TheFillColorIsForPaperThatIsShownOrPrinted)
