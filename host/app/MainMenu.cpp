@@ -45,6 +45,7 @@ MainMenu::MainMenu(MainWindow& window, const Parts& parts)
     addViewMenu(parts.mouseModes);
     addPlotMenus();
     addDialogs();
+    addExit();
     new MacroMenu(menu(tr("&Macro")), m_window);
     addHelpMenu();
 }
@@ -103,6 +104,12 @@ void MainMenu::addFileMenu(RecentFiles& recentFiles)
     image->setShortcut(Qt::CTRL | Qt::Key_E);
     m_standardActions << image;
     file->addAction(tr("Export &PDF..."), &m_window, &MainWindow::exportPdf);
+    file->addSeparator(); // the dialogs of this menu follow
+}
+
+void MainMenu::addExit()
+{
+    QMenu* file = menu(tr("&File"));
     file->addSeparator();
     QAction* quit = file->addAction(m_window.style()->standardIcon(QStyle::SP_DialogCloseButton), tr("E&xit"),
                                     &m_window, &QWidget::close);

@@ -41,6 +41,7 @@ private:
     void addViewMenu(const MouseModeBar& mouseModes);
     void addPlotMenus();
     void addDialogs();
+    void addExit();
     void addHelpMenu();
 
     MainWindow& m_window;

@@ -78,8 +78,8 @@ DialogEntry entry(char const* menuPath, char const* name)
 std::vector<DialogEntry> const& dialogRegistry()
 {
     static std::vector<DialogEntry> const entries = {
-        entry<PaperSetupDialog>("&File/Paper &Setup...", "paper_setup"),
-        entry<PrintRenderOptsDialog>("&File/Print Render O&ptions...", "print_render_options"),
+        entry<PaperSetupDialog>("&File/Paper Set&up...", "paper_setup"),
+        entry<PrintRenderOptsDialog>("&File/Print Render Op&tions...", "print_render_options"),
         entry<CreateCircularZoneDialog>("&Data/&Create Zone/&Circular...", "create_zone_circular"),
         entry<CreateRectangularZoneDialog>("&Data/&Create Zone/&Rectangular...", "create_zone_rectangular"),
         entry<DeleteZoneDialog>("&Data/&Delete Zone...", "delete_zone"),

@@ -27,6 +27,7 @@
 #include <QTextBrowser>
 
 #include <functional>
+#include <map>
 #include <utility>
 
 namespace vantrix::test {
@@ -111,6 +112,23 @@ protected:
 
     app::MainWindow window;
 };
+
+TEST_F(MainWindowTest, ExitEndsTheFileMenuAndNoTwoEntriesOfAMenuShareAKey)
+{
+    QList<QMenu*> menus = window.menuBar()->findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
+    ASSERT_GT(menus.size(), 8);
+    EXPECT_EQ(plainText(*menus.first()->actions().last()), u"Exit"_s);
+    for (const QMenu* menu : menus) {
+        std::map<QKeySequence, QString> keys;
+        for (const QAction* action : menu->actions()) {
+            const QKeySequence key = QKeySequence::mnemonic(action->text());
+            if (!key.isEmpty() && action->isVisible()) {
+                const auto [other, isNew] = keys.emplace(key, action->text());
+                EXPECT_TRUE(isNew) << action->text().toStdString() << " / " << other->second.toStdString();
+            }
+        }
+    }
+}
 
 TEST_F(MainWindowTest, ACircularZoneIsCreatedUndoneAndRedoneThroughTheMenus)
 {
