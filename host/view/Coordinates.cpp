@@ -17,7 +17,7 @@ QString name(const AxisStyle& axis, const char* otherwise)
 
 } // namespace
 
-QString coordinatesText(const FramePlot* plot, QPointF inFrame, QPointF onPaper)
+QString coordinatesText(const FramePlot* plot, QPointF inFrame, QPointF onPaper, const PaperSpacing& ruler)
 {
     if (plot) {
         if (const auto data = plot->dataAt(inFrame)) {
@@ -26,8 +26,9 @@ QString coordinatesText(const FramePlot* plot, QPointF inFrame, QPointF onPaper)
                      name(plot->style.axes[1], plot->polar ? "R" : "Y"), number(data->y(), 6));
         }
     }
-    return QStringLiteral("Paper: %1, %2 in")
-        .arg(QString::number(onPaper.x(), 'f', 2), QString::number(onPaper.y(), 'f', 2));
+    const auto inUnits = [&](double inches) { return QString::number(inches * ruler.unitsPerInch, 'f', 2); };
+    return QStringLiteral("Paper: %1, %2 %3")
+        .arg(inUnits(onPaper.x()), inUnits(onPaper.y()), QString::fromLatin1(ruler.unit));
 }
 
 } // namespace vantrix::view

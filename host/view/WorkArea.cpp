@@ -307,7 +307,9 @@ void WorkArea::mouseMoveEvent(QMouseEvent* event)
     const kernel::Frame* frame = id ? context.kernel.document().frameById(id) : nullptr;
     const FramePlot* plot = frame ? context.renderer.plot(id) : nullptr;
     const QPointF inFrame = frame ? toPaper(place) - context.renderer.frameRect(*frame).topLeft() : QPointF();
-    Q_EMIT coordinatesChanged(coordinatesText(plot, inFrame, toPaper(place)));
+    const PaperSpacing ruler =
+        PaperSpacing::of(context.page() ? m_impl->paperStyle(*context.page()).rulerSpacing : PaperStyle().rulerSpacing);
+    Q_EMIT coordinatesChanged(coordinatesText(plot, inFrame, toPaper(place), ruler));
 }
 
 void WorkArea::mouseReleaseEvent(QMouseEvent* event)

@@ -107,7 +107,17 @@ TEST(WorkArea, TellsWhereThePointerIs)
     EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("X = ")))
         << spy.last().at(0).toString().toStdString();
     test::moveMouse(shown.area, QPointF(3, 3));
-    EXPECT_TRUE(spy.last().at(0).toString().startsWith(QStringLiteral("Paper: ")));
+    const QPointF onPaper = shown.area.toPaper(QPointF(3, 3));
+    const auto text = [&](double unitsPerInch, const char* unit) {
+        return QStringLiteral("Paper: %1, %2 %3")
+            .arg(QString::number(onPaper.x() * unitsPerInch, 'f', 2),
+                 QString::number(onPaper.y() * unitsPerInch, 'f', 2), QString::fromLatin1(unit));
+    };
+    EXPECT_EQ(spy.last().at(0).toString(), text(1.0, "in"));
+    sample.set("Paper/RulerSpacing", long{PaperUnitSpacing_OneCentimeter});
+    test::moveMouse(shown.area, QPointF(4, 4));
+    test::moveMouse(shown.area, QPointF(3, 3));
+    EXPECT_EQ(spy.last().at(0).toString(), text(2.54, "cm")) << "as the rulers count";
 }
 
 TEST(WorkArea, MakesTheFrameThatIsClickedActiveAndTellsThePlaceOfATextInIt)
