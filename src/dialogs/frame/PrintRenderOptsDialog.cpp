@@ -31,8 +31,6 @@ PrintRenderOptsDialog::Impl::Impl(PrintRenderOptsDialog& dialog)
     bindings.bindChoice(form.printRender_Color_RadioButton, set.getColor(), Palette_Color);
     bindings.bindChoice(form.printRender_Monochrome_RadioButton, set.getColor(), Palette_Monochrome);
     bindings.bindCheck(form.printRender_Force3DSorting_ToggleButton, set.getForceExtra3DSorting());
-
-    bindings.apply(manager.vectorRelevance(), {form.printRender_Force3DSorting_ToggleButton});
 }
 
 PrintRenderOptsDialog& PrintRenderOptsDialog::getInstance(QWidget& parent)

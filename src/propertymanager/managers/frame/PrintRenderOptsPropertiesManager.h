@@ -1,6 +1,5 @@
 #pragma once
 
-#include "propertymanager/RelevanceInterface.h"
 #include "propertymanager/generated/PrintRenderOptsPropertiesGenerated.h"
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -9,14 +8,9 @@ namespace vantrix::sdk::ui::propertymanager {
 class PrintRenderOptsPropertiesManager
 {
 public:
-    using Relevance = boost::shared_ptr<RelevanceInterface const>;
-
     PrintRenderOptsPropertiesManager();
 
     PrintRenderOptsPropertiesGenerated& properties() { return m_properties; }
-
-    /// Holds while lines and areas are printed as such.
-    Relevance vectorRelevance() const { return m_vectorRelevance; }
 
     /// Takes the host's present values.
     void init() { m_properties.init(); }
@@ -26,7 +20,6 @@ public:
 
 private:
     PrintRenderOptsPropertiesGenerated m_properties;
-    Relevance m_vectorRelevance;
 };
 
 } // namespace vantrix::sdk::ui::propertymanager
