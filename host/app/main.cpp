@@ -1,8 +1,10 @@
 #include "app/BatchRun.h"
 #include "app/CommandLine.h"
 #include "app/MainWindow.h"
+#include "app/ProgramSettings.h"
 #include "app/VirtualDisplay.h"
 #include "kernel/Kernel.h"
+#include "kernel/StyleStore.h"
 
 #include <QApplication>
 
@@ -51,7 +53,9 @@ int runWindow(const CommandLine& commandLine, int argc, char** argv)
                     "use --batch with --export to make a picture without one."_s);
     }
     const QApplication application(argc, argv);
-    vantrix::app::MainWindow window(vantrix::kernel::Kernel::instance());
+    vantrix::kernel::Kernel& kernel = vantrix::kernel::Kernel::instance();
+    vantrix::app::ProgramSettings::read(kernel.style());
+    vantrix::app::MainWindow window(kernel);
     window.show();
     if (!commandLine.sample.isEmpty()) {
         window.openSample(commandLine.sample);
@@ -63,7 +67,9 @@ int runWindow(const CommandLine& commandLine, int argc, char** argv)
         window.playMacro(commandLine.macro);
     }
     window.offerRecovery();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    vantrix::app::ProgramSettings::write(kernel.style());
+    return status;
 }
 
 } // namespace

@@ -3,10 +3,13 @@
 #include "api/VtxUtil.h"
 #include "app/GrayDevice.h"
 #include "app/PictureExport.h"
+#include "app/ProgramSettings.h"
 #include "app/ProgressBar.h"
 #include "app/ToolTipFilter.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
+#include "kernel/Layout.h"
+#include "kernel/StyleStore.h"
 #include "sdk/AppLock.h"
 #include "sdk/OnIdleActionPerformerSingleShot.h"
 #include "toolbox/StyleValue.h"
@@ -18,7 +21,10 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QProgressBar>
+#include <QSettings>
 #include <QTemporaryDir>
+#include <QThread>
 
 using namespace vantrix;
 
@@ -59,6 +65,57 @@ TEST_F(SettingsTest, TheStatusLineShowsWhatTheStyleSays)
     sdk::OnIdleActionPerformerSingleShot::performPending();
     EXPECT_TRUE(line.isVisible());
     EXPECT_TRUE(coordinates->isVisible());
+}
+
+TEST_F(SettingsTest, StyleOfTheProgramIsThereAgainInTheNextSession)
+{
+    const QTemporaryDir folder;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+    kernel::Kernel& kernel = kernel::Kernel::instance();
+    setStyle({"Interface", "UseDisplayLists"}, false);
+    setStyle({"Interface", "PercentageOfPointsToKeep"}, 12.5);
+    setStyle({"Paper", "ShowGrid"}, false);
+    app::ProgramSettings::write(kernel.style());
+    QSettings().setValue(QStringLiteral("ProgramStyle/Interface/MaxRenderTimeBeforeApprox"), -1.0);
+    QSettings().setValue(QStringLiteral("ProgramStyle/Interface/NoSuchSetting"), 1);
+    QSettings().setValue(QStringLiteral("ProgramStyle/Paper/ShowRuler"), 0);
+
+    kernel.reset();
+    app::ProgramSettings::read(kernel.style());
+    const auto value = [&](const char* path) {
+        kernel::StyleData found;
+        EXPECT_EQ(kernel.style().get(kernel.style().entry(path), -1, -1, found), GetValueReturnCode_Ok) << path;
+        return found;
+    };
+    EXPECT_EQ(value("Interface/UseDisplayLists"), kernel::StyleData(0L));
+    EXPECT_EQ(value("Interface/PercentageOfPointsToKeep"), kernel::StyleData(12.5));
+    EXPECT_EQ(value("Interface/MaxRenderTimeBeforeApprox"), kernel::StyleData(0.25)) << "out of range";
+    EXPECT_EQ(value("Paper/ShowGrid"), kernel::StyleData(1L)) << "style of a page";
+    EXPECT_EQ(value("Paper/ShowRuler"), kernel::StyleData(1L));
+    EXPECT_FALSE(VtxUtilUndo());
+    EXPECT_FALSE(kernel.layout().isModified());
+
+    kernel.reset();
+    app::ProgramSettings::write(kernel.style());
+    app::ProgramSettings::read(kernel.style());
+    EXPECT_EQ(value("Interface/UseDisplayLists"), kernel::StyleData(1L)) << "a default is kept as well";
+}
+
+TEST_F(SettingsTest, LongWorkIsToldInTheStatusLineUnlessItIsToBeQuiet)
+{
+    app::StatusLine line(nullptr);
+    line.show();
+    const auto* bar = line.findChild<QProgressBar*>();
+    ASSERT_TRUE(bar);
+    for (const bool told : {true, false, true}) {
+        setStyle({"Interface", "ShowContinuousStatus"}, told);
+        line.progressBar().report(QStringLiteral("Working"), 0.0);
+        QThread::msleep(400); // short work is not told
+        line.progressBar().report(QStringLiteral("Working"), 0.5);
+        EXPECT_EQ(bar->isVisible(), told);
+        line.progressBar().report(QStringLiteral("Working"), 1.1);
+        EXPECT_FALSE(bar->isVisible());
+    }
 }
 
 TEST_F(SettingsTest, PicturesHaveThePapersColorOnlyWhereItIsPrinted)
