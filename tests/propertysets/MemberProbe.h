@@ -18,6 +18,8 @@ public:
     virtual bool change() = 0;
     /// Sets another value without asking the host whether it would accept it; only for a deferred member.
     virtual void edit() = 0;
+    /// Sets the value of a probe of the same type.
+    virtual void take(MemberProbe const& other) = 0;
     virtual void restore() = 0;
     virtual bool isAsAtFirst() const = 0;
     /// Whether the other probe is of the same type and value.
@@ -47,6 +49,10 @@ public:
     }
 
     void edit() override { m_property->setValue(static_cast<T>(otherValues().front())); }
+    void take(MemberProbe const& other) override
+    {
+        m_property->setValue(dynamic_cast<MemberProbeOf const&>(other).m_property->value());
+    }
     void restore() override { m_property->setValue(m_first); }
     bool isAsAtFirst() const override { return m_property->value() == m_first; }
 

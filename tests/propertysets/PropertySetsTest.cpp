@@ -98,6 +98,52 @@ TEST(PropertySets, EveryMemberOfAModalSetKeepsItsEditFromTheHostAndDropsItOnInit
     }
 }
 
+TEST(PropertySets, EveryMemberOfAModalSetReachesTheHostWithTheSubmit)
+{
+    std::vector<SetProbe> const edited = allSets(true);
+    std::vector<SetProbe> const host = allSets(false);
+    for (std::size_t set = 0; set < edited.size(); ++set) {
+        for (std::size_t member = 0; member < edited[set].members.size(); ++member) {
+            MemberProbe& edit = *edited[set].members[member].probe;
+            MemberProbe& there = *host[set].members[member].probe;
+            SCOPED_TRACE(edited[set].members[member].path);
+            {
+                AppLock const lock;
+                ASSERT_TRUE(there.change());
+                edit.take(there);
+                there.restore();
+            }
+            edited[set].set->submit();
+            EXPECT_TRUE(there.agreesWith(edit)) << "the submit left it out";
+            EXPECT_FALSE(there.isAsAtFirst());
+            {
+                AppLock const lock;
+                there.restore();
+            }
+            edited[set].set->init();
+            EXPECT_TRUE(edit.isAsAtFirst());
+        }
+    }
+}
+
+TEST(PropertySets, OfPathsThatTheHostDoesNotKnowRefuseEveryEdit)
+{
+    AppLock const lock;
+    OptionsRulerGridPropertiesGenerated modeless(false, {"NoSuchNode"});
+    EXPECT_FALSE(modeless.showGrid()->value());
+    EXPECT_THROW(modeless.showGrid()->setValue(true), InvalidPropertyValueException);
+    EXPECT_FALSE(modeless.showGrid()->value());
+
+    OptionsRulerGridPropertiesGenerated modal(true, {"NoSuchNode"});
+    modal.showGrid()->setValue(true);
+    try {
+        modal.submit();
+        FAIL() << "the host has no such value";
+    } catch (InvalidPropertyValueException const& exception) {
+        EXPECT_NE(exception.message().find("NoSuchNode"), std::string::npos) << exception.message();
+    }
+}
+
 namespace {
 
 /// Tells of each member whether it has a visible and a sensitive state of its own.

@@ -51,6 +51,18 @@ class WrittenFiles(unittest.TestCase):
 
 
 class PropertySets(unittest.TestCase):
+    maxDiff = None
+
+    def test_headers_and_sources_are_the_golden_ones(self):
+        with tempfile.TemporaryDirectory() as folder:
+            output = Path(folder) / "sets"
+            result = run("sets", HERE / "style", output)
+            self.assertEqual(result.returncode, 0, result.stderr)
+            golden = HERE / "golden" / "sets"
+            self.assertEqual(sorted(file.name for file in output.iterdir()), sorted(file.name for file in golden.iterdir()))
+            for file in golden.iterdir():
+                self.assertEqual((output / file.name).read_text(), file.read_text(), file.name)
+
     def test_a_set_derives_from_that_of_its_nodes_base_and_narrows_its_nested_sets(self):
         with tempfile.TemporaryDirectory() as folder:
             output = Path(folder) / "sets"
