@@ -1,5 +1,6 @@
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
+#include "kernel/FrameObjects.h"
 #include "kernel/Kernel.h"
 #include "view/FramePlot.h"
 #include "view/PageRenderer.h"
@@ -100,6 +101,41 @@ TEST_F(PerformanceSettings, AllFramesAlwaysApproximatedKeepThePartOfThePointsTha
     EXPECT_EQ(static_cast<double>(renderer.surfacePointCount(id())), points);
     set("Interface/UseApproximatePlots", 0L);
     EXPECT_EQ(screen(), full);
+}
+
+TEST_F(PerformanceSettings, TextsAndGeometriesOfAnApproximatePlotAreDrawnAsIsAskedFor)
+{
+    sample.kernel.lock().start(true);
+    sample.kernel.texts().add(sample.frame(), {.text = "Approximately", .x = 5.0, .y = 90.0});
+    sample.kernel.geometries().add(sample.frame(), {.type = GeomType_Square, .x = 5.0, .y = 5.0});
+    sample.kernel.lock().finish();
+    const QImage full = screen();
+    set("Interface/PlotApproximationMode", long{PlotApproximationMode_AllAlwaysApproximated});
+    const QImage with = screen();
+    set("Interface/ShowTextGeomsInApproxViews", 0L);
+    const QImage without = screen();
+    EXPECT_TRUE(renderer.isApproximate(id()));
+    const QRectF frame = renderer.frameRect(sample.frame());
+    const QRect text = QRectF(60.0 * frame.left(), 60.0 * frame.top() + 2, 200, 60).toRect();
+    const QRect square = QRectF(60.0 * frame.left(), 60.0 * frame.bottom() - 100, 150, 90).toRect();
+    for (const QRect& place : {text, square}) {
+        EXPECT_EQ(differences(full.copy(place), with.copy(place)), 0);
+        EXPECT_GT(differences(with.copy(place), without.copy(place)), 20);
+    }
+    set("Interface/UseApproximatePlots", 0L);
+    EXPECT_EQ(screen(), full) << "a full plot always has them";
+}
+
+TEST_F(PerformanceSettings, ExtraSortingShowsInExportedPicturesWhatLiesBehindManyTranslucentSurfaces)
+{
+    sample.set("FieldMap/Surfaces/SurfacesToPlot", long{SurfacesToPlot_IJKPlanes}, 1);
+    sample.set("FieldMap/Effects/UseTranslucency", 1L, 1);
+    sample.set("FieldMap/Effects/SurfaceTranslucency", 95L, 1);
+    const QImage onScreen = screen();
+    const QImage nearest = renderer.pageImage(page(), 660);
+    set("Print/ForceExtra3DSorting", 1L);
+    EXPECT_GT(differences(renderer.pageImage(page(), 660), nearest), 1000);
+    EXPECT_EQ(screen(), onScreen) << "the screen stays quick";
 }
 
 TEST_F(PerformanceSettings, OnlyAPlotThatMovesAndTakesLongIsApproximatedOnItsOwn)
