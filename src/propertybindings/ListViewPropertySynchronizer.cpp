@@ -9,7 +9,7 @@ namespace vantrix::sdk::ui::dialogs::propertybindings {
 
 namespace {
 
-/// Sets a flag for a scope and puts back what it was, however the scope ends.
+/// Sets a flag for a scope and clears it, however the scope ends.
 class ScopedFlag
 {
 public:
