@@ -12,14 +12,24 @@ constexpr long white = 7;
 class ForegroundColorsTest : public KernelTest
 {
 protected:
-    static long add(const Text& text)
+    static long addText(long color, TextBox_e box = TextBox_None, long fill = white)
     {
+        Text text;
+        text.text = "Text";
+        text.color = color;
+        text.box = box;
+        text.boxFillColor = fill;
         const LockScope lock;
         return kernel().texts().add(*document().activeFrame(), text);
     }
 
-    static long add(const Geometry& geometry)
+    static long addGeometry(GeomType_e type, bool isFilled = false, long fill = white)
     {
+        Geometry geometry;
+        geometry.type = type;
+        geometry.points = "0 0; 10 20";
+        geometry.isFilled = isFilled;
+        geometry.fillColor = fill;
         const LockScope lock;
         return kernel().geometries().add(*document().activeFrame(), geometry);
     }
@@ -36,15 +46,15 @@ protected:
 
 TEST_F(ForegroundColorsTest, WhatWouldVanishAgainstTheBackgroundChangesAndComesBackByUndo)
 {
-    const long plain = add(Text{.text = "plain"});
-    const long coloured = add(Text{.text = "coloured", .color = red});
-    const long outlined = add(Text{.text = "in a box", .color = red, .box = TextBox_Hollow});
-    const long onWhite = add(Text{.text = "on white", .box = TextBox_Filled, .boxFillColor = white});
-    const long onBlack = add(Text{.text = "on black", .color = red, .box = TextBox_Filled, .boxFillColor = black});
-    const long line = add(Geometry{.points = "0 0; 10 20", .isFilled = true});
-    const long hollow = add(Geometry{.type = GeomType_Circle});
-    const long filled = add(Geometry{.type = GeomType_Circle, .isFilled = true, .fillColor = red});
-    const long filledBlack = add(Geometry{.type = GeomType_Circle, .isFilled = true, .fillColor = black});
+    const long plain = addText(black);
+    const long coloured = addText(red);
+    const long outlined = addText(red, TextBox_Hollow);
+    const long onWhite = addText(black, TextBox_Filled, white);
+    const long onBlack = addText(red, TextBox_Filled, black);
+    const long line = addGeometry(GeomType_Line, true);
+    const long hollow = addGeometry(GeomType_Circle);
+    const long filled = addGeometry(GeomType_Circle, true, red);
+    const long filledBlack = addGeometry(GeomType_Circle, true, black);
 
     setBackground(black);
     EXPECT_EQ(text(plain).color, white);
@@ -68,8 +78,8 @@ TEST_F(ForegroundColorsTest, WhatWouldVanishAgainstTheBackgroundChangesAndComesB
 
 TEST_F(ForegroundColorsTest, ABackgroundThatHidesNothingChangesNoObject)
 {
-    add(Text{.text = "plain"});
-    add(Geometry{.type = GeomType_Square});
+    addText(black);
+    addGeometry(GeomType_Square);
     notices.clear();
     setBackground(red);
     for (const auto& notice : notices) {

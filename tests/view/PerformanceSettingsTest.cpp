@@ -105,9 +105,17 @@ TEST_F(PerformanceSettings, AllFramesAlwaysApproximatedKeepThePartOfThePointsTha
 
 TEST_F(PerformanceSettings, TextsAndGeometriesOfAnApproximatePlotAreDrawnAsIsAskedFor)
 {
+    kernel::Text words;
+    words.text = "Approximately";
+    words.x = 5.0;
+    words.y = 90.0;
+    kernel::Geometry shape;
+    shape.type = GeomType_Square;
+    shape.x = 5.0;
+    shape.y = 5.0;
     sample.kernel.lock().start(true);
-    sample.kernel.texts().add(sample.frame(), {.text = "Approximately", .x = 5.0, .y = 90.0});
-    sample.kernel.geometries().add(sample.frame(), {.type = GeomType_Square, .x = 5.0, .y = 5.0});
+    sample.kernel.texts().add(sample.frame(), words);
+    sample.kernel.geometries().add(sample.frame(), shape);
     sample.kernel.lock().finish();
     const QImage full = screen();
     set("Interface/PlotApproximationMode", long{PlotApproximationMode_AllAlwaysApproximated});
