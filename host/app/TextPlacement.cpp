@@ -38,16 +38,19 @@ void TextPlacement::place(double x, double y)
     {
         const sdk::AppLock lock;
         isInserted = VtxUtilTextSetX(arguments.handle());
+        if (isInserted) {
+            // Recorded as well: a deletion recorded later is one of what is picked.
+            VtxUtilPickClear();
+            VtxUtilPickText(created);
+        }
     }
     if (!isInserted) {
         showError();
         return;
     }
-    // What a macro that inserts a text does with mouse and picks is not for it to decide.
+    // What the mouse does is not for a macro that inserts a text to decide.
     const sdk::AppLock unrecorded(false);
     VtxUtilMouseSetMode(MouseMode_Selector);
-    VtxUtilPickClear();
-    VtxUtilPickText(created);
 }
 
 void TextPlacement::edit(long text)

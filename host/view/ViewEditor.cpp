@@ -113,7 +113,8 @@ void ViewEditor::end()
     }
 }
 
-void ViewEditor::write([[maybe_unused]] const kernel::Frame& frame, const std::string& path, double value, long offset)
+void ViewEditor::write([[maybe_unused]] const kernel::Frame& frame, const std::string& path,
+                       const kernel::StyleData& value, long offset)
 {
     assert(m_kernel.document().activeFrame() == &frame);
     kernel::StyleActions::set(m_kernel.style().entry(path.c_str()), {offset}, -1, value);
@@ -203,9 +204,7 @@ void ViewEditor::turn(const kernel::Frame& frame, const FramePlot& plot, double 
         for (std::size_t axis = 0; axis < 3; ++axis) {
             if (plot.style.axes[axis].line.edge != 0) {
                 constexpr std::array<const char*, 3> details{"XDetail", "YDetail", "ZDetail"};
-                kernel::StyleStore& style = m_kernel.style();
-                const std::string path = std::string("ThreeDAxis/") + details[axis] + "/AxisLine/Edge";
-                style.setOf(frame.id(), style.entry(path.c_str()), -1, -1, 0L);
+                write(frame, std::string("ThreeDAxis/") + details[axis] + "/AxisLine/Edge", 0L);
             }
         }
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kernel/StyleStore.h"
 #include "view/FramePlot.h"
 
 #include <string>
@@ -48,7 +49,7 @@ private:
     void writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t kind, int number, double minimum,
                     double maximum);
     void writeView(const kernel::Frame& frame, const FramePlot& plot, const View3D& view);
-    void write(const kernel::Frame& frame, const std::string& path, double value, long offset = -1);
+    void write(const kernel::Frame& frame, const std::string& path, const kernel::StyleData& value, long offset = -1);
 
     kernel::Kernel& m_kernel;
     bool m_isEditing = false;

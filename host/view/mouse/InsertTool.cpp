@@ -117,15 +117,12 @@ void InsertTool::insert()
     add("YPos", double(place.y()));
     long created = 0;
     add("Result", &created);
-    {
-        const kernel::ActionLock lock(context().kernel.lock());
-        if (!VtxUtilGeometrySetX(&list)) {
-            Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
-            return;
-        }
+    const kernel::ActionLock lock(context().kernel.lock());
+    if (!VtxUtilGeometrySetX(&list)) {
+        Q_EMIT context().widget.statusMessage(QString::fromStdString(context().kernel.lastError()));
+        return;
     }
-    // A macro that inserts a geometry where there are others already shall not pick one by its place among them.
-    const kernel::ActionLock unrecorded(context().kernel.lock(), false);
+    // Recorded as well: a deletion recorded later is one of what is picked.
     VtxUtilPickClear();
     VtxUtilPickGeometry(created);
 }
