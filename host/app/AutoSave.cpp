@@ -68,16 +68,16 @@ QString AutoSave::file(const QString& ending) const
     return m_folder + u'/' + m_session + ending;
 }
 
-void AutoSave::save()
+bool AutoSave::save()
 {
     if (!m_layout.isModified()) {
         QFile::remove(file(copyEnding));
         m_savedText.clear();
-        return;
+        return true;
     }
     std::string text = m_layout.text();
     if (text == m_savedText) {
-        return;
+        return true;
     }
     try {
         kernel::replaceFile(file(nameEnding).toStdString(), m_layout.fileName());
@@ -85,7 +85,9 @@ void AutoSave::save()
         m_savedText = std::move(text);
     } catch (const kernel::DataError&) {
         // A copy that cannot be written must not disturb the work; the next one is tried again.
+        return false;
     }
+    return true;
 }
 
 QList<AutoSave::Copy> AutoSave::leftBehind() const

@@ -30,8 +30,8 @@ public:
     AutoSave(kernel::Layout& layout, const QString& folder, QObject* parent);
     ~AutoSave() override;
 
-    /* Writes the copy now, when the layout was changed since the last one. */
-    void save();
+    /* Writes the copy now, when the layout was changed since the last one. False when it could not be written. */
+    bool save();
 
     /* What a session that has ended left behind. */
     struct Copy

@@ -8,6 +8,7 @@
 #include "app/HistoryActions.h"
 #include "app/ImageSizeDialog.h"
 #include "app/LayoutFiles.h"
+#include "app/LayoutRecovery.h"
 #include "app/MainMenu.h"
 #include "app/MouseModeBar.h"
 #include "app/PictureExport.h"
@@ -18,7 +19,6 @@
 #include "app/ToolTipFilter.h"
 #include "app/WindowFrontEnd.h"
 #include "dialogs/DialogRegistry.h"
-#include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/Layout.h"
@@ -32,7 +32,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
-#include <QLocale>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -106,18 +105,19 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     connect(m_recentFiles, &RecentFiles::chosen, this, &MainWindow::openFiles);
     qApp->installEventFilter(new ToolTipFilter(this));
     m_kernel.setFrontEnd(m_frontEnd.get());
+    m_kernel.layout().setMarkListener([this] { updateTitle(); });
     restoreWindow();
 }
 
 MainWindow::~MainWindow()
 {
+    m_kernel.layout().setMarkListener({});
     m_kernel.setFrontEnd(nullptr);
 }
 
 bool MainWindow::openFiles(const QStringList& files)
 {
-    // Data that were only opened are no work that could be lost.
-    const bool isPlain = !m_kernel.layout().isModified();
+    const bool isWithoutWork = holdsNoWork();
     const bool isLayout = files.size() == 1 && LayoutFiles::isLayout(files.first());
     if (isLayout ? !m_layoutFiles->open(files.first()) : !DataOpener(m_kernel).openFiles(files)) {
         // An entry whose file is gone is of no more use.
@@ -128,7 +128,7 @@ bool MainWindow::openFiles(const QStringList& files)
         }
         return false;
     }
-    if (isPlain) {
+    if (isWithoutWork && !isLayout) {
         m_kernel.layout().setUnmodified();
     }
     QSettings().setValue(openFolderKey, QFileInfo(files.first()).absolutePath());
@@ -138,12 +138,18 @@ bool MainWindow::openFiles(const QStringList& files)
 
 bool MainWindow::openSample(const QString& name)
 {
-    const bool isPlain = !m_kernel.layout().isModified();
+    const bool isWithoutWork = holdsNoWork();
     const bool isOpen = DataOpener(m_kernel).openSample(name);
-    if (isOpen && isPlain) {
+    if (isOpen && isWithoutWork) {
         m_kernel.layout().setUnmodified();
     }
     return isOpen;
+}
+
+bool MainWindow::holdsNoWork() const
+{
+    const kernel::Layout& layout = m_kernel.layout();
+    return layout.fileName().empty() && !layout.isModified();
 }
 
 bool MainWindow::playMacro(const QString& file)
@@ -158,24 +164,7 @@ bool MainWindow::playMacro(const QString& file)
 
 void MainWindow::offerRecovery()
 {
-    for (const AutoSave::Copy& copy : m_autoSave->leftBehind()) {
-        const QString name = copy.original.isEmpty() ? tr("a layout without a name") : copy.original;
-        const auto answer =
-            QMessageBox::question(this, tr("Recover Layout"),
-                                  tr("vxplot ended unexpectedly while %1 had unsaved changes. Open the copy of %2?")
-                                      .arg(name, QLocale().toString(copy.time, QLocale::ShortFormat)));
-        try {
-            if (answer == QMessageBox::Yes) {
-                m_kernel.layout().recover(copy.file.toStdString(), copy.original.toStdString());
-            }
-            AutoSave::remove(copy);
-        } catch (const kernel::DataError& failure) {
-            m_frontEnd->showMessage(failure.what(), MessageBox_Error);
-        }
-        if (answer == QMessageBox::Yes) {
-            break; // the others are offered again at the next start
-        }
-    }
+    LayoutRecovery(m_kernel.layout(), *m_autoSave, *this).offer();
 }
 
 void MainWindow::activateObject(PickObject_e type)

@@ -67,6 +67,9 @@ protected:
 private:
     void exportTo(const QString& title, const QString& filter, const QString& suffix, QSize size = {});
     void activateObject(PickObject_e type);
+
+    /* Whether nothing would be lost if the layout went: it has no file, and at most data were opened. */
+    bool holdsNoWork() const;
     void restoreWindow();
     void saveWindow() const;
     void updateTitle();

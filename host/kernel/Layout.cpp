@@ -292,6 +292,9 @@ bool Layout::isModified() const
 void Layout::setUnmodified()
 {
     m_savedState = m_kernel.undoStack().state();
+    if (m_markListener) {
+        m_markListener();
+    }
 }
 
 } // namespace vantrix::kernel

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrix::kernel {
@@ -46,6 +48,10 @@ public:
     /* The present state is as good as saved. */
     void setUnmodified();
 
+    /* Called after save() and whatever else makes the present state the saved one, of which no state change tells;
+     * an empty one ends that. */
+    void setMarkListener(std::function<void()> listener) { m_markListener = std::move(listener); }
+
 private:
     void load(const std::string& file);
     void drop();
@@ -53,6 +59,7 @@ private:
     Kernel& m_kernel;
     std::string m_fileName;
     unsigned long m_savedState;
+    std::function<void()> m_markListener;
     std::map<long, std::vector<std::string>>
         m_unknown; /* lines that were not known, of each page and frame; 0 of none */
 };

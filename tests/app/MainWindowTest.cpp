@@ -444,15 +444,19 @@ TEST_F(MainWindowTest, TheTitleTellsTheLayoutAndWhetherItIsSaved)
     EXPECT_TRUE(window.isWindowModified());
     const QString file = path("wing.vxlay");
     ASSERT_TRUE(VtxUtilLayoutSave(file.toUtf8().constData()));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_TRUE(window.windowTitle().startsWith(u"wing.vxlay"_s)) << window.windowTitle().toStdString();
     clickMenu({u"Edit"_s, u"Undo Create Page"_s});
     settle();
-    EXPECT_TRUE(window.windowTitle().startsWith(u"wing.vxlay"_s)) << window.windowTitle().toStdString();
     EXPECT_TRUE(window.isWindowModified());
     clickMenu({u"Edit"_s, u"Redo Create Page"_s});
     settle();
     EXPECT_FALSE(window.isWindowModified());
     ASSERT_TRUE(window.openFiles({file}));
     EXPECT_EQ(VtxUtilPageGetCount(), 2);
+    ASSERT_TRUE(window.openSample(u"polyhedra"_s));
+    settle();
+    EXPECT_TRUE(window.isWindowModified()) << "the layout that was saved shows other data now";
 }
 
 TEST_F(MainWindowTest, UnsavedWorkIsNotDroppedWithoutAsking)
