@@ -1,4 +1,7 @@
 #include "AxisDialogTest.h"
+#include "api/VtxUtil.h"
+#include "sdk/AppLock.h"
+#include "toolbox/StyleValue.h"
 
 #include <QLabel>
 #include <QMenu>
@@ -172,6 +175,21 @@ TEST_F(AxisEditRangePageTest, FittingThetaMakesItsUnitArbitraryAndItsPeriodEdita
     EXPECT_EQ(find<QLabel>(dialog, "axisEdit_RangeAxisSpecThetaMode_Label").text(),
               QStringLiteral("Theta Mode: Arbitrary"));
     EXPECT_TRUE(field(dialog, "ThetaPeriod").isEnabled());
+
+    trigger(openMenu(dialog, thetaButton), "0 to 360 Degrees");
+    setStyle({"PolarAxis", "ThetaDetail", "ValueAtOrigin"}, 17.0);
+    {
+        vantrix::sdk::AppLock const lock;
+        vantrix::toolbox::StyleValue const isActive("ActiveLineMaps");
+        for (long map = 1; map <= VtxUtilLineMapGetCount(); ++map) {
+            EXPECT_EQ(isActive.setValue(false, map), SetValueReturnCode_Ok);
+        }
+    }
+    trigger(openMenu(dialog, thetaButton), "Fit to Var Min/Max");
+    EXPECT_EQ(frontEnd.messages.size(), 1U) << "no data are shown";
+    EXPECT_EQ(styleOf<long>({"PolarAxis", "ThetaMode"}), ThetaMode_Degrees);
+    EXPECT_EQ(theta("ValueAtOrigin"), 17.0);
+    EXPECT_EQ(theta("RangeMax"), 360.0);
 }
 
 TEST_F(AxisEditRangePageTest, ASizeFactorOfZeroLeavesTheOldOne)

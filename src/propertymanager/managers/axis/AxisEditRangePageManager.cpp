@@ -44,12 +44,14 @@ ThetaRange thetaRange(AxisEditRangePageManager::ThetaResetMode_e mode)
 
 /// Does something to the axes as one step and tells the user why the host refused it, if it did.
 template<typename Action>
-void tellRefusal(Action&& action)
+bool tellRefusal(Action&& action)
 {
     AppLock const lock;
-    if (!action()) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    if (action()) {
+        return true;
     }
+    VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    return false;
 }
 
 bool isXYDependentAllowed()
@@ -185,7 +187,9 @@ void AxisEditRangePageManager::resetThetaMode(ThetaResetMode_e mode)
     if (mode == FitToVariableMinMax) {
         m_thetaMode.setValue(ThetaMode_Arbitrary);
         theta->getValueatorigin()->setValue(0);
-        fitThetaToVariable();
+        if (!fitThetaToVariable()) {
+            VtxUtilLockRollBack();
+        }
         return;
     }
     ThetaRange const range = thetaRange(mode);
@@ -197,12 +201,12 @@ void AxisEditRangePageManager::resetThetaMode(ThetaResetMode_e mode)
     theta->getGrSpacing()->setValue(range.period / ThetaGridLines);
 }
 
-void AxisEditRangePageManager::fitThetaToVariable()
+bool AxisEditRangePageManager::fitThetaToVariable()
 {
     auto const preserve = properties().getPolarAxis()->getPreserveAxisScale();
     bool const preserved = preserve->value();
     preserve->setValue(false);
-    tellRefusal([] { return VtxUtilViewAxisFit('T', 1); });
+    bool const isFitted = tellRefusal([] { return VtxUtilViewAxisFit('T', 1); });
     preserve->setValue(preserved);
 
     auto const theta = properties().getPolarAxis()->getThetaDetail();
@@ -210,6 +214,7 @@ void AxisEditRangePageManager::fitThetaToVariable()
     if (length > 0) {
         theta->getGrSpacing()->setValue(length / ThetaGridLines);
     }
+    return isFitted;
 }
 
 void AxisEditRangePageManager::reset3DScaleFactors()

@@ -92,7 +92,7 @@ private:
     boost::shared_ptr<PropertyAbstract<bool>> autoAdjust() const;
     boost::shared_ptr<PropertyAbstract<bool>> preserveAxisScale() const;
     boost::shared_ptr<PropertyAbstract<bool>> clipData() const;
-    void fitThetaToVariable();
+    bool fitThetaToVariable();
     Relevance whileAxisModeIsOneOf(std::initializer_list<AxisMode_e> modes);
 
     boost::shared_ptr<UIStylePropertyAbstract<double>> m_min;
