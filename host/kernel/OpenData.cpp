@@ -80,7 +80,7 @@ void OpenData::sample(const std::string& name)
 
 void OpenData::show(DataSet dataSet, const char* stepName, MacroCommand command)
 {
-    dataSet.history = {std::make_shared<const MacroCommand>(std::move(command))};
+    dataSet.history = {std::make_shared<const MacroCommand>(command)};
     Frame* frame = m_kernel.document().activeFrame();
     if (!frame) {
         throw DataError("There is no frame to show the data in. Create a frame first.");
