@@ -133,9 +133,9 @@ void MainMenu::addViewMenu(const MouseModeBar& mouseModes)
     fitPlot->setIcon(icon("fit"));
     fitPlot->setShortcut(Qt::CTRL | Qt::Key_F);
     m_standardActions << fitPlot;
-    QAction* fitPaper = view->addAction(tr("Fit &Paper"), &m_window.workArea(), &view::WorkArea::fitPaper);
+    QAction* fitPaper = view->addAction(tr("Fit P&aper"), &m_window.workArea(), &view::WorkArea::fitPaper);
     fitPaper->setShortcut(Qt::CTRL | Qt::Key_0);
-    QAction* redraw = view->addAction(tr("&Redraw"), &m_window.workArea(), &view::WorkArea::redraw);
+    QAction* redraw = view->addAction(tr("Redra&w"), &m_window.workArea(), &view::WorkArea::redraw);
     redraw->setObjectName(u"redrawAction"_s);
     redraw->setShortcuts(QKeySequence::Refresh);
     view->addSeparator();
@@ -148,7 +148,7 @@ void MainMenu::addPlotMenus()
 {
     new InsertMenu(menu(tr("&Insert")), m_window.workArea());
     new FrameMenu(menu(tr("F&rame")));
-    new PageMenu(menu(tr("&Page")));
+    new PageMenu(menu(tr("Pa&ge")));
 }
 
 void MainMenu::addDialogs()
