@@ -114,7 +114,10 @@ TEST(WorkArea, TellsWhereThePointerIs)
                  QString::number(onPaper.y() * unitsPerInch, 'f', 2), QString::fromLatin1(unit));
     };
     EXPECT_EQ(spy.last().at(0).toString(), text(1.0, "in"));
-    sample.set("Paper/RulerSpacing", long{PaperUnitSpacing_OneCentimeter});
+    kernel::StyleStore& style = sample.kernel.style();
+    sample.kernel.lock().start(true);
+    style.set(style.entry("Paper/RulerSpacing"), -1, -1, long{PaperUnitSpacing_OneCentimeter});
+    sample.kernel.lock().finish();
     test::moveMouse(shown.area, QPointF(4, 4));
     test::moveMouse(shown.area, QPointF(3, 3));
     EXPECT_EQ(spy.last().at(0).toString(), text(2.54, "cm")) << "as the rulers count";
