@@ -1,5 +1,5 @@
-#include "view/PolarScale.h"
 #include "ExpectNear.h"
+#include "view/PolarScale.h"
 #include "view/PlotStyle.h"
 
 #include <gtest/gtest.h>
