@@ -21,6 +21,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 namespace vantrix::kernel {
@@ -36,8 +37,9 @@ std::string folderOf(const std::string& file)
 class LayoutWriter
 {
 public:
-    LayoutWriter(const StyleStore& style, std::string folder)
+    LayoutWriter(const StyleStore& style, const LayoutUnknown& unknown, std::string folder)
         : m_style(style)
+        , m_unknown(unknown)
         , m_folder(std::move(folder))
     {}
 
@@ -96,7 +98,25 @@ public:
                 std::visit([&](const auto& each) { command.add(std::string(value.name), each); }, is);
             }
         }
+        writeWithUnknown(depth, command, object.handle);
+    }
+
+    /* The command with the arguments that the file had besides. */
+    void writeWithUnknown(int depth, MacroCommand command, long owner)
+    {
+        if (const auto found = m_unknown.arguments.find(owner); found != m_unknown.arguments.end()) {
+            command.arguments.insert(command.arguments.end(), found->second.begin(), found->second.end());
+        }
         write(depth, command);
+    }
+
+    void writeUnknownLines(int depth, long owner)
+    {
+        if (const auto found = m_unknown.lines.find(owner); found != m_unknown.lines.end()) {
+            for (const std::string& line : found->second) {
+                writeLine(depth, line);
+            }
+        }
     }
 
     const std::string& text() const { return m_text; }
@@ -127,6 +147,7 @@ private:
     }
 
     const StyleStore& m_style;
+    const LayoutUnknown& m_unknown;
     std::string m_folder;
     std::string m_text;
 };
@@ -141,16 +162,9 @@ Layout::Layout(Kernel& kernel)
 std::string Layout::text(const std::string& folder) const
 {
     const Document& document = m_kernel.document();
-    LayoutWriter writer(m_kernel.style(), folder);
-    const auto writeUnknown = [&](int depth, long scopeId) {
-        if (const auto found = m_unknown.find(scopeId); found != m_unknown.end()) {
-            for (const std::string& line : found->second) {
-                writer.writeLine(depth, line);
-            }
-        }
-    };
-    writer.write(0, {"Layout", {{"Version", 1L}}});
-    writeUnknown(0, 0);
+    LayoutWriter writer(m_kernel.style(), m_unknown, folder);
+    writer.writeWithUnknown(0, {"Layout", {{"Version", 1L}}}, 0);
+    writer.writeUnknownLines(0, 0);
     std::map<const DataSet*, long> numbers;
     for (const auto& data : document.dataSets()) {
         const long number = static_cast<long>(numbers.size()) + 1;
@@ -162,9 +176,9 @@ std::string Layout::text(const std::string& folder) const
         if (page.get() == document.activePage()) {
             head.add("Active", 1L);
         }
-        writer.write(0, head);
+        writer.writeWithUnknown(0, head, page->id);
         writer.writeStyle(1, page->id, 0);
-        writeUnknown(1, page->id);
+        writer.writeUnknownLines(1, page->id);
         for (std::size_t i = 0; i < page->frames.size(); ++i) {
             const Frame& frame = *page->frames[i];
             MacroCommand frameHead{"Frame", {}};
@@ -174,7 +188,7 @@ std::string Layout::text(const std::string& folder) const
             if (static_cast<long>(i) + 1 == page->activeFrame) {
                 frameHead.add("Active", 1L);
             }
-            writer.write(1, frameHead);
+            writer.writeWithUnknown(1, frameHead, frame.id());
             writer.writeStyle(2, frame.id(), frame.dataSet() ? frame.dataSet()->zoneCount() : 0);
             for (const auto& streamtrace : frame.streamtraces()) {
                 writer.writeObject(2, "Streamtrace", *streamtrace);
@@ -185,7 +199,7 @@ std::string Layout::text(const std::string& folder) const
             for (const auto& text : frame.texts()) {
                 writer.writeObject(2, "Text", *text);
             }
-            writeUnknown(2, frame.id());
+            writer.writeUnknownLines(2, frame.id());
         }
     }
     return writer.text();
@@ -250,13 +264,10 @@ void Layout::load(const std::string& file)
     }
     m_kernel.document().replacePages(std::move(reader.pages), reader.activePage);
     m_unknown = std::move(reader.unknown);
-    if (!m_unknown.empty()) {
-        std::size_t count = 0;
-        for (const auto& [scope, lines] : m_unknown) {
-            count += lines.size();
-        }
-        frontEnd.showStatus("The layout has " + std::to_string(count) + (count == 1 ? " entry" : " entries") +
-                            " that this program does not know; the first is " + m_unknown.begin()->second.front() +
+    if (const std::vector<std::string>& texts = m_unknown.texts; !texts.empty()) {
+        frontEnd.showStatus("The layout has " + std::to_string(texts.size()) +
+                            (texts.size() == 1 ? " entry or value" : " entries or values") +
+                            " that this program does not know; the first is " + texts.front() +
                             ". They are kept when it is saved.");
     }
 }
@@ -280,7 +291,7 @@ void Layout::drop()
     }
     m_kernel.document().reset();
     m_kernel.probes().reset();
-    m_unknown.clear();
+    m_unknown = {};
     m_fileName.clear();
 }
 

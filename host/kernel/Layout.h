@@ -1,10 +1,10 @@
 #pragma once
 
+#include "kernel/LayoutUnknown.h"
+
 #include <functional>
-#include <map>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace vantrix::kernel {
 
@@ -60,8 +60,7 @@ private:
     std::string m_fileName;
     unsigned long m_savedState;
     std::function<void()> m_markListener;
-    std::map<long, std::vector<std::string>>
-        m_unknown; /* lines that were not known, of each page and frame; 0 of none */
+    LayoutUnknown m_unknown;
 };
 
 } // namespace vantrix::kernel

@@ -10,6 +10,7 @@
 #include "kernel/TextValues.h"
 #include "kernel/macro/MacroCommand.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantrix::kernel {
@@ -86,6 +87,7 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
                             "; this program knows versions up to " + std::to_string(layoutVersion) + '.');
         }
         m_hasHead = true;
+        keepUnknown(command, {"Version"}, 0);
     } else if (command.name == "DataSet") {
         beginDataSet(command);
     } else if (command.name == "Page") {
@@ -103,7 +105,23 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
     } else if (command.name == "Streamtrace" && m_frame) {
         addObject<Streamtrace>(command);
     } else {
-        unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
+        keepUnknown(text);
+    }
+}
+
+void LayoutReader::keepUnknown(const std::string& line)
+{
+    unknown.lines[styles.empty() ? 0 : styles.back().scopeId].push_back(line);
+    unknown.texts.push_back(line);
+}
+
+void LayoutReader::keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known, long owner)
+{
+    for (const MacroCommand::Argument& argument : command.arguments) {
+        if (std::ranges::find(known, argument.first) == known.end()) {
+            unknown.arguments[owner].push_back(argument);
+            unknown.texts.push_back(macroText(MacroCommand{command.name, {argument}}));
+        }
     }
 }
 
@@ -161,6 +179,7 @@ void LayoutReader::beginPage(const MacroCommand& command)
     }
     m_frame.reset();
     styles.push_back({pages.back()->id, {}});
+    keepUnknown(command, {"Active"}, pages.back()->id);
 }
 
 void LayoutReader::beginFrame(const MacroCommand& command)
@@ -184,6 +203,7 @@ void LayoutReader::beginFrame(const MacroCommand& command)
         m_frame->setDataSet(found->second);
     }
     styles.push_back({m_frame->id(), {}});
+    keepUnknown(command, {"Active", "DataSet"}, m_frame->id());
 }
 
 void LayoutReader::addStyle(const MacroCommand& command, const std::string& text)
@@ -192,7 +212,7 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
     const StyleScope scope = m_frame ? StyleScope::Frame : StyleScope::Page;
     const bool isOfScope = entry >= 0 && styleDescription(entry).scope == scope;
     if (styles.empty() || !isOfScope) {
-        unknown[styles.empty() ? 0 : styles.back().scopeId].push_back(text);
+        keepUnknown(text);
         return;
     }
     const StyleEntry& about = styleDescription(entry);
@@ -225,9 +245,9 @@ void LayoutReader::addObject(const MacroCommand& command)
     for (const auto& [name, given] : command.arguments) {
         const ObjectValue<Object>* value = findObjectValue<Object>(name);
         if (!value) {
-            throw DataError("a " + noun + " has no \"" + name + "\".");
-        }
-        if (const long* number = std::get_if<long>(&given)) {
+            unknown.arguments[object.handle].emplace_back(name, given);
+            unknown.texts.push_back(macroText(MacroCommand{command.name, {{name, given}}}));
+        } else if (const long* number = std::get_if<long>(&given)) {
             value->assign(object, *number);
         } else if (const double* real = std::get_if<double>(&given)) {
             value->assign(object, *real);

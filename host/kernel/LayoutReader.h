@@ -2,13 +2,16 @@
 
 #include "kernel/DataHistory.h"
 #include "kernel/Document.h"
+#include "kernel/LayoutUnknown.h"
 #include "kernel/StyleStore.h"
 
 #include <filesystem>
+#include <initializer_list>
 #include <istream>
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vantrix::kernel {
@@ -37,8 +40,8 @@ public:
 
     std::vector<std::shared_ptr<Page>> pages;
     std::size_t activePage = 0;
-    std::vector<Style> styles;                        /* of each page and frame */
-    std::map<long, std::vector<std::string>> unknown; /* lines that were not known; 0 of none in particular */
+    std::vector<Style> styles; /* of each page and frame */
+    LayoutUnknown unknown;
 
 private:
     void readLine(const std::string& text);
@@ -51,6 +54,8 @@ private:
     void finishDataSet();
     template<class Object>
     void addObject(const MacroCommand& command);
+    void keepUnknown(const std::string& line);
+    void keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known, long owner);
     void checkPlotTypes() const;
 
     Document& m_document;

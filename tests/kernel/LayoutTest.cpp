@@ -69,15 +69,20 @@ TEST_F(LayoutTest, KnowsWhetherItIsModified)
 
 TEST_F(LayoutTest, KeepsAndReportsWhatItDoesNotKnow)
 {
-    const std::string future =
-        "Layout Version=1\nGlow Strength=0.5\nPage Active=1\n  StyleSet Path=\"Paper/Smell\" Value=3\n"
-        "  Frame Active=1\n    StyleSet Path=\"FrameLayout/Width\" Value=5.5\n"
-        "    Hologram Depth={1-3} Text=\"x\"\n";
+    const std::string future = "Layout Version=1 Creator=\"a newer one\"\nGlow Strength=0.5\nPage Active=1 Note=x\n"
+                               "  StyleSet Path=\"Paper/Smell\" Value=3\n"
+                               "  Frame Active=1 Halo=2\n    StyleSet Path=\"FrameLayout/Width\" Value=5.5\n"
+                               "    Text Text=a XPos=3.0 Shadow={1-2}\n    Hologram Depth={1-3} Text=\"x\"\n";
     ASSERT_TRUE(open(future)) << kernel().lastError();
     EXPECT_EQ(text(), future);
-    EXPECT_THAT(m_frontEnd.status, HasSubstr("3 entries"));
-    EXPECT_THAT(m_frontEnd.status, HasSubstr("Glow"));
+    EXPECT_THAT(m_frontEnd.status, HasSubstr("7 entries"));
+    EXPECT_THAT(m_frontEnd.status, HasSubstr("Creator"));
     EXPECT_EQ(value("FrameLayout/Width"), StyleData(5.5));
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilTextSetHeight(VtxUtilTextGetFirst(), 7.0)) << kernel().lastError();
+    }
+    EXPECT_THAT(text(), HasSubstr("Height=7.0 Shadow={1-2}")) << "a change of the text leaves it";
     VtxUtilLayoutNew();
     EXPECT_THAT(text(), Not(HasSubstr("Glow")));
 }

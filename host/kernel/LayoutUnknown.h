@@ -1,0 +1,25 @@
+#pragma once
+
+#include "kernel/macro/MacroCommand.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace vantrix::kernel {
+
+/* What a layout file held that the program does not know, and writes again when the layout is saved. */
+struct LayoutUnknown
+{
+    /* Whole lines, of each page and frame by its identifier; 0 of none in particular. */
+    std::map<long, std::vector<std::string>> lines;
+
+    /* Arguments of lines that are known: of the heads of pages and frames by identifier, of the objects of frames by
+     * handle (which is no identifier of a page or frame), and of the layout's own head under 0. */
+    std::map<long, std::vector<MacroCommand::Argument>> arguments;
+
+    /* All of it for the user, in the order of the file. */
+    std::vector<std::string> texts;
+};
+
+} // namespace vantrix::kernel
