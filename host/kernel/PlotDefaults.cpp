@@ -5,6 +5,7 @@
 #include "kernel/Kernel.h"
 #include "kernel/LineMaps.h"
 #include "kernel/NiceNumbers.h"
+#include "kernel/StyleVocabulary.h"
 
 #include <algorithm>
 #include <array>
@@ -72,6 +73,7 @@ void PlotDefaults::apply()
     setLineMaps();
     setContours();
     setVectors();
+    resetView();
     set("PlotType", plotType());
 }
 
@@ -189,6 +191,16 @@ void PlotDefaults::fitPolar(const std::vector<long>& radii)
     const double origin = std::min(std::get<double>(from), 0.0);
     set("PolarAxis/RDetail/RangeMin", origin);
     set("PolarAxis/RDetail/ValueAtOrigin", origin);
+}
+
+/* A viewer at the origin of the data is one that sees the whole plot. */
+void PlotDefaults::resetView()
+{
+    for (const char* path :
+         {"ThreeDView/PsiAngle", "ThreeDView/ThetaAngle", "ThreeDView/AlphaAngle", "ThreeDView/ViewWidth",
+          "ThreeDView/ViewerPosition/X", "ThreeDView/ViewerPosition/Y", "ThreeDView/ViewerPosition/Z"}) {
+        set(path, styleDescription(m_style.entry(path)).doubleDefault);
+    }
 }
 
 void PlotDefaults::setContours()

@@ -32,6 +32,7 @@ private:
     void fitPolar(const std::vector<long>& radii);
     void setContours();
     void setVectors();
+    void resetView();
     void set(const std::string& path, const StyleData& value, long object = -1);
 
     StyleStore& m_style;

@@ -44,6 +44,22 @@ TEST_F(PlotDefaultsTest, AxisVariablesGoByNameFirstAndThenByOrder)
     }
 }
 
+TEST_F(PlotDefaultsTest, NewDataAreSeenWholeWhateverTheViewWas)
+{
+    show("flow3d");
+    set("ThreeDView/ThetaAngle", 12.0);
+    set("ThreeDView/ViewWidth", 80.0);
+    set("ThreeDView/ViewerPosition/X", 70.0);
+    set("ThreeDView/ViewerPosition/Z", -30.0);
+    show("polyhedra");
+    for (const char* coordinate : {"X", "Y", "Z"}) {
+        EXPECT_EQ(value((std::string("ThreeDView/ViewerPosition/") + coordinate).c_str()), StyleData(0.0));
+    }
+    EXPECT_EQ(value("ThreeDView/ThetaAngle"), StyleData(240.0));
+    VtxUtilUndo();
+    EXPECT_EQ(value("ThreeDView/ViewerPosition/X"), StyleData(70.0));
+}
+
 TEST_F(PlotDefaultsTest, ThePlotTypeSuitsTheData)
 {
     const std::vector<std::pair<std::string, PlotType_e>> cases{{"flow3d", PlotType_Cartesian3D},
