@@ -31,8 +31,9 @@ bool MouseModes::isValid(MouseMode_e mode) const
         return true;
     case MouseMode_CreateFrame:
         return m_document.activePage() != nullptr;
-    case MouseMode_Zoom:
     case MouseMode_Translate:
+        return frame && plotType != PlotType_PolarLine; // its centre stays where it is
+    case MouseMode_Zoom:
     case MouseMode_Text:
         return frame != nullptr;
     case MouseMode_Rotate:

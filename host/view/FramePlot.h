@@ -38,6 +38,11 @@ public:
     std::optional<PolarScale> polar; /* of polar plots */
     QPointF polarCenter;
     double polarRadius = 0.0;
+
+    /* Whether there is a view that can be changed: not where nothing but a notice is drawn, or in a sketch without
+     * axes. */
+    bool hasView() const { return camera || x || polar; }
+
     HitMap hits;
 
     /* Data coordinates in a 2D or line plot, of an XY line plot those of X1 and Y1, of a polar one theta and R; none

@@ -190,6 +190,12 @@ void ViewEditor::magnify(const kernel::Frame& frame, const FramePlot& plot, doub
         writeView(frame, plot, plot.camera->magnified(factor, plot.onPicture(about)));
         return;
     }
+    if (plot.polar) {
+        const AxisScale& r = plot.polar->r();
+        const AxisScale inOrder(r.minimum(), r.maximum(), r.isLogarithmic());
+        writeRange(frame, "PolarAxis/RDetail/", -1, r.minimum(), inOrder.value(1.0 / factor));
+        return;
+    }
     const QPointF topLeft = about + (plot.area.topLeft() - about) / factor;
     showRect(frame, plot, QRectF(topLeft, plot.area.size() / factor));
 }

@@ -32,7 +32,7 @@ public:
     bool isEditing() const { return m_isEditing; }
 
     /* Flat plots: shows what lies in a rectangle of the plot, or the plot moved or magnified. Places are those of
-     * FramePlot. */
+     * FramePlot. A polar plot is magnified about its centre, by the end of the range of R, and does not move. */
     void showRect(const kernel::Frame& frame, const FramePlot& plot, const QRectF& rect);
     void move(const kernel::Frame& frame, const FramePlot& plot, QPointF by);
     void magnify(const kernel::Frame& frame, const FramePlot& plot, double factor, QPointF about);
@@ -40,7 +40,8 @@ public:
     /* Turns a 3D plot; angles in degrees. */
     void turn(const kernel::Frame& frame, const FramePlot& plot, double theta, double psi);
 
-    /* Flat plots: axis ranges that hold all data shown. 3D plots: the whole plot, from the direction it is seen from.
+    /* Flat plots: axis ranges that hold all data shown, of polar ones that of R. 3D plots: the whole plot, from the
+     * direction it is seen from.
      */
     void fit(const kernel::Frame& frame, const FramePlot& plot);
 

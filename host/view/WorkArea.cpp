@@ -341,7 +341,7 @@ void WorkArea::wheelEvent(QWheelEvent* event)
     const double factor = std::pow(zoomPerNotch, notches);
     const long id = frameAt(place);
     const FramePlot* plot = id ? context.renderer.plot(id) : nullptr;
-    if ((event->modifiers() & Qt::ControlModifier) || !plot || !(plot->camera || plot->x)) {
+    if ((event->modifiers() & Qt::ControlModifier) || !plot || !plot->hasView()) {
         context.paper.zoom(factor, place);
         update();
         return;

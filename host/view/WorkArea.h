@@ -42,7 +42,8 @@ public:
     double zoom() const;
     void setZoom(double pixelsPerInch);
 
-    /* Shows the whole data of the active frame's plot: axis ranges in 2D, the default view direction kept in 3D. */
+    /* Shows the whole data of the active frame's plot: axis ranges in 2D and line plots, that of R in polar ones; in 3D
+     * the direction is kept. */
     void fitPlot();
 
     /* Where a place on the paper (inches from its upper left corner) is in the widget, and back. */

@@ -35,6 +35,9 @@ TEST_F(MouseModesTest, AModeIsValidWhereThePlotHasUseForIt)
         set("PlotType", long{PlotType_XYLine});
         EXPECT_EQ(VtxUtilMouseIsValidMode(one.mode), one.inXYLine) << one.mode;
     }
+    EXPECT_TRUE(VtxUtilMouseIsValidMode(MouseMode_Translate));
+    set("PlotType", long{PlotType_PolarLine});
+    EXPECT_FALSE(VtxUtilMouseIsValidMode(MouseMode_Translate)) << "the centre stays";
 }
 
 TEST_F(MouseModesTest, TheSelectorTakesOverWhenThePlotHasNoUseForTheModeAnyMore)

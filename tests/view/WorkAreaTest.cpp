@@ -13,6 +13,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 using namespace vantrix;
@@ -95,6 +96,33 @@ TEST(WorkArea, ZoomsAFlatPlotByARubberBandAndFitsItAgain)
     shown.area.fitPlot();
     EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMin"), -4.0, 1e-6) << "where the plate begins";
     EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMax"), 9.0, 1e-6) << "where it ends";
+}
+
+TEST(WorkArea, ZoomsAndFitsTheRadiusOfAPolarPlot)
+{
+    ShownSample sample("polar", PlotType_PolarLine);
+    ShownWorkArea shown(sample);
+    shown.area.fitPlot();
+    shown.area.repaint();
+    const double from = sample.real("PolarAxis/RDetail/RangeMin");
+    const double fitted = sample.real("PolarAxis/RDetail/RangeMax");
+    const double paper = shown.area.zoom();
+    ASSERT_TRUE(sample.kernel.mouseModes().set(MouseMode_Zoom));
+    shown.drag(shown.place(0.5, 0.5), shown.place(0.5, 0.4));
+    const double dragged = sample.real("PolarAxis/RDetail/RangeMax");
+    EXPECT_LT(dragged, fitted) << "upwards enlarges";
+    EXPECT_EQ(sample.real("PolarAxis/RDetail/RangeMin"), from);
+    EXPECT_EQ(sample.kernel.undoStack().undoName(), "Zoom");
+
+    const QPointF place = shown.place(0.5, 0.5);
+    QWheelEvent wheel(place, shown.area.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&shown.area, &wheel);
+    EXPECT_NEAR(sample.real("PolarAxis/RDetail/RangeMax") - from, 1.2 * (dragged - from), 1e-9);
+    EXPECT_EQ(shown.area.zoom(), paper) << "the paper stays";
+
+    shown.area.fitPlot();
+    EXPECT_EQ(sample.real("PolarAxis/RDetail/RangeMax"), fitted);
+    EXPECT_EQ(sample.kernel.lock().violationCount(), 0);
 }
 
 TEST(WorkArea, TellsWhereThePointerIs)

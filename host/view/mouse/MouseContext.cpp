@@ -32,7 +32,7 @@ kernel::Frame* MouseContext::frame() const
 const FramePlot* MouseContext::activePlot() const
 {
     const FramePlot* plot = frame() ? renderer.plot(frame()->id()) : nullptr;
-    return plot && (plot->camera || plot->x) ? plot : nullptr;
+    return plot && plot->hasView() ? plot : nullptr;
 }
 
 QPointF MouseContext::inFrame(QPointF place) const

@@ -10,7 +10,8 @@ namespace vantrix::view {
 
 void TranslateTool::press(const QMouseEvent& event)
 {
-    m_movesPaper = !context().activePlot();
+    const FramePlot* plot = context().activePlot();
+    m_movesPaper = !plot || plot->polar; // the centre of a polar plot stays where it is
     m_last = event.position();
 }
 

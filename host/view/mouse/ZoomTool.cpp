@@ -14,7 +14,7 @@ namespace vantrix::view {
 void ZoomTool::press(const QMouseEvent& event)
 {
     const FramePlot* plot = context().activePlot();
-    m_drag = !plot ? Drag::None : plot->camera ? Drag::Magnify : Drag::RubberBand;
+    m_drag = !plot ? Drag::None : plot->camera || plot->polar ? Drag::Magnify : Drag::RubberBand;
     m_start = m_last = event.position();
 }
 
