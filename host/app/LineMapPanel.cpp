@@ -38,7 +38,7 @@ LineMapPanel::LineMapPanel(QWidget* parent)
     , m_list(new QListView(this))
 {
     auto* layout = new QVBoxLayout(this);
-    for (const auto& [name, text] : {std::pair("ShowLines", tr("&Lines")), std::pair("ShowSymbols", tr("S&ymbols"))}) {
+    for (const auto& [name, text] : {std::pair("ShowLines", tr("Li&nes")), std::pair("ShowSymbols", tr("S&ymbols"))}) {
         auto* box = new QCheckBox(text, this);
         box->setObjectName(QLatin1StringView(name));
         connect(box, &QCheckBox::clicked, this, [box](bool isOn) {

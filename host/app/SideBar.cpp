@@ -50,14 +50,13 @@ struct Layer
 };
 
 const Layer layers[] = {
-    {"FieldLayers", "ShowMesh", "ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Mesh")},
-    {"FieldLayers", "ShowContour", "ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Contour")},
-    {"FieldLayers", "ShowVector", "ShowVector", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "&Vector"), true},
-    {"FieldLayers", "ShowScatter", "ShowScatter", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&catter")},
-    {"FieldLayers", "ShowShade", "ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "S&hade")},
+    {"FieldLayers", "ShowMesh", "ShowMesh", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Me&sh")},
+    {"FieldLayers", "ShowContour", "ShowContour", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Conto&ur")},
+    {"FieldLayers", "ShowVector", "ShowVector", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ve&ctor"), true},
+    {"FieldLayers", "ShowScatter", "ShowScatter", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Sca&tter")},
+    {"FieldLayers", "ShowShade", "ShowShade", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Sh&ade")},
     {"FieldLayers", "ShowEdge", "ShowEdge", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Ed&ge")},
-    {"StreamtraceLayers", "Show", "ShowStreamtraces", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Streamt&races"),
-     true},
+    {"StreamtraceLayers", "Show", "ShowStreamtraces", QT_TRANSLATE_NOOP("vantrix::app::SideBar", "Streamtraces"), true},
 };
 
 /* The layer of a check box. */

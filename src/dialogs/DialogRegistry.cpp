@@ -86,7 +86,7 @@ std::vector<DialogEntry> const& dialogRegistry()
         entry<ProbeDialog>("&Data/&Probe...", "probe"),
         entry<ProbeAtDialog>("&Data/Probe &At...", "probe_at"),
         entry<ProbeHistoryDialog>("&Data/Probe &History...", "probe_history"),
-        entry<AxisEditDialog>("&Plot/&Axis...", "axis_details")
+        entry<AxisEditDialog>("P&lot/&Axis...", "axis_details")
             .editing(PickObject_Axis,
                      [](QWidget& parent) -> QtDialogAbstract& {
                          return AxisEditDialog::getInstance(parent, DialogInitialization_Picked);

@@ -15,6 +15,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -478,6 +479,29 @@ TEST_F(MainWindowTest, UnsavedWorkIsNotDroppedWithoutAsking)
     ASSERT_TRUE(VtxUtilLayoutNew());
     ASSERT_TRUE(VtxUtilLayoutOpen(path("a.vxlay").toUtf8().constData()));
     EXPECT_EQ(VtxUtilPageGetCount(), 3);
+}
+
+TEST_F(MainWindowTest, NoTwoAccessKeysAreTheSame)
+{
+    std::map<QString, QString> owners;
+    const auto claim = [&](const QString& text) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (!key.isEmpty()) {
+            const auto [owner, isFree] = owners.try_emplace(key, text);
+            EXPECT_TRUE(isFree) << key.toStdString() << ": " << owner->second.toStdString() << " and "
+                                << text.toStdString();
+        }
+    };
+    for (const QAction* menu : window.menuBar()->actions()) {
+        claim(menu->text());
+    }
+    EXPECT_EQ(owners.size(), static_cast<std::size_t>(window.menuBar()->actions().size())) << "each menu has one";
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->window() == &window) {
+            claim(widget->property(qobject_cast<const QGroupBox*>(widget) ? "title" : "text").toString());
+        }
+    }
+    EXPECT_GT(owners.size(), static_cast<std::size_t>(window.menuBar()->actions().size())) << "the side bar has some";
 }
 
 TEST_F(MainWindowTest, HelpOpensItsPages)
