@@ -148,7 +148,7 @@ void MainMenu::addPlotMenus()
 {
     new InsertMenu(menu(tr("&Insert")), m_window.workArea());
     new FrameMenu(menu(tr("F&rame")));
-    new PageMenu(menu(tr("Pa&ge")));
+    new PageMenu(menu(tr("&Page")));
 }
 
 void MainMenu::addDialogs()
