@@ -1,6 +1,5 @@
 #pragma once
 
-#include "kernel/streamtrace/StreamtracePaths.h"
 #include "view/ContourLegend.h"
 #include "view/LineLegend.h"
 #include "view/ScatterLegend.h"
@@ -18,9 +17,8 @@ namespace vantrix::view {
 class PlotLegends
 {
 public:
-    /* `frameHeight` in inches; `drawn` are the streamtraces of the plot, null for none. The style must outlive this. */
-    PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style,
-                const kernel::TracedStreamtraces* drawn);
+    /* `frameHeight` in inches. The style must outlive this. */
+    PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style);
 
     PlotLegends(const PlotLegends&) = delete;
     PlotLegends& operator=(const PlotLegends&) = delete;
