@@ -55,13 +55,30 @@ void FramePainter::setStreamtraces(std::shared_ptr<const kernel::TracedStreamtra
     }
 }
 
+void FramePainter::setObjects(const kernel::ObjectList<kernel::Geometry>& geometries,
+                              const kernel::ObjectList<kernel::Text>& texts)
+{
+    if (geometries != m_geometries || texts != m_texts) {
+        m_geometries = geometries;
+        m_texts = texts;
+        ++m_objectChanges;
+    }
+}
+
+QRectF FramePainter::extent(const QRectF& rect) const
+{
+    const FrameStyle& style = m_plot.style.frame;
+    const double outside = style.hasBorder ? 0.5 * style.borderThickness / 100.0 * rect.height() + 1.0 : 0.0;
+    return rect.adjusted(-outside, -outside, outside, outside);
+}
+
 void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request)
 {
     const Canvas canvas(onto, inch, edges, &m_plot.hits);
     m_plot.hits.begin(onto.transform().inverted() * QTransform::fromTranslate(-rect.left(), -rect.top()) *
                       QTransform::fromScale(1.0 / inch, 1.0 / inch));
     m_request = request;
-    m_isApproximate = mayApproximate();
+    m_isApproximate = mayApproximate(request);
     m_rect = rect;
     m_frameHeight = rect.height();
     m_plot.frameSize = rect.size() / canvas.inch;
@@ -282,24 +299,24 @@ bool FramePainter::hasTexts() const
     return !m_isApproximate || m_request.settings.approximatesTexts;
 }
 
-bool FramePainter::mayApproximate() const
+bool FramePainter::mayApproximate(const PaintRequest& request) const
 {
-    const RenderSettings& settings = m_request.settings;
-    if (!m_request.isForScreen || !settings.approximates || settings.keptPoints >= 1.0) {
+    const RenderSettings& settings = request.settings;
+    if (!request.isForScreen || !settings.approximates || settings.keptPoints >= 1.0) {
         return false;
     }
     switch (settings.approximation) {
     case PlotApproximationMode_AllAlwaysApproximated:
         return true;
     case PlotApproximationMode_NonActiveAlwaysApproximated:
-        if (!m_request.isActive) {
+        if (!request.isActive) {
             return true;
         }
         break;
     case PlotApproximationMode_Automatic:
         break;
     }
-    return m_request.isMoving && m_fullTime > settings.longestTime;
+    return request.isMoving && m_fullTime > settings.longestTime;
 }
 
 FieldScene& FramePainter::scene()

@@ -42,14 +42,19 @@ public:
 
     /* The geometries and texts over the plot, the last on top. The plot is not made again for them. */
     void setObjects(const kernel::ObjectList<kernel::Geometry>& geometries,
-                    const kernel::ObjectList<kernel::Text>& texts)
-    {
-        m_geometries = geometries;
-        m_texts = texts;
-    }
+                    const kernel::ObjectList<kernel::Text>& texts);
 
     /* The streamtraces that the plot draws; null for none. */
     void setStreamtraces(std::shared_ptr<const kernel::TracedStreamtraces> traced);
+
+    /* How often something was set that changes how the frame looks. */
+    unsigned long changeCount() const { return m_revision + m_objectChanges; }
+
+    /* All that painting it into a rectangle touches: half of its border lies outside. */
+    QRectF extent(const QRectF& rect) const;
+
+    /* Whether the frame would be painted approximately. */
+    bool mayApproximate(const PaintRequest& request) const;
 
     /* `rect` is where the frame lies, in the painter's logical units. */
     void paint(QPainter& painter, double inch, TextEdges edges, const QRectF& rect, const PaintRequest& request);
@@ -105,7 +110,6 @@ private:
     QRectF inFrame(const Canvas& canvas, const QRectF& rect) const;
     template<typename Render>
     void paintPicture(const Canvas& canvas, const QRectF& area, Render render);
-    bool mayApproximate() const;
     bool hasTexts() const;
     FieldScene& scene();
     void makeScene();
@@ -118,7 +122,8 @@ private:
     kernel::ObjectList<kernel::Geometry> m_geometries;
     kernel::ObjectList<kernel::Text> m_texts;
     std::shared_ptr<const kernel::TracedStreamtraces> m_traced;
-    unsigned long m_revision = 0;
+    unsigned long m_revision = 0;      /* of the plot */
+    unsigned long m_objectChanges = 0; /* of what lies over it */
     PaintRequest m_request;
     bool m_isApproximate = false;
     double m_fullTime = 0.0; /* seconds that the plot took in full */

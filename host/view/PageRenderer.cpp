@@ -8,6 +8,7 @@
 #include "kernel/StyleStore.h"
 #include "kernel/streamtrace/StreamtracePaths.h"
 #include "view/FramePainter.h"
+#include "view/FramePicture.h"
 #include "view/PaperStyle.h"
 #include "view/latex/LatexPictures.h"
 
@@ -27,6 +28,8 @@ struct PageRenderer::Impl
             : painter(window)
         {}
         FramePainter painter;
+        FramePicture onScreen;
+        long paintCount = 0;
         bool isRead = false;
         unsigned long scopeStamp = 0;
         std::shared_ptr<const kernel::DataSet> dataSet;
@@ -98,7 +101,21 @@ void PageRenderer::Impl::paint(QPainter& painter, const kernel::Frame& frame, co
     const PaintRequest request{settings(), isForScreen, isActive, isMoving && isActive, &latex};
     const TextEdges edges =
         !isForScreen ? TextEdges{} : TextEdges{settings().hasPlainTexts, settings().hasPlainSmallTexts};
-    entry(frame).painter.paint(painter, inch, edges, rect, request);
+    Entry& painted = entry(frame);
+    const auto paintNow = [&](QPainter& onto) {
+        ++painted.paintCount;
+        painted.painter.paint(onto, inch, edges, rect, request);
+    };
+    if (isForScreen) {
+        painted.onScreen.paint(painter, painted.painter.extent(rect),
+                               {painted.painter.changeCount(), request.settings, request.isMoving,
+                                painted.painter.mayApproximate(request)},
+                               paintNow);
+    } else {
+        // What is where in the frame is known of the last painting: the next one on the screen has to tell it again.
+        painted.onScreen.forget();
+        paintNow(painter);
+    }
 }
 
 void PageRenderer::Impl::paintAll(QPainter& painter, const kernel::Page& page, double inch, bool isForScreen)
@@ -207,6 +224,9 @@ QImage PageRenderer::frameImage(const kernel::Frame& frame, int width)
 void PageRenderer::forgetLatexErrors()
 {
     m_impl->latex.forgetErrors();
+    for (const auto& [id, entry] : m_impl->entries) {
+        entry->onScreen.forget();
+    }
 }
 
 void PageRenderer::setMoving(bool moving)
@@ -270,6 +290,12 @@ QPolygonF PageRenderer::handles(const kernel::PickedObject& object) const
     kernel::PickedObject inFrame = object;
     inFrame.frameId = 0;
     return found != m_impl->entries.end() ? found->second->painter.handles(inFrame) : QPolygonF();
+}
+
+long PageRenderer::paintCount(long frameId) const
+{
+    const auto found = m_impl->entries.find(frameId);
+    return found != m_impl->entries.end() ? found->second->paintCount : 0;
 }
 
 long PageRenderer::renderCount() const

@@ -29,8 +29,8 @@ struct RenderSettings;
  * Paints a page, or one frame of it, with any QPainter: the work area, an image, a printer.
  *
  * Places on a page are in inches from the upper left corner of its paper, Y pointing down. What was rendered for a
- * frame is kept and used again until the frame's style, its data set or the size in pixels changed. Field plots need a
- * graphics display; everything else paints without one.
+ * frame is kept and used again until the frame's style, its data set or the size in pixels changed; on the screen, the
+ * whole frame is. Field plots need a graphics display; everything else paints without one.
  */
 class PageRenderer
 {
@@ -101,6 +101,9 @@ public:
 
     /* Where an object that was picked shows handles, in inches from its frame's upper left corner. */
     QPolygonF handles(const kernel::PickedObject& object) const;
+
+    /* How often a frame was painted anew. */
+    long paintCount(long frameId) const;
 
     /* How often a field plot was rendered since this object was made. */
     long renderCount() const;
