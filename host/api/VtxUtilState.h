@@ -8,7 +8,7 @@ VTX_BEGIN_DECLS
 
 /*
  * The application lock. Every call that changes state is made under it. Locks nest; what is changed under the outermost
- * one is one step of undo and, when `record` is true, one command of a recorded macro.
+ * one is one step of undo and, from the first of the locks whose `record` is true on, one command of a recorded macro.
  */
 void VtxUtilLockStart(bool record);
 void VtxUtilLockFinish(void);

@@ -8,9 +8,10 @@ namespace vantrix::kernel {
 void ApplicationLock::start(bool record)
 {
     if (m_depth++ == 0) {
-        m_isRecorded = record;
+        m_isRecorded = false;
         m_undo.beginStep();
     }
+    m_isRecorded = m_isRecorded || record;
 }
 
 void ApplicationLock::finish()

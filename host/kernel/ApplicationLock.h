@@ -17,7 +17,8 @@ public:
         , m_recorder(recorder)
     {}
 
-    /* `record` counts for the outermost lock only: whether the step is one command of a recorded macro. */
+    /* What is changed from the first lock of a step that asks to `record` on is one command of a recorded macro: a
+     * widget may take a lock for what it does without knowing whether that changes state. */
     void start(bool record);
 
     /* Without a lock to finish it changes nothing and counts as a violation. */

@@ -92,11 +92,26 @@ TEST_F(UndoStackTest, OldestStepsGoWhenTheMemoryBoundIsPassed)
 
 using UndoTest = KernelTest;
 
+TEST_F(UndoTest, AStepIsRecordedFromTheFirstLockThatAsksForItOn)
+{
+    VtxUtilLockStart(false);
+    EXPECT_FALSE(kernel().lock().isRecorded());
+    VtxUtilLockStart(true);
+    EXPECT_TRUE(kernel().lock().isRecorded());
+    VtxUtilLockFinish();
+    EXPECT_TRUE(kernel().lock().isRecorded());
+    VtxUtilLockFinish();
+    EXPECT_FALSE(kernel().lock().isRecorded());
+    VtxUtilLockStart(false);
+    EXPECT_FALSE(kernel().lock().isRecorded()) << "the next step asks anew";
+    VtxUtilLockFinish();
+}
+
 TEST_F(UndoTest, SetsOfOneValueInAStepAreOneChangeAndTheLockNests)
 {
     VtxUtilLockStart(true);
     VtxUtilLockStart(false);
-    EXPECT_TRUE(kernel().lock().isRecorded()) << "the outermost lock decides";
+    EXPECT_TRUE(kernel().lock().isRecorded());
     style().set(style().entry("FrameLayout/Width"), -1, -1, 5.0);
     style().set(style().entry("FrameLayout/Width"), -1, -1, 6.0);
     VtxUtilLockFinish();
