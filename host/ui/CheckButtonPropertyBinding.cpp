@@ -43,9 +43,7 @@ void CheckButtonPropertyBinding::toggled(bool checked)
         return;
     }
     AppLock const lock(false);
-    if (!setProperty(checked)) {
-        updateWidget();
-    }
+    setProperty(checked);
 }
 
 } // namespace vantrix::sdk::ui::dialogs::propertybindings

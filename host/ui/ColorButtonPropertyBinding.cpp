@@ -26,8 +26,9 @@ void ColorButtonPropertyBinding::init()
 {
     QObject::connect(m_button, &common::ColorButton::colorChosen, &m_context, [this](int color) {
         AppLock const lock(false);
-        setProperty(color);
-        updateWidget();
+        if (setProperty(color)) {
+            updateWidget();
+        }
     });
     initWidget();
 }

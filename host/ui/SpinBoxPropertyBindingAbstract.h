@@ -50,9 +50,6 @@ private:
         AppLock const lock(false);
         if (this->setProperty(static_cast<T>(m_spinBox->value()))) {
             updateWidget();
-        } else {
-            updateWidget();
-            returnToRefusedEdit(*m_spinBox);
         }
     }
 

@@ -73,9 +73,11 @@ bool TextEditPropertyBinding::editingFinished()
         return false;
     }
     AppLock const lock(false);
-    bool const isTaken = setProperty(m_textEdit->toPlainText().toStdString());
+    if (!setProperty(m_textEdit->toPlainText().toStdString())) {
+        return false;
+    }
     updateWidget();
-    return isTaken;
+    return true;
 }
 
 } // namespace vantrix::sdk::ui::dialogs::propertybindings

@@ -167,10 +167,7 @@ void ComboBoxPropertyBinding<T>::takeEditedText()
     QModelIndex const edited = m_listModel->index(std::max(m_comboBox->currentIndex(), 0));
     if (!m_listModel->setData(edited, text)) {
         refuseEditedText(text);
-    } else if (value && !this->setProperty(*value)) {
-        this->updateWidget();
-        returnToRefusedEdit(*m_comboBox);
-    } else {
+    } else if (!value || this->setProperty(*value)) {
         this->updateWidget();
     }
 }

@@ -149,12 +149,11 @@ bool LineEditPropertyBindingAbstract<T>::setPropertyFromText(QString text)
     } catch (InvalidArgumentException const&) {
         return false;
     }
-    bool const accepted = this->setProperty(value);
-    this->updateWidget();
-    if (!accepted && m_lineEdit) {
-        returnToRefusedEdit(*m_lineEdit);
+    if (!this->setProperty(value)) {
+        return false;
     }
-    return accepted;
+    this->updateWidget();
+    return true;
 }
 
 /// Brings the property's value back and tells in the status line what was dropped.

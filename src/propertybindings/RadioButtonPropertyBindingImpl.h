@@ -4,6 +4,7 @@
 
 #include "propertybindings/RadioButtonPropertyBinding.h"
 
+#include "propertybindings/EditRefusal.h"
 #include "sdk/AppLock.h"
 
 namespace vantrix::sdk::ui::dialogs::propertybindings {
@@ -63,7 +64,12 @@ void RadioButtonPropertyBinding<T>::QButtonListener::buttonToggled(qwidgetobserv
 {
     if (button.button()->isChecked()) {
         AppLock const lock(false);
-        m_binding.setProperty(m_binding.m_buttonValue);
+        try {
+            m_binding.property().setValue(m_binding.m_buttonValue);
+        } catch (InvalidPropertyValueException const& exception) {
+            // The button stays as the user left it until the property changes: which one was checked is not known here.
+            showRefusal(exception);
+        }
     }
 }
 

@@ -40,7 +40,8 @@ protected:
     /// Brings the widget up to date with the property.
     void initWidget();
 
-    /// Sets the property from the widget. A refusal is shown to the user and gives false; other exceptions pass on.
+    /// Sets the property from the widget. A refusal is shown to the user, brings the property's value back to the
+    /// widget, gives it the focus and returns false; other exceptions pass on.
     bool setProperty(T const& value);
 
 private:
@@ -92,6 +93,10 @@ bool UIPropertyBindingAbstract<T>::setProperty(T const& value)
         return true;
     } catch (InvalidPropertyValueException const& exception) {
         showRefusal(exception);
+        updateWidget();
+        if (QWidget* const edited = widget()) {
+            returnToRefusedEdit(*edited);
+        }
         return false;
     }
 }
