@@ -28,7 +28,11 @@ public:
 
     ~PropertyTypeAdapter() override = default;
 
-    void storeValue(Outer const& value) override { m_source->setValue(m_toSource(value)); }
+    void storeValue(Outer const& value) override
+    {
+        boost::signals2::shared_connection_block const echo(m_sourceConnection);
+        m_source->setValue(m_toSource(value));
+    }
 
     Outer retrieveValue() const override { return m_toOuter(m_source->value()); }
 
