@@ -1,6 +1,7 @@
 #include "ui/relevance/StateChangeDependentRelevance.h"
 
 #include "api/VtxEnumerations.h"
+#include "sdk/AppLock.h"
 #include "sdk/StateChangeEventObservable.h"
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -21,6 +22,7 @@ StateChangeDependentRelevance::StateChangeDependentRelevance(Filter filter, Pred
 
 bool StateChangeDependentRelevance::isRelevant() const
 {
+    AppLock const lock(false);
     return m_predicate();
 }
 

@@ -19,7 +19,7 @@ public:
     explicit StateChangeDependentRelevance(Predicate predicate, std::string reason = {});
     StateChangeDependentRelevance(Filter filter, Predicate predicate, std::string reason = {});
 
-    /// Asks the predicate.
+    /// Asks the predicate, under the application lock.
     bool isRelevant() const override;
 
 private:
