@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QDialogButtonBox>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHideEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -90,7 +91,12 @@ void QtDialogAbstract::setVisible(bool visible)
 
 void QtDialogAbstract::reject()
 {
-    if (auto* const field = qobject_cast<QLineEdit*>(focusWidget())) {
+    QWidget* const edited = focusWidget();
+    auto* field = qobject_cast<QLineEdit*>(edited);
+    if (!field && edited) { // in a spin box or combo box
+        field = edited->findChild<QLineEdit*>();
+    }
+    if (field) {
         while (field->isUndoAvailable()) {
             field->undo();
         }
@@ -132,6 +138,7 @@ void QtDialogAbstract::prepare()
 {
     m_buttonBox = findChild<QDialogButtonBox*>();
     wrapContent();
+    leaveRoomForTitle();
     setUpButtons();
     setUpKeyboard();
     (new WheelGuard(this))->guard(*this);
@@ -144,6 +151,15 @@ void QtDialogAbstract::prepare()
     restorePersistentState();
     m_prepared = true;
     limitHeight();
+}
+
+/// Window managers show the name of the program, icons and buttons beside the title.
+void QtDialogAbstract::leaveRoomForTitle()
+{
+    constexpr int buttonsAndMargins = 120;
+    QString const title = windowTitle() + QStringLiteral(" - ") + QGuiApplication::applicationDisplayName();
+    m_content->setMinimumWidth(
+        std::max(m_content->minimumWidth(), fontMetrics().horizontalAdvance(title) + buttonsAndMargins));
 }
 
 /// Puts the form into a widget of its own, so that it is disabled as a whole and each control keeps a state of its own.

@@ -68,6 +68,7 @@ protected:
 private:
     void prepare();
     void wrapContent();
+    void leaveRoomForTitle();
     void setUpButtons();
     void setUpKeyboard();
     void focusFirstField();

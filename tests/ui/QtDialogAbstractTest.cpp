@@ -104,6 +104,24 @@ TEST_F(QtDialogAbstractTest, EscapeTakesTheEditBackAndCloses)
     EXPECT_EQ(textOf(*dialog.first), "kept");
 }
 
+TEST_F(QtDialogAbstractTest, EscapeTakesTheEditOfASpinBoxBackToo)
+{
+    SampleDialog dialog(parent);
+    QSpinBox* const box = dialog.number;
+    box->setKeyboardTracking(false);
+    box->setValue(7);
+    launch(dialog);
+    int changes = 0;
+    QObject::connect(box, &QSpinBox::valueChanged, [&] { ++changes; });
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, QStringLiteral("42"));
+    QTest::keyClick(box, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(box->value(), 7);
+    EXPECT_EQ(changes, 0);
+}
+
 TEST_F(QtDialogAbstractTest, DropEndsTheEditUnderWay)
 {
     SampleDialog dialog(parent);
