@@ -14,8 +14,6 @@ namespace vantrix::sdk::ui::common {
 
 namespace {
 
-constexpr int COLUMNS = 8;
-
 QIcon swatch(int color, QSize size)
 {
     QPixmap pixmap(size);
@@ -26,58 +24,89 @@ QIcon swatch(int color, QSize size)
     return pixmap;
 }
 
-/// The buttons of the colours; the arrow keys move the focus among them.
+/// The buttons of the colours: the basic ones, greys, and rows of hues. The arrow keys move the focus among them.
 class ColorGrid : public QWidget
 {
 public:
-    void add(QToolButton* button)
+    ColorGrid()
+        : m_layout(new QGridLayout(this))
     {
-        if (!m_layout) {
-            m_layout = new QGridLayout(this);
-            m_layout->setSpacing(2);
-        }
-        m_layout->addWidget(button, m_count / COLUMNS, m_count % COLUMNS);
-        ++m_count;
+        m_layout->setSpacing(2);
+    }
+
+    void add(QToolButton* button, int color)
+    {
+        Place const place = placeOf(color);
+        m_layout->addWidget(button, place.row, place.column);
+        button->installEventFilter(this);
     }
 
     void focus(int color)
     {
-        if (QLayoutItem* item = color >= 0 && color < m_count ? m_layout->itemAt(color) : nullptr) {
+        Place const place = placeOf(color >= 0 && color < toolbox::BASIC_COLOR_COUNT ? color : 0);
+        focus(place);
+    }
+
+protected:
+    // Buttons take arrow keys for the next and the previous one in the order of tabs.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        return event->type() == QEvent::KeyPress &&
+               takeKey(static_cast<QKeyEvent*>(event)->key(), *static_cast<QToolButton*>(watched));
+    }
+
+private:
+    struct Place
+    {
+        int row = 0;
+        int column = 0;
+    };
+
+    static Place placeOf(int color)
+    {
+        constexpr int inShortRow = 8;
+        if (color < toolbox::FIRST_HUE) {
+            return {color / inShortRow, color % inShortRow};
+        }
+        int const hue = color - toolbox::FIRST_HUE;
+        return {toolbox::FIRST_HUE / inShortRow + hue / toolbox::HUE_COUNT, hue % toolbox::HUE_COUNT};
+    }
+
+    bool takeKey(int key, QToolButton& button)
+    {
+        Place place;
+        int span = 1;
+        m_layout->getItemPosition(m_layout->indexOf(&button), &place.row, &place.column, &span, &span);
+        switch (key) {
+        case Qt::Key_Left:
+            focus({place.row, place.column - 1});
+            return true;
+        case Qt::Key_Right:
+            focus({place.row, place.column + 1});
+            return true;
+        case Qt::Key_Up:
+            focus({place.row - 1, place.column});
+            return true;
+        case Qt::Key_Down:
+            focus({place.row + 1, place.column});
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            button.click();
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    void focus(Place place)
+    {
+        if (QLayoutItem* const item = m_layout->itemAtPosition(place.row, place.column)) {
             item->widget()->setFocus();
         }
     }
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        int const present = m_layout->indexOf(focusWidget());
-        switch (event->key()) {
-        case Qt::Key_Left:
-            focus(present - 1);
-            break;
-        case Qt::Key_Right:
-            focus(present + 1);
-            break;
-        case Qt::Key_Up:
-            focus(present - COLUMNS);
-            break;
-        case Qt::Key_Down:
-            focus(present + COLUMNS);
-            break;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (auto* button = qobject_cast<QToolButton*>(focusWidget())) {
-                button->click();
-            }
-            break;
-        default:
-            QWidget::keyPressEvent(event);
-        }
-    }
-
-private:
-    QGridLayout* m_layout = nullptr;
-    int m_count = 0;
+    QGridLayout* m_layout;
 };
 
 } // namespace
@@ -86,9 +115,16 @@ ColorButton::ColorButton(QWidget* parent)
     : QPushButton(parent)
     , m_popup(new QMenu(this))
 {
-    fillPopup();
-    connect(this, &QPushButton::clicked, this, [this] { m_popup->popup(mapToGlobal(rect().bottomLeft())); });
+    connect(this, &QPushButton::clicked, this, [this] { popup().popup(mapToGlobal(rect().bottomLeft())); });
     setColor(0);
+}
+
+QMenu& ColorButton::popup()
+{
+    if (m_popup->isEmpty()) {
+        fillPopup();
+    }
+    return *m_popup;
 }
 
 void ColorButton::fillPopup()
@@ -97,11 +133,11 @@ void ColorButton::fillPopup()
     for (int color = 0; color < toolbox::BASIC_COLOR_COUNT; ++color) {
         auto* button = new QToolButton(grid);
         button->setIcon(swatch(color, QSize(16, 16)));
-        button->setToolTip(QString::fromLatin1(toolbox::basicColorName(color)));
+        button->setToolTip(QString::fromStdString(toolbox::basicColorName(color)));
         button->setAccessibleName(button->toolTip());
         button->setProperty("color", color);
         connect(button, &QToolButton::clicked, this, [this, color] { choose(color); });
-        grid->add(button);
+        grid->add(button, color);
     }
     auto* action = new QWidgetAction(m_popup);
     action->setDefaultWidget(grid);
@@ -114,7 +150,7 @@ void ColorButton::setColor(int color)
     m_color = color;
     setIconSize(QSize(32, 16));
     setIcon(swatch(color, iconSize()));
-    setToolTip(QString::fromLatin1(toolbox::basicColorName(color)));
+    setToolTip(QString::fromStdString(toolbox::basicColorName(color)));
 }
 
 void ColorButton::choose(int color)

@@ -22,7 +22,7 @@ public:
     void setColor(int color);
 
     /// The popup with a tool button for each colour, which has the colour's number as its property "color".
-    QMenu& popup() const { return *m_popup; }
+    QMenu& popup();
 
 Q_SIGNALS:
     /// The user chose a colour, perhaps the present one.
@@ -33,7 +33,7 @@ private:
     void choose(int color);
 
     int m_color = 0;
-    QMenu* m_popup;
+    QMenu* m_popup; ///< empty until it is shown first: a dialog may have many buttons
 };
 
 } // namespace vantrix::sdk::ui::common

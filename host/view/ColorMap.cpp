@@ -1,6 +1,6 @@
 #include "view/ColorMap.h"
 
-#include "kernel/Palette.h"
+#include "toolbox/BasicColors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -86,8 +86,7 @@ std::vector<std::string> ColorMap::names()
 
 QColor indexedColor(long index)
 {
-    const kernel::RgbColor color = kernel::paletteColor(index);
-    return {color.red, color.green, color.blue};
+    return QColor::fromRgb(toolbox::basicColor(index));
 }
 
 } // namespace vantrix::view

@@ -4,10 +4,13 @@
 #include "support/RecordingHost.h"
 #include "toolbox/BasicColors.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QTest>
 #include <QToolButton>
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace {
 
@@ -41,6 +44,16 @@ TEST_F(ColorButtonBinding, ShowsTheColourOfTheProperty)
     EXPECT_EQ(button.popup().findChildren<QToolButton*>().size(), toolbox::BASIC_COLOR_COUNT);
 }
 
+TEST_F(ColorButtonBinding, EveryColourHasANameOfItsOwn)
+{
+    std::set<QString> names;
+    for (int color = 0; color < toolbox::BASIC_COLOR_COUNT; ++color) {
+        names.insert(swatch(color).toolTip());
+    }
+    EXPECT_EQ(names.size(), std::size_t{toolbox::BASIC_COLOR_COUNT});
+    EXPECT_EQ(swatch(17).toolTip(), QStringLiteral("Dark orange"));
+}
+
 TEST_F(ColorButtonBinding, SetsTheColourThatTheUserClicks)
 {
     ColorButtonPropertyBinding const binding(&button, property, BindingInterface::Immediate);
@@ -58,6 +71,12 @@ TEST_F(ColorButtonBinding, IsWorkedWithTheKeyboard)
     QTest::keyClick(&button, Qt::Key_Space);
     ASSERT_TRUE(button.popup().isVisible());
     QTest::keyClick(&swatch(1), Qt::Key_Right);
+    QTest::keyClick(&swatch(2), Qt::Key_Down);
+    QTest::keyClick(&swatch(10), Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), &swatch(18)) << "below greys lie the dark hues";
+    QTest::keyClick(&swatch(18), Qt::Key_Up);
+    QTest::keyClick(&swatch(10), Qt::Key_Up);
+    QTest::keyClick(&swatch(2), Qt::Key_Up);
     QTest::keyClick(&swatch(2), Qt::Key_Space);
     EXPECT_EQ(property->value(), 2);
 }
