@@ -33,6 +33,10 @@ void VtxUtilStringDealloc(char** string);
  * succeeds leaves the text. */
 char* VtxUtilGetLastErrorString(void);
 
+/* Whether that failure was the user's wish: long work that was stopped, of which nobody has to be told as of an error.
+ */
+bool VtxUtilLastErrorIsCancellation(void);
+
 VTX_END_DECLS
 
 #endif

@@ -2,7 +2,7 @@
 
 #include "api/VtxUtil.h"
 #include "sdk/AppLock.h"
-#include "toolbox/HostString.h"
+#include "sdk/VtxUtilActionReporter.h"
 
 #include <QMenu>
 
@@ -19,7 +19,7 @@ QAction* addHostAction(QMenu& menu, const QString& text, const QString& objectNa
             isDone = call();
         }
         if (!isDone) {
-            VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+            sdk::VtxUtilActionReporter().reportLastFailure();
         }
     });
     return action;

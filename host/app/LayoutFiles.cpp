@@ -3,8 +3,8 @@
 #include "api/VtxUtil.h"
 #include "kernel/Kernel.h"
 #include "kernel/Layout.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "sdk/WaitState.h"
-#include "toolbox/HostString.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -46,7 +46,7 @@ QString LayoutFiles::title(const QString& untitled) const
 bool LayoutFiles::attempt(bool isDone)
 {
     if (!isDone) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        sdk::VtxUtilActionReporter().reportLastFailure();
     }
     return isDone;
 }

@@ -3,6 +3,7 @@
 #include "api/VtxUtil.h"
 #include "app/LineMapItemModel.h"
 #include "sdk/AppLock.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "toolbox/HostString.h"
 #include "toolbox/Set.h"
 #include "toolbox/StyleValue.h"
@@ -26,7 +27,7 @@ toolbox::StyleValue lineLayer(const QCheckBox& box)
 void reportUnless(bool isDone)
 {
     if (!isDone) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        sdk::VtxUtilActionReporter().reportLastFailure();
     }
 }
 

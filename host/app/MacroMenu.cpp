@@ -1,8 +1,8 @@
 #include "app/MacroMenu.h"
 
 #include "api/VtxUtil.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "sdk/WaitState.h"
-#include "toolbox/HostString.h"
 
 #include <QFileDialog>
 #include <QMenu>
@@ -39,7 +39,7 @@ QString askForFile(QWidget& window, const QString& title, QFileDialog::AcceptMod
 void report(bool isDone)
 {
     if (!isDone) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        sdk::VtxUtilActionReporter().reportLastFailure();
     }
 }
 

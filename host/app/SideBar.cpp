@@ -6,7 +6,7 @@
 #include "app/VectorVariablesDialog.h"
 #include "app/ZoneListView.h"
 #include "sdk/AppLock.h"
-#include "toolbox/HostString.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "toolbox/StyleValue.h"
 
 #include <QCheckBox>
@@ -146,7 +146,7 @@ void SideBar::setPlotType()
         isSet = VtxUtilFrameSetPlotType(type);
     }
     if (!isSet) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        sdk::VtxUtilActionReporter().reportLastFailure();
     }
     update();
 }

@@ -3,6 +3,7 @@
 #include "api/VtxUtil.h"
 #include "app/TextDialog.h"
 #include "sdk/AppLock.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "toolbox/ArgList.h"
 #include "toolbox/HostString.h"
 
@@ -12,7 +13,7 @@ namespace {
 
 void showError()
 {
-    VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    sdk::VtxUtilActionReporter().reportLastFailure();
 }
 
 } // namespace

@@ -16,7 +16,8 @@ void addCoordinates(MacroCommand& command, const CoordinateVariables& coordinate
 }
 
 template<class Description>
-void addZone(const Description& description, const MacroCommand& command, DataSet& dataSet)
+void addZone(const Description& description, const MacroCommand& command, DataSet& dataSet,
+             const ReportProgress& progress)
 {
     if (dataSet.variables.empty()) {
         dataSet.variables = {{"X", true}, {"Y", true}};
@@ -31,7 +32,7 @@ void addZone(const Description& description, const MacroCommand& command, DataSe
             throw DataError(command.name + ": there is no variable " + std::to_string(variable) + '.');
         }
     }
-    dataSet.addZone(makeZone(description, dataSet.variableCount(), coordinates));
+    dataSet.addZone(makeZone(description, dataSet.variableCount(), coordinates, progress));
 }
 
 CircularZone circularZone(const MacroCommand& command)
@@ -115,7 +116,7 @@ void DataHistory::deleteZones(const std::set<long>& zones, DataSet& dataSet)
     dataSet.zoneEnabled.resize(kept);
 }
 
-void DataHistory::apply(const MacroCommand& command, DataSet& dataSet, const Progress& progress)
+void DataHistory::apply(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress)
 {
     if (command.name == "DataRead") {
         const MacroValue* value = command.find("Files");
@@ -127,9 +128,9 @@ void DataHistory::apply(const MacroCommand& command, DataSet& dataSet, const Pro
     } else if (command.name == "DataReadSample") {
         SampleData::make(command.text("Name"), dataSet);
     } else if (command.name == "CreateCircularZone") {
-        addZone(circularZone(command), command, dataSet);
+        addZone(circularZone(command), command, dataSet, progress);
     } else if (command.name == "CreateRectangularZone") {
-        addZone(rectangularZone(command), command, dataSet);
+        addZone(rectangularZone(command), command, dataSet, progress);
     } else if (command.name == "DataSetDeleteZone") {
         const MacroValue* value = command.find("Zones");
         const auto* zones = value ? std::get_if<std::set<long>>(value) : nullptr;

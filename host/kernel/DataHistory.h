@@ -2,8 +2,8 @@
 
 #include "kernel/DataSet.h"
 #include "kernel/OrderedZones.h"
+#include "kernel/Progress.h"
 
-#include <functional>
 #include <set>
 #include <vector>
 
@@ -22,11 +22,9 @@ public:
     static MacroCommand creating(const RectangularZone& zone, const CoordinateVariables& coordinates);
     static MacroCommand deleting(const std::set<long>& zones);
 
-    using Progress = std::function<bool(double)>;
-
     /* Does a command to a data set that nobody shows yet, and keeps it in the history. Throws DataError for one that
      * is not known or cannot be done, ActionCancelled when `progress` asked to stop. */
-    static void apply(const MacroCommand& command, DataSet& dataSet, const Progress& progress);
+    static void apply(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress);
 
     /* Deletes zones of a data set that nobody shows yet. */
     static void deleteZones(const std::set<long>& zones, DataSet& dataSet);

@@ -59,7 +59,7 @@ void expectReadable(const std::string& file)
 class Run
 {
 public:
-    Run(const DataReader::Progress& progress, std::size_t readerCount, const std::string& onlyVariable)
+    Run(const ReportProgress& progress, std::size_t readerCount, const std::string& onlyVariable)
         : m_progress(progress)
         , m_onlyVariable(onlyVariable)
         , m_share(1.0 / static_cast<double>(readerCount))
@@ -107,7 +107,7 @@ private:
         }
     }
 
-    const DataReader::Progress& m_progress;
+    const ReportProgress& m_progress;
     const std::string& m_onlyVariable; /* empty for all */
     VtkMessages m_messages;
     double m_share;
@@ -183,7 +183,7 @@ void readPlot3d(const std::vector<std::string>& files, Run& run, BlockImport& bl
 
 /* `onlyVariable` is empty for all. */
 void readFiles(const std::vector<std::string>& files, const std::string& onlyVariable, DataSet& dataSet,
-               const DataReader::Progress& progress)
+               const ReportProgress& progress)
 {
     if (files.empty()) {
         throw DataError("No file is named. Choose at least one.");
@@ -219,7 +219,7 @@ void readFiles(const std::vector<std::string>& files, const std::string& onlyVar
 
 } // namespace
 
-void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, const Progress& progress)
+void DataReader::read(const std::vector<std::string>& files, DataSet& dataSet, const ReportProgress& progress)
 {
     readFiles(files, {}, dataSet, progress);
     VariableFiles::attach(dataSet, files);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "kernel/DataSet.h"
+#include "kernel/Progress.h"
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,15 +32,12 @@ namespace vantrix::kernel {
 class DataReader
 {
 public:
-    /* Takes a fraction from 0 to 1; returns false to stop. */
-    using Progress = std::function<bool(double)>;
-
     /*
      * `dataSet` is empty. Throws DataError, with a text that names the file, the cause and what would be right, when a
      * file is missing, of no known format, damaged, not complete or without points, and ActionCancelled when `progress`
      * asked to stop. What `dataSet` holds then is to be thrown away. Prints nothing.
      */
-    static void read(const std::vector<std::string>& files, DataSet& dataSet, const Progress& progress);
+    static void read(const std::vector<std::string>& files, DataSet& dataSet, const ReportProgress& progress);
 
     /*
      * Reads the same files again for the sake of one variable: `dataSet` gets the zones that it had, with the

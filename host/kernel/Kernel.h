@@ -65,7 +65,12 @@ public:
 
     /* The text of the last failure; see VtxUtilGetLastErrorString(). */
     const std::string& lastError() const { return m_lastError; }
-    void setLastError(std::string text) { m_lastError = std::move(text); }
+    bool isLastErrorCancellation() const { return m_isLastErrorCancellation; }
+    void setLastError(std::string text, bool isCancellation = false)
+    {
+        m_lastError = std::move(text);
+        m_isLastErrorCancellation = isCancellation;
+    }
 
     /* Back to one page with one empty frame, default style, no history. Sends `StateChange_NewLayout`. */
     void reset();
@@ -91,6 +96,7 @@ private:
     std::unique_ptr<FrontEnd> m_noFrontEnd;
     FrontEnd* m_frontEnd = nullptr;
     std::string m_lastError;
+    bool m_isLastErrorCancellation = false;
     long m_waits = 0;
 };
 

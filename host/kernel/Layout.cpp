@@ -242,20 +242,16 @@ void Layout::load(const std::string& file)
     if (!stream || std::filesystem::is_directory(file)) {
         throw DataError("Cannot read the layout \"" + file + "\"; is there such a file, and may you read it?");
     }
-    const char* const task = "Opening layout";
-    FrontEnd& frontEnd = m_kernel.frontEnd();
-    LayoutReader reader(m_kernel.document(), m_kernel.style(),
-                        [&](double fraction) { return frontEnd.reportProgress(task, fraction); });
+    std::optional<Progress> progress(std::in_place, m_kernel.frontEnd(), "Opening layout");
+    LayoutReader reader(m_kernel.document(), m_kernel.style(), progress->report());
     try {
         reader.read(stream, folderOf(file));
     } catch (const ActionCancelled&) {
-        frontEnd.reportProgress(task, 2.0);
         throw;
     } catch (const DataError& failure) {
-        frontEnd.reportProgress(task, 2.0);
         throw DataError("Layout \"" + file + "\", " + failure.what());
     }
-    frontEnd.reportProgress(task, 2.0);
+    progress.reset();
 
     StyleStore& style = m_kernel.style();
     drop();
@@ -265,10 +261,10 @@ void Layout::load(const std::string& file)
     m_kernel.document().replacePages(std::move(reader.pages), reader.activePage);
     m_unknown = std::move(reader.unknown);
     if (const std::vector<std::string>& texts = m_unknown.texts; !texts.empty()) {
-        frontEnd.showStatus("The layout has " + std::to_string(texts.size()) +
-                            (texts.size() == 1 ? " entry or value" : " entries or values") +
-                            " that this program does not know; the first is " + texts.front() +
-                            ". They are kept when it is saved.");
+        m_kernel.frontEnd().showStatus("The layout has " + std::to_string(texts.size()) +
+                                       (texts.size() == 1 ? " entry or value" : " entries or values") +
+                                       " that this program does not know; the first is " + texts.front() +
+                                       ". They are kept when it is saved.");
     }
 }
 

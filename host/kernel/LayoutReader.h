@@ -23,7 +23,7 @@ namespace vantrix::kernel {
 class LayoutReader
 {
 public:
-    LayoutReader(Document& document, const StyleStore& style, DataHistory::Progress progress)
+    LayoutReader(Document& document, const StyleStore& style, ReportProgress progress)
         : m_document(document)
         , m_style(style)
         , m_progress(std::move(progress))
@@ -60,7 +60,7 @@ private:
 
     Document& m_document;
     const StyleStore& m_style;
-    DataHistory::Progress m_progress;
+    ReportProgress m_progress;
     std::filesystem::path m_folder;
     bool m_hasHead = false;
     std::unique_ptr<DataSet> m_dataSet; /* being made */

@@ -5,9 +5,9 @@
 #include "kernel/DataHistory.h"
 #include "kernel/DataReader.h"
 #include "kernel/Document.h"
-#include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
 #include "kernel/PlotDefaults.h"
+#include "kernel/Progress.h"
 #include "kernel/SampleData.h"
 #include "kernel/UndoStack.h"
 #include "kernel/macro/MacroRecorder.h"
@@ -16,52 +16,12 @@
 
 namespace vantrix::kernel {
 
-namespace {
-
-class Busy
-{
-public:
-    explicit Busy(FrontEnd& frontEnd)
-        : m_frontEnd(frontEnd)
-    {
-        m_frontEnd.setBusy(true);
-    }
-    ~Busy() { m_frontEnd.setBusy(false); }
-    Busy(const Busy&) = delete;
-    Busy& operator=(const Busy&) = delete;
-
-private:
-    FrontEnd& m_frontEnd;
-};
-
-/* Takes the progress away from the screen however the work ends. */
-class Progress
-{
-public:
-    Progress(FrontEnd& frontEnd, std::string task)
-        : m_frontEnd(frontEnd)
-        , m_task(std::move(task))
-    {}
-    ~Progress() { m_frontEnd.reportProgress(m_task, 2.0); }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-
-    bool report(double fraction) { return m_frontEnd.reportProgress(m_task, fraction); }
-
-private:
-    FrontEnd& m_frontEnd;
-    std::string m_task;
-};
-
-} // namespace
-
 void OpenData::files(const std::vector<std::string>& names)
 {
     DataSet read = m_kernel.document().newDataSet();
     {
-        const Busy busy(m_kernel.frontEnd());
-        Progress progress(m_kernel.frontEnd(), "Reading data");
-        DataReader::read(names, read, [&](double fraction) { return progress.report(fraction); });
+        const Progress progress(m_kernel.frontEnd(), "Reading data");
+        DataReader::read(names, read, progress.report());
     }
     std::vector<std::string> paths;
     paths.reserve(names.size());

@@ -68,36 +68,70 @@ std::vector<double> spaced(long count, double first, double last)
     return values;
 }
 
+constexpr long valuesBetweenReports = 4'000'000;
+
 template<typename T, typename ValueAt>
-void fillOrdered(T* values, const std::array<long, 3>& dimensions, const ValueAt& valueAt)
+void fillRows(T* values, const std::array<long, 3>& dimensions, long begin, long end, const ValueAt& valueAt)
 {
-    const auto [iMax, jMax, kMax] = dimensions;
-    parallelFor(jMax * kMax, [&, iCount = iMax, jCount = jMax](long begin, long end) {
-        for (long row = begin; row < end; ++row) {
-            T* target = values + row * iCount;
-            for (long i = 0; i < iCount; ++i) {
-                target[i] = static_cast<T>(valueAt(static_cast<std::size_t>(i), static_cast<std::size_t>(row % jCount),
-                                                   static_cast<std::size_t>(row / jCount)));
+    const long iMax = dimensions[0];
+    const long jMax = dimensions[1];
+    parallelFor(end - begin, [&](long first, long last) {
+        for (long row = begin + first; row < begin + last; ++row) {
+            T* target = values + row * iMax;
+            for (long i = 0; i < iMax; ++i) {
+                target[i] = static_cast<T>(valueAt(static_cast<std::size_t>(i), static_cast<std::size_t>(row % jMax),
+                                                   static_cast<std::size_t>(row / jMax)));
             }
         }
     });
 }
 
-/* Fills the coordinate of one axis, where a variable serves as it. */
-template<typename ValueAt>
-void setCoordinate(Zone& zone, long variable, FieldDataType_e type, const ValueAt& valueAt)
+/* Fills the coordinates of a zone one after another and reports how far it is. */
+class CoordinateFiller
 {
-    if (variable < 1 || variable > static_cast<long>(zone.fields.size())) {
-        return;
+public:
+    CoordinateFiller(Zone& zone, FieldDataType_e type, const ReportProgress& progress)
+        : m_zone(zone)
+        , m_type(type)
+        , m_progress(progress)
+    {}
+
+    /* Fills the coordinate of the next axis, where a variable serves as it. */
+    template<typename ValueAt>
+    void fill(long variable, const ValueAt& valueAt)
+    {
+        if (variable >= 1 && variable <= static_cast<long>(m_zone.fields.size())) {
+            const vtkSmartPointer<vtkDataArray> values = makeValues(m_type, m_zone.pointCount());
+            if (auto* singles = vtkFloatArray::FastDownCast(values)) {
+                fill(singles->GetPointer(0), valueAt);
+            } else {
+                fill(vtkDoubleArray::FastDownCast(values)->GetPointer(0), valueAt);
+            }
+            m_zone.fields[static_cast<std::size_t>(variable - 1)].values = values;
+        }
+        ++m_filledCount;
     }
-    const vtkSmartPointer<vtkDataArray> values = makeValues(type, zone.pointCount());
-    if (auto* singles = vtkFloatArray::FastDownCast(values)) {
-        fillOrdered(singles->GetPointer(0), zone.dimensions(), valueAt);
-    } else {
-        fillOrdered(vtkDoubleArray::FastDownCast(values)->GetPointer(0), zone.dimensions(), valueAt);
+
+private:
+    template<typename T, typename ValueAt>
+    void fill(T* values, const ValueAt& valueAt) const
+    {
+        const auto dimensions = m_zone.dimensions();
+        const long rows = dimensions[1] * dimensions[2];
+        const long rowsAtOnce = std::max(1L, valuesBetweenReports / dimensions[0]);
+        for (long row = 0; row < rows; row += rowsAtOnce) {
+            if (m_progress && !m_progress((m_filledCount + double(row) / double(rows)) / 3.0)) {
+                throw ActionCancelled();
+            }
+            fillRows(values, dimensions, row, std::min(rows, row + rowsAtOnce), valueAt);
+        }
     }
-    zone.fields[static_cast<std::size_t>(variable - 1)].values = values;
-}
+
+    Zone& m_zone;
+    FieldDataType_e m_type;
+    const ReportProgress& m_progress;
+    int m_filledCount = 0;
+};
 
 void setOthersToZero(Zone& zone, FieldDataType_e type)
 {
@@ -115,7 +149,8 @@ void setOthersToZero(Zone& zone, FieldDataType_e type)
 
 } // namespace
 
-Zone makeZone(const CircularZone& circle, long variableCount, const CoordinateVariables& coordinates)
+Zone makeZone(const CircularZone& circle, long variableCount, const CoordinateVariables& coordinates,
+              const ReportProgress& progress)
 {
     expectFloatingPoint(circle.dataType);
     expectDimension("I", circle.iMax, 2);
@@ -146,17 +181,18 @@ Zone makeZone(const CircularZone& circle, long variableCount, const CoordinateVa
     sines.back() = sines.front();
 
     zone.fields.resize(static_cast<std::size_t>(variableCount));
-    setCoordinate(zone, coordinates[0], circle.dataType,
-                  [&](std::size_t i, std::size_t j, std::size_t) { return circle.xOrigin + radii[i] * cosines[j]; });
-    setCoordinate(zone, coordinates[1], circle.dataType,
-                  [&](std::size_t i, std::size_t j, std::size_t) { return circle.yOrigin + radii[i] * sines[j]; });
-    setCoordinate(zone, coordinates[2], circle.dataType,
-                  [&](std::size_t, std::size_t, std::size_t k) { return heights[k]; });
+    CoordinateFiller filler(zone, circle.dataType, progress);
+    filler.fill(coordinates[0],
+                [&](std::size_t i, std::size_t j, std::size_t) { return circle.xOrigin + radii[i] * cosines[j]; });
+    filler.fill(coordinates[1],
+                [&](std::size_t i, std::size_t j, std::size_t) { return circle.yOrigin + radii[i] * sines[j]; });
+    filler.fill(coordinates[2], [&](std::size_t, std::size_t, std::size_t k) { return heights[k]; });
     setOthersToZero(zone, circle.dataType);
     return zone;
 }
 
-Zone makeZone(const RectangularZone& box, long variableCount, const CoordinateVariables& coordinates)
+Zone makeZone(const RectangularZone& box, long variableCount, const CoordinateVariables& coordinates,
+              const ReportProgress& progress)
 {
     expectFloatingPoint(box.dataType);
     expectDimension("I", box.iMax, 1);
@@ -175,9 +211,10 @@ Zone makeZone(const RectangularZone& box, long variableCount, const CoordinateVa
     const std::vector<double> y = spaced(box.jMax, box.yMin, box.yMax);
     const std::vector<double> z = spaced(box.kMax, box.zMin, box.zMax);
     zone.fields.resize(static_cast<std::size_t>(variableCount));
-    setCoordinate(zone, coordinates[0], box.dataType, [&](std::size_t i, std::size_t, std::size_t) { return x[i]; });
-    setCoordinate(zone, coordinates[1], box.dataType, [&](std::size_t, std::size_t j, std::size_t) { return y[j]; });
-    setCoordinate(zone, coordinates[2], box.dataType, [&](std::size_t, std::size_t, std::size_t k) { return z[k]; });
+    CoordinateFiller filler(zone, box.dataType, progress);
+    filler.fill(coordinates[0], [&](std::size_t i, std::size_t, std::size_t) { return x[i]; });
+    filler.fill(coordinates[1], [&](std::size_t, std::size_t j, std::size_t) { return y[j]; });
+    filler.fill(coordinates[2], [&](std::size_t, std::size_t, std::size_t k) { return z[k]; });
     setOthersToZero(zone, box.dataType);
     return zone;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/DataSet.h"
+#include "kernel/Progress.h"
 #include "kernel/ZoneGrid.h"
 
 namespace vantrix::kernel {
@@ -27,9 +28,12 @@ struct RectangularZone
  * A zone with as many variables as the data set it is for; the ones that serve as coordinates (0 for none) have the
  * points' places, all others are 0 and share one array. Throws DataError, before it takes memory, for a dimension that
  * is too small or too large, a place that is no number or is not to be held in the data type, and any data type but
- * single and double precision.
+ * single and double precision; ActionCancelled when `progress` asked to stop. Other threads fill the values, but
+ * `progress` is called on this one.
  */
-Zone makeZone(const CircularZone& description, long variableCount, const CoordinateVariables& coordinates);
-Zone makeZone(const RectangularZone& description, long variableCount, const CoordinateVariables& coordinates);
+Zone makeZone(const CircularZone& description, long variableCount, const CoordinateVariables& coordinates,
+              const ReportProgress& progress = {});
+Zone makeZone(const RectangularZone& description, long variableCount, const CoordinateVariables& coordinates,
+              const ReportProgress& progress = {});
 
 } // namespace vantrix::kernel

@@ -6,6 +6,7 @@
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/PlotDefaults.h"
+#include "kernel/Progress.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 
@@ -35,9 +36,11 @@ void ZoneActions::createZone(const Description& description)
     if (!frame) {
         throw DataError("There is no frame to create a zone in. Create a frame first.");
     }
+    const Progress progress(m_kernel.frontEnd(), "Creating zone");
     if (!frame->dataSet()) {
         DataSet made = document.newDataSet();
-        DataHistory::apply(DataHistory::creating(description, {1, 2, description.kMax > 1 ? 3 : 0}), made, {});
+        DataHistory::apply(DataHistory::creating(description, {1, 2, description.kMax > 1 ? 3 : 0}), made,
+                           progress.report());
         document.attachDataSet(*frame, std::make_shared<const DataSet>(std::move(made)));
         PlotDefaults::apply(*frame);
         return;
@@ -46,7 +49,7 @@ void ZoneActions::createZone(const Description& description)
     expectFieldPlot(style.integer(frame->id(), style.entry("PlotType")), description.kMax);
     const AxisVariables axes = axisVariables(style, *frame);
     DataSet changed = *frame->dataSet();
-    DataHistory::apply(DataHistory::creating(description, {axes.x, axes.y, axes.z}), changed, {});
+    DataHistory::apply(DataHistory::creating(description, {axes.x, axes.y, axes.z}), changed, progress.report());
     document.replaceDataSet(std::move(changed), {StateChange_ZonesAdded});
 }
 

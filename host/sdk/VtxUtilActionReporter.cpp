@@ -1,6 +1,8 @@
 #include "sdk/VtxUtilActionReporter.h"
 
+#include "api/VtxUtilBase.h"
 #include "api/VtxUtilDialog.h"
+#include "toolbox/HostString.h"
 
 namespace vantrix::sdk {
 
@@ -8,9 +10,23 @@ void VtxUtilActionReporter::reportResult(bool result, std::string const& failure
                                          std::string const& successText) const
 {
     if (!result) {
-        VtxUtilDialogErrMsg(failureText.c_str());
+        reportFailure(failureText);
     } else if (!successText.empty()) {
         VtxUtilStatusMessage(successText.c_str());
+    }
+}
+
+void VtxUtilActionReporter::reportLastFailure() const
+{
+    reportFailure(toolbox::takeHostString(VtxUtilGetLastErrorString()));
+}
+
+void VtxUtilActionReporter::reportFailure(std::string const& text) const
+{
+    if (VtxUtilLastErrorIsCancellation()) {
+        VtxUtilStatusMessage(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+    } else {
+        VtxUtilDialogErrMsg(text.c_str());
     }
 }
 

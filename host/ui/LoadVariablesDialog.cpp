@@ -2,6 +2,7 @@
 
 #include "api/VtxUtil.h"
 #include "sdk/AppLock.h"
+#include "sdk/VtxUtilActionReporter.h"
 #include "sdk/WaitState.h"
 #include "toolbox/HostString.h"
 #include "toolbox/Set.h"
@@ -93,7 +94,7 @@ void LoadVariablesDialog::accept()
         loaded = VtxUtilDataValueLoad(m_zone, chosen.handle());
     }
     if (!loaded) {
-        VtxUtilDialogErrMsg(toolbox::takeHostString(VtxUtilGetLastErrorString()).c_str());
+        sdk::VtxUtilActionReporter().reportLastFailure();
         return;
     }
     QtDialogAbstract::accept();

@@ -21,6 +21,17 @@ TEST(VtxUtilActionReporter, ShowsExactlyTheTextOfTheResult)
     EXPECT_THAT(host.statusMessages, ElementsAre("Zone made."));
 }
 
+TEST(VtxUtilActionReporter, ShowsNoErrorForWhatTheUserStopped)
+{
+    RecordingHost& host = RecordingHost::instance();
+    host.reset();
+    host.isCancelled = true;
+    VtxUtilActionReporter().reportResult(false, "No zone.", "Zone made.");
+    VtxUtilActionReporter().reportLastFailure();
+    EXPECT_TRUE(host.errors.empty());
+    EXPECT_EQ(host.statusMessages.size(), 2U);
+}
+
 TEST(AppLock, AndWaitStateAreReleasedWhenAnExceptionPasses)
 {
     RecordingHost& host = RecordingHost::instance();

@@ -50,6 +50,7 @@ public:
     int waitDepth = 0;
     std::vector<std::string> errors;
     std::vector<std::string> statusMessages;
+    bool isCancelled = false; // whether the last failure was the user's wish
     /// Names of the arguments of the last write, in alphabetical order.
     std::vector<std::string> lastWriteArguments;
 

@@ -268,6 +268,16 @@ long VtxUtilStateChangeGetObject(VtxStateChangeHandle change)
     return changeOf(change).object;
 }
 
+char* VtxUtilGetLastErrorString(void)
+{
+    return copyOf("The host's last error");
+}
+
+bool VtxUtilLastErrorIsCancellation(void)
+{
+    return host().isCancelled;
+}
+
 void VtxUtilDialogErrMsg(const char* text)
 {
     host().errors.emplace_back(text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kernel/ApplicationLock.h"
+#include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleStore.h"
@@ -30,6 +31,8 @@ Result guarded(Result failure, Function&& function) noexcept
 {
     try {
         return function();
+    } catch (const ActionCancelled& cancelled) {
+        Kernel::instance().setLastError(cancelled.what(), true);
     } catch (const std::exception& exception) {
         fail(exception.what());
     } catch (...) {

@@ -16,3 +16,8 @@ char* VtxUtilGetLastErrorString(void)
 {
     return boundary::guarded<char*>(nullptr, [] { return boundary::copyStringOrNull(Kernel::instance().lastError()); });
 }
+
+bool VtxUtilLastErrorIsCancellation(void)
+{
+    return Kernel::instance().isLastErrorCancellation();
+}

@@ -3,7 +3,7 @@
 #include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/FrameObjects.h"
-#include "kernel/FrontEnd.h"
+#include "kernel/Progress.h"
 #include "kernel/StyleStore.h"
 #include "kernel/UndoStack.h"
 #include "kernel/interface/ArgumentList.h"
@@ -104,17 +104,14 @@ private:
 /* What is traced at once can be stopped, and is then not added. */
 void trace(const Frame& frame)
 {
-    constexpr const char* task = "Tracing streamtraces";
-    FrontEnd& frontEnd = Kernel::instance().frontEnd();
-    const auto report = [&](double fraction) { return frontEnd.reportProgress(task, fraction); };
+    Kernel& kernel = Kernel::instance();
+    const Progress progress(kernel.frontEnd(), "Tracing streamtraces");
     try {
-        Kernel::instance().streamtracePaths().of(frame, report);
+        kernel.streamtracePaths().of(frame, progress.report());
     } catch (...) {
-        frontEnd.reportProgress(task, 2.0);
-        Kernel::instance().undoStack().rollBackStep();
+        kernel.undoStack().rollBackStep();
         throw;
     }
-    frontEnd.reportProgress(task, 2.0);
 }
 
 } // namespace

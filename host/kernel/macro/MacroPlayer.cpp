@@ -2,8 +2,8 @@
 
 #include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
-#include "kernel/FrontEnd.h"
 #include "kernel/Kernel.h"
+#include "kernel/Progress.h"
 #include "kernel/UndoStack.h"
 #include "kernel/macro/Commands.h"
 #include "kernel/macro/MacroRecorder.h"
@@ -91,25 +91,20 @@ void MacroPlayer::play(const std::vector<Line>& lines, const std::string& name)
     if (m_kernel.lock().isOn()) {
         throw DataError("A macro cannot be played in the middle of another action.");
     }
-    try {
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            if (!m_kernel.frontEnd().reportProgress(taskName,
-                                                    static_cast<double>(i) / static_cast<double>(lines.size()))) {
-                throw ActionCancelled("The macro was stopped before line " + std::to_string(lines[i].number) + '.');
-            }
-            try {
-                play(lines[i]);
-            } catch (const ActionCancelled&) {
-                throw;
-            } catch (const std::exception& failure) {
-                throw located(name, lines[i].number, failure.what());
-            }
+    const Progress progress(m_kernel.frontEnd(), taskName);
+    const ReportProgress report = progress.report();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!report(static_cast<double>(i) / static_cast<double>(lines.size()))) {
+            throw ActionCancelled("The macro was stopped before line " + std::to_string(lines[i].number) + '.');
         }
-    } catch (...) {
-        m_kernel.frontEnd().reportProgress(taskName, 2.0);
-        throw;
+        try {
+            play(lines[i]);
+        } catch (const ActionCancelled&) {
+            throw;
+        } catch (const std::exception& failure) {
+            throw located(name, lines[i].number, failure.what());
+        }
     }
-    m_kernel.frontEnd().reportProgress(taskName, 2.0);
 }
 
 void MacroPlayer::play(const Line& line)

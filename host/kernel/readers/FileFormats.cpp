@@ -183,7 +183,8 @@ vtkSmartPointer<vtkAlgorithm> makePlot3dReader(const std::string& grid, const st
 {
     const std::optional<Plot3dVariant> variant = Plot3dVariant::ofGrid(grid);
     if (!variant) {
-        throw DataError("\"" + grid + "\" is not a whole grid in any variant");
+        throw DataError("\"" + grid +
+                        "\" is not a whole grid in any variant; a solution is opened together with its grid");
     }
     const auto reader = vtkSmartPointer<vtkMultiBlockPLOT3DReader>::New();
     reader->SetXYZFileName(grid.c_str());

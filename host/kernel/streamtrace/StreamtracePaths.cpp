@@ -36,7 +36,7 @@ void StreamtracePaths::dropDeletedFrames()
     std::erase_if(m_entries, [&](const auto& each) { return !m_document.frameById(each.first); });
 }
 
-std::shared_ptr<const TracedStreamtraces> StreamtracePaths::of(const Frame& frame, const Progress& progress)
+std::shared_ptr<const TracedStreamtraces> StreamtracePaths::of(const Frame& frame, const ReportProgress& progress)
 {
     const unsigned long stamp = m_style.scopeStamp(frame.id());
     Entry& entry = m_entries[frame.id()];
@@ -55,7 +55,7 @@ std::shared_ptr<const TracedStreamtraces> StreamtracePaths::of(const Frame& fram
 }
 
 void StreamtracePaths::trace(const Frame& frame, Entry& entry, const ObjectList<Streamtrace>& shown,
-                             const Progress& progress)
+                             const ReportProgress& progress)
 {
     const TracingSettings settings = TracingSettings::read(m_style, frame.id());
     const std::set<std::shared_ptr<const Streamtrace>> present(frame.streamtraces().begin(),

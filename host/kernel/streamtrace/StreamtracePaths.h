@@ -1,10 +1,10 @@
 #pragma once
 
 #include "kernel/Frame.h"
+#include "kernel/Progress.h"
 #include "kernel/streamtrace/StreamTracing.h"
 
 #include <array>
-#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -37,15 +37,12 @@ public:
     StreamtracePaths(const Document& document, const StyleStore& style);
     ~StreamtracePaths();
 
-    /* Called with 0 to 1 while tracing; false stops it. */
-    using Progress = std::function<bool(double fraction)>;
-
     /*
      * Those that the frame's plot draws, in order; the very same object until one of them changes. Empty while the plot
      * shows no streamtraces. Throws DataError when vectors cannot be loaded, ActionCancelled when it was stopped: what
      * was traced till then is kept.
      */
-    std::shared_ptr<const TracedStreamtraces> of(const Frame& frame, const Progress& progress = {});
+    std::shared_ptr<const TracedStreamtraces> of(const Frame& frame, const ReportProgress& progress = {});
 
     /* How many streamtraces were traced since the start. */
     long tracedCount() const { return m_tracedCount; }
@@ -69,7 +66,7 @@ private:
         std::shared_ptr<const TracedStreamtraces> traced;
     };
 
-    void trace(const Frame& frame, Entry& entry, const ObjectList<Streamtrace>& shown, const Progress& progress);
+    void trace(const Frame& frame, Entry& entry, const ObjectList<Streamtrace>& shown, const ReportProgress& progress);
     void dropDeletedFrames();
 
     const Document& m_document;

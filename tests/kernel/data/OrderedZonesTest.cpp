@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <vtkDoubleArray.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -52,6 +53,26 @@ TEST(OrderedZones, CircularZoneRunsFromTheCentreOutwardsAndAround)
             EXPECT_EQ(at(zone, 3, i, 8, k), at(zone, 3, i, 0, k)) << "the seam is open";
         }
     }
+}
+
+TEST(OrderedZones, CanBeStoppedWhileTheyAreFilled)
+{
+    const RectangularZone box{1000, 1000, 10, 0, 0, 0, 1, 1, 1};
+    std::vector<double> told;
+    const auto stopAt = [&](double fraction) {
+        return [&told, fraction](double done) {
+            told.push_back(done);
+            return done < fraction;
+        };
+    };
+    makeZone(box, 3, {1, 2, 3}, stopAt(1.0));
+    ASSERT_GE(told.size(), 6U);
+    EXPECT_TRUE(std::ranges::is_sorted(told));
+    EXPECT_GT(told.back(), 0.7);
+    told.clear();
+    EXPECT_THROW(makeZone(box, 3, {1, 2, 3}, stopAt(0.5)), ActionCancelled);
+    EXPECT_GE(told.back(), 0.5);
+    EXPECT_LT(told.back(), 0.7);
 }
 
 TEST(OrderedZones, RectangularZoneIsEvenlySpacedAndMayRunBackwards)
