@@ -8,9 +8,12 @@
 #include "toolbox/StyleValue.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QWidget>
 
 #include <benchmark/benchmark.h>
+
+#include <string>
 
 namespace {
 
@@ -42,9 +45,17 @@ void styleBurst(benchmark::State& state)
         open += entry.launch(parent) != nullptr;
     }
     QApplication::processEvents();
+    long rewrites = 0;
+    for (auto* const field : parent.findChildren<QLineEdit*>(QStringLiteral("frameEdit_Width_1Text"))) {
+        QObject::connect(field, &QLineEdit::textChanged, &parent, [&rewrites] { ++rewrites; });
+    }
     for (auto _ : state) {
         burst();
         vantrix::sdk::OnIdleActionPerformerSingleShot::performPending();
+    }
+    if (rewrites != state.iterations()) {
+        state.SkipWithError(
+            ("the field of the width was rewritten " + std::to_string(rewrites) + " times, not once a burst").c_str());
     }
     state.counters["dialogs"] = static_cast<double>(open);
 }
