@@ -1,8 +1,10 @@
 #include "app/HistoryActions.h"
 
+#include "api/VtxUtilDialog.h"
 #include "api/VtxUtilState.h"
 #include "kernel/Kernel.h"
 #include "kernel/UndoStack.h"
+#include "toolbox/HostString.h"
 
 #include <QAction>
 #include <QIcon>
@@ -33,13 +35,22 @@ HistoryActions::HistoryActions(QObject* parent)
     m_undo->setShortcuts(QKeySequence::Undo);
     m_redo->setShortcuts(QKeySequence::Redo);
     connect(m_undo, &QAction::triggered, this, [this] {
-        VtxUtilUndo();
-        update();
+        const std::string step = toolbox::takeHostString(VtxUtilUndoGetStepName());
+        tell(VtxUtilUndo(), tr("Undone: %1"), step);
     });
     connect(m_redo, &QAction::triggered, this, [this] {
-        VtxUtilRedo();
-        update();
+        const std::string step = toolbox::takeHostString(VtxUtilRedoGetStepName());
+        tell(VtxUtilRedo(), tr("Done again: %1"), step);
     });
+    update();
+}
+
+void HistoryActions::tell(bool isDone, const QString& text, const std::string& step)
+{
+    // Also what the status line told of the step itself would be wrong now.
+    if (isDone) {
+        VtxUtilStatusMessage(step.empty() ? "" : text.arg(QString::fromStdString(step)).toUtf8().constData());
+    }
     update();
 }
 

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <string>
+
 class QAction;
 
 namespace vantrix::app {
@@ -20,6 +22,7 @@ public:
     QAction* redo() const { return m_redo; }
 
 private:
+    void tell(bool isDone, const QString& text, const std::string& step);
     void update();
 
     QAction* m_undo;

@@ -34,6 +34,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 
 namespace vantrix::app {
@@ -271,8 +272,8 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::updateTitle()
 {
     const std::shared_ptr<const kernel::DataSet> dataSet = m_kernel.document().activeDataSet();
-    const QString untitled = dataSet != nullptr ? QString::fromStdString(dataSet->title) : tr("Untitled");
-    setWindowTitle(m_layoutFiles->title(untitled));
+    const QString dataTitle = dataSet ? QString::fromStdString(dataSet->title) : QString();
+    setWindowTitle(m_layoutFiles->title(dataTitle.isEmpty() ? tr("Untitled") : dataTitle));
     setWindowModified(m_kernel.layout().isModified());
 }
 
@@ -280,7 +281,7 @@ void MainWindow::restoreWindow()
 {
     const QSettings settings;
     if (!restoreGeometry(settings.value(geometryKey).toByteArray())) {
-        resize(1200, 820);
+        resize(QSize(1200, 820).boundedTo(screen()->availableSize()));
     }
     restoreState(settings.value(stateKey).toByteArray());
 }
