@@ -56,7 +56,7 @@ protected:
     /// Opens the grid of colours and clicks one.
     static void chooseBackground(QDialog const& dialog, int color)
     {
-        auto const& button = find<ColorButton>(dialog, "frameEdit_BackgroundColor_ColorButton");
+        auto& button = find<ColorButton>(dialog, "frameEdit_BackgroundColor_ColorButton");
         for (auto* const choice : button.popup().findChildren<QAbstractButton*>()) {
             if (choice->property("color") == color) {
                 choice->click();
@@ -130,6 +130,46 @@ TEST_F(FrameEditDialogTest, EveryEditIsSeenAtOnceAndIsOneStepOfUndo)
     idle();
     EXPECT_EQ(textOf(field(dialog, "BorderThickness")), "0.1");
     EXPECT_EQ(textOf(field(dialog, "FrameName")), "Wing");
+}
+
+TEST_F(FrameEditDialogTest, ABurstOfChangesRewritesAFieldOnce)
+{
+    auto const& dialog = launch<FrameEditDialog>();
+    int rewrites = 0;
+    QObject::connect(&field(dialog, "Width"), &QLineEdit::textChanged, &parent, [&rewrites] { ++rewrites; });
+    for (int change = 1; change <= 100; ++change) {
+        vantrix::sdk::AppLock const lock;
+        vantrix::toolbox::StyleValue("FrameLayout", "Width").setValue(10.0 + 0.01 * change);
+    }
+    EXPECT_EQ(rewrites, 0);
+    idle();
+    EXPECT_EQ(textOf(field(dialog, "Width")), "11");
+    EXPECT_EQ(rewrites, 1);
+}
+
+TEST_F(FrameEditDialogTest, EveryEditIsACommandOfTheMacroThatIsRecorded)
+{
+    QTemporaryDir folder;
+    std::string const macro = folder.filePath(QStringLiteral("edits.vxmac")).toStdString();
+    auto const& dialog = launch<FrameEditDialog>();
+    ASSERT_TRUE(VtxUtilMacroRecordStart(macro.c_str()));
+    enter(field(dialog, "FrameName"), "Wing");
+    enter(field(dialog, "Width"), "7");
+    find<QAbstractButton>(dialog, "frameEdit_ShowBorder_ToggleButton").click();
+    chooseBackground(dialog, 3);
+    EXPECT_TRUE(VtxUtilMacroRecordStop());
+    auto const edited = [] {
+        return std::tuple(styleOf<std::string>({"FrameName"}), styleOf<double>({"FrameLayout", "Width"}),
+                          styleOf<bool>({"FrameLayout", "ShowBorder"}),
+                          styleOf<long>({"FrameLayout", "BackgroundColor"}));
+    };
+    auto const present = edited();
+    for (int step = 0; step < 4; ++step) {
+        EXPECT_TRUE(VtxUtilUndo());
+    }
+    EXPECT_NE(edited(), present);
+    EXPECT_TRUE(VtxUtilMacroRun(macro.c_str()));
+    EXPECT_EQ(edited(), present);
 }
 
 TEST_F(FrameEditDialogTest, WhatIsNotShownHasNothingToEdit)
