@@ -155,7 +155,7 @@ void FramePainter::paintPlot(const Canvas& canvas, const QRectF& inside)
         paintNotice(canvas, inside, QStringLiteral("Field plots need a graphics display"));
         return;
     }
-    const PlotLegends legends(canvas, frameHeightInches(canvas), style);
+    const PlotLegends legends(canvas, frameHeightInches(canvas), style, m_traced.get());
     const QRectF room = legends.room(inside);
     switch (style.type) {
     case PlotType_Cartesian3D:

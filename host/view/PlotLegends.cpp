@@ -11,15 +11,37 @@ namespace {
 constexpr double mostOfWidth = 0.4; /* that a column takes of what is there */
 constexpr double mostOfHeight = 0.3;
 
+void addFlood(std::set<long>& groups, const ContourStyle& contour)
+{
+    if (contour.hasFlood()) {
+        groups.insert(contour.floodGroup);
+    }
+}
+
+void addStreamtraces(std::set<long>& groups, const StreamtraceStyle& style, const kernel::TracedStreamtraces& drawn)
+{
+    for (const kernel::TracedStreamtrace& each : drawn) {
+        const Streamtrace_e type = each.streamtrace->type;
+        if (type != Streamtrace_VolumeRibbon && type != Streamtrace_VolumeRod) {
+            groups.insert(style.hasPaths ? style.line.color.contourGroup : 0);
+            groups.insert(style.hasMarks ? style.mark.color.contourGroup : 0);
+        } else {
+            addFlood(groups, style.rodRibbon.contour);
+            groups.insert(style.rodRibbon.contour.hasLines() ? style.rodRibbon.contour.lineGroup : 0);
+        }
+    }
+}
+
 /* The contour groups that something in the plot has its colours from. */
-std::set<long> groupsInUse(const PlotStyle& style)
+std::set<long> groupsInUse(const PlotStyle& style, const kernel::TracedStreamtraces* drawn)
 {
     std::set<long> groups;
+    if (drawn && style.streamtraces.isShown) {
+        addStreamtraces(groups, style.streamtraces, *drawn);
+    }
     for (const ZoneStyle& zone : style.zones) {
         const ContourStyle& contour = zone.contour;
-        if (contour.hasFlood()) {
-            groups.insert(contour.floodGroup);
-        }
+        addFlood(groups, contour);
         if (contour.hasLines()) {
             groups.insert(contour.lineColor.contourGroup > 0 ? contour.lineColor.contourGroup : contour.lineGroup);
         }
@@ -36,7 +58,8 @@ std::set<long> groupsInUse(const PlotStyle& style)
 
 } // namespace
 
-PlotLegends::PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style)
+PlotLegends::PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style,
+                         const kernel::TracedStreamtraces* drawn)
     : m_canvas(canvas)
     , m_isThreeD(style.type == PlotType_Cartesian3D)
     , m_gap(0.012 * frameHeight * canvas.inch)
@@ -44,7 +67,7 @@ PlotLegends::PlotLegends(const Canvas& canvas, double frameHeight, const PlotSty
     , m_lines(canvas, frameHeight, style)
 {
     std::vector<bool> areUpright;
-    for (const long number : groupsInUse(style)) {
+    for (const long number : groupsInUse(style, drawn)) {
         if (number < 1 || number > long(style.contourGroups.size())) {
             continue;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kernel/streamtrace/StreamtracePaths.h"
 #include "view/ContourLegend.h"
 #include "view/LineLegend.h"
 #include "view/ScatterLegend.h"
@@ -17,8 +18,9 @@ namespace vantrix::view {
 class PlotLegends
 {
 public:
-    /* `frameHeight` in inches. The style must outlive this. */
-    PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style);
+    /* `frameHeight` in inches; `drawn` are the streamtraces of the plot, null for none. The style must outlive this. */
+    PlotLegends(const Canvas& canvas, double frameHeight, const PlotStyle& style,
+                const kernel::TracedStreamtraces* drawn);
 
     PlotLegends(const PlotLegends&) = delete;
     PlotLegends& operator=(const PlotLegends&) = delete;

@@ -138,6 +138,25 @@ TEST_F(Streamtraces, AreDrawnAsLinesAndAColourTracesAndMakesNothingAnew)
     EXPECT_EQ(count(image(), Qt::red), 0);
 }
 
+TEST_F(Streamtraces, HaveALegendOfTheContourGroupTheyAreColouredBy)
+{
+    show(PlotType_Cartesian2D);
+    sample->set("TwoDAxis/AxisMode", long(AxisMode_Independent)); /* else the area's width follows its height */
+    const auto width = [this] {
+        image();
+        return renderer->plot(sample->frame().id())->area.width();
+    };
+    sample->set("StreamAttributes/Color", firstContourGroup);
+    const double whole = width();
+    addRake(Streamtrace_TwoDLine);
+    EXPECT_LT(width(), whole) << "the legend takes room";
+    sample->set("StreamAttributes/Color", red);
+    EXPECT_EQ(width(), whole);
+    sample->set("StreamAttributes/Color", firstContourGroup);
+    sample->set("StreamtraceLayers/Show", 0L);
+    EXPECT_EQ(width(), whole);
+}
+
 TEST_F(Streamtraces, HaveArrowheadsAndAreDashedByTime)
 {
     show(PlotType_Cartesian2D);
