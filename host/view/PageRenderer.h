@@ -67,8 +67,8 @@ public:
     QImage pageImage(const kernel::Page& page, int width);
     QImage frameImage(const kernel::Frame& frame, int width);
 
-    /* LaTeX texts that could not be set are tried again at the next painting. Their errors are shown in the status
-     * line. */
+    /* LaTeX texts that could not be set are tried again at the next painting, and not before. Their errors are shown in
+     * the status line. */
     void forgetLatexErrors();
 
     /*

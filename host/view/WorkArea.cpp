@@ -72,9 +72,6 @@ struct WorkArea::Impl : kernel::PickSurface
     {
         auto* self = static_cast<Impl*>(impl);
         self->widget.update();
-        if (change->kind == StateChange_Text) {
-            self->context.renderer.forgetLatexErrors();
-        }
         if (change->kind == StateChange_MouseMode) {
             self->widget.endInsert();
         }
@@ -147,6 +144,7 @@ void WorkArea::fitPaper()
 
 void WorkArea::redraw()
 {
+    m_impl->context.renderer.forgetLatexErrors();
     m_impl->context.view.request();
     update();
 }
@@ -170,7 +168,8 @@ void WorkArea::fitPlot()
         context.editor.begin("Fit View");
         context.editor.fit(*context.frame(), *plot);
         context.editor.end();
-        redraw();
+        context.view.request();
+        update();
     }
 }
 

@@ -114,11 +114,14 @@ TEST_F(LatexTest, ConfinesTheProgramsAndKeepsWhatTheyMade)
 
     install("dvipng", "exit 1\n");
     pictures.picture(source, Qt::blue, 20.0);
-    pictures.picture(source, Qt::blue, 20.0);
-    pictures.picture(source, Qt::green, 20.0);
+    pictures.picture(QStringLiteral("$y$"), Qt::blue, 20.0);
     EXPECT_EQ(told.size(), 1U) << "the same error";
+    const std::string failed = logged();
     installBoth();
     EXPECT_FALSE(pictures.picture(source, Qt::blue, 20.0).error.isEmpty()) << "not tried at each painting";
+    EXPECT_FALSE(pictures.picture(source, Qt::green, 80.0).error.isEmpty()) << "in no colour and size";
+    EXPECT_EQ(logged(), failed);
+    EXPECT_TRUE(pictures.picture(source, Qt::red, 20.0).error.isEmpty()) << "made before";
     pictures.forgetErrors();
     EXPECT_TRUE(pictures.picture(source, Qt::blue, 20.0).error.isEmpty());
 }

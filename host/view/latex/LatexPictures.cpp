@@ -29,26 +29,24 @@ const LatexPictures::Picture& LatexPictures::picture(const QString& source, cons
     if (const auto known = m_pictures.find(key); known != m_pictures.end()) {
         return known->second;
     }
+    if (const auto failed = m_failed.find(source); failed != m_failed.end()) {
+        return failed->second;
+    }
     if (m_pictures.size() >= mostPictures) {
         m_pictures.clear();
     }
-    Picture made{{}, dpi, {}};
     try {
-        made.image = m_compiler.picture(source, color, dpi);
+        return m_pictures[key] = {m_compiler.picture(source, color, dpi), dpi, {}};
     } catch (const LatexError& error) {
-        made.error = QString::fromStdString(error.what());
-        const bool isKnown =
-            std::ranges::any_of(m_pictures, [&](const auto& each) { return each.second.error == made.error; });
-        if (!isKnown) {
-            m_tell(made.error);
+        const QString text = QString::fromStdString(error.what());
+        if (std::ranges::none_of(m_failed, [&](const auto& each) { return each.second.error == text; })) {
+            m_tell(text);
         }
+        if (m_failed.size() >= mostPictures) {
+            m_failed.clear();
+        }
+        return m_failed[source] = {{}, dpi, text};
     }
-    return m_pictures[key] = std::move(made);
-}
-
-void LatexPictures::forgetErrors()
-{
-    std::erase_if(m_pictures, [](const auto& each) { return !each.second.error.isEmpty(); });
 }
 
 } // namespace vantrix::view

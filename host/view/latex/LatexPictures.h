@@ -7,7 +7,7 @@
 
 namespace vantrix::view {
 
-/* Pictures of LaTeX texts, kept by source, colour and size. */
+/* Pictures of LaTeX texts, kept by source, colour and size; what cannot be made is kept by source. */
 class LatexPictures
 {
 public:
@@ -24,15 +24,16 @@ public:
     {}
 
     /* A picture in which a capital letter has at least so many pixels, and not more than twice as many, within reason.
-     * It is made now when it is not there. */
+     * It is made now when it is not there, unless the source has failed before. */
     const Picture& picture(const QString& source, const QColor& color, double capitalPixels);
 
-    /* Tries again what could not be made. */
-    void forgetErrors();
+    /* What could not be made is tried again when it is asked for next. */
+    void forgetErrors() { m_failed.clear(); }
 
 private:
     using Key = std::tuple<QString, QRgb, int>;
     std::map<Key, Picture> m_pictures;
+    std::map<QString, Picture> m_failed; /* by source */
     LatexCompiler m_compiler;
     std::function<void(const QString&)> m_tell;
 };
