@@ -64,7 +64,7 @@ public:
 
     void writeDataSet(long number, const DataSet& dataSet)
     {
-        write(0, {"DataSet", {{"Id", number}}});
+        writeWithUnknown(0, {"DataSet", {{"Id", number}}}, dataSet.id());
         for (const auto& made : dataSet.history) {
             MacroCommand command = *made;
             for (auto& [name, value] : command.arguments) {
@@ -81,6 +81,7 @@ public:
                     [&](std::size_t i) { return dataSet.zoneEnabled[i]; });
         addDisabled(state, "DisabledVariables", dataSet.variables.size(),
                     [&](std::size_t i) { return dataSet.variables[i].enabled; });
+        addUnknown(state, m_unknown.ofDataStates, dataSet.id());
         if (!state.arguments.empty()) {
             write(1, state);
         }
@@ -104,9 +105,7 @@ public:
     /* The command with the arguments that the file had besides. */
     void writeWithUnknown(int depth, MacroCommand command, long owner)
     {
-        if (const auto found = m_unknown.arguments.find(owner); found != m_unknown.arguments.end()) {
-            command.arguments.insert(command.arguments.end(), found->second.begin(), found->second.end());
-        }
+        addUnknown(command, m_unknown.arguments, owner);
         write(depth, command);
     }
 
@@ -122,6 +121,14 @@ public:
     const std::string& text() const { return m_text; }
 
 private:
+    static void addUnknown(MacroCommand& command, const std::map<long, std::vector<MacroCommand::Argument>>& unknown,
+                           long owner)
+    {
+        if (const auto found = unknown.find(owner); found != unknown.end()) {
+            command.arguments.insert(command.arguments.end(), found->second.begin(), found->second.end());
+        }
+    }
+
     template<class IsEnabled>
     static void addDisabled(MacroCommand& state, const char* name, std::size_t count, const IsEnabled& isEnabled)
     {

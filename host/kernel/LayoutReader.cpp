@@ -87,7 +87,7 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
                             "; this program knows versions up to " + std::to_string(layoutVersion) + '.');
         }
         m_hasHead = true;
-        keepUnknown(command, {"Version"}, 0);
+        keepUnknown(command, {"Version"}, unknown.arguments[0]);
     } else if (command.name == "DataSet") {
         beginDataSet(command);
     } else if (command.name == "Page") {
@@ -115,11 +115,12 @@ void LayoutReader::keepUnknown(const std::string& line)
     unknown.texts.push_back(line);
 }
 
-void LayoutReader::keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known, long owner)
+void LayoutReader::keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known,
+                               std::vector<MacroCommand::Argument>& kept)
 {
     for (const MacroCommand::Argument& argument : command.arguments) {
         if (std::ranges::find(known, argument.first) == known.end()) {
-            unknown.arguments[owner].push_back(argument);
+            kept.push_back(argument);
             unknown.texts.push_back(macroText(MacroCommand{command.name, {argument}}));
         }
     }
@@ -133,6 +134,7 @@ void LayoutReader::beginDataSet(const MacroCommand& command)
         throw DataError("there is a data set " + std::to_string(m_dataSetId) + " already.");
     }
     m_dataSet = std::make_unique<DataSet>(m_document.newDataSet());
+    keepUnknown(command, {"Id"}, unknown.arguments[m_dataSet->id()]);
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): its file names are changed
@@ -149,6 +151,7 @@ void LayoutReader::addData(MacroCommand command)
                 m_dataSet->variables[static_cast<std::size_t>(variable - 1)].enabled = false;
             }
         }
+        keepUnknown(command, {"DisabledZones", "DisabledVariables"}, unknown.ofDataStates[m_dataSet->id()]);
         return;
     }
     for (auto& [name, value] : command.arguments) {
@@ -179,7 +182,7 @@ void LayoutReader::beginPage(const MacroCommand& command)
     }
     m_frame.reset();
     styles.push_back({pages.back()->id, {}});
-    keepUnknown(command, {"Active"}, pages.back()->id);
+    keepUnknown(command, {"Active"}, unknown.arguments[pages.back()->id]);
 }
 
 void LayoutReader::beginFrame(const MacroCommand& command)
@@ -203,7 +206,7 @@ void LayoutReader::beginFrame(const MacroCommand& command)
         m_frame->setDataSet(found->second);
     }
     styles.push_back({m_frame->id(), {}});
-    keepUnknown(command, {"Active", "DataSet"}, m_frame->id());
+    keepUnknown(command, {"Active", "DataSet"}, unknown.arguments[m_frame->id()]);
 }
 
 void LayoutReader::addStyle(const MacroCommand& command, const std::string& text)

@@ -55,7 +55,8 @@ private:
     template<class Object>
     void addObject(const MacroCommand& command);
     void keepUnknown(const std::string& line);
-    void keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known, long owner);
+    void keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known,
+                     std::vector<MacroCommand::Argument>& kept);
     void checkPlotTypes() const;
 
     Document& m_document;

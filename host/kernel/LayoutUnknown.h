@@ -14,9 +14,12 @@ struct LayoutUnknown
     /* Whole lines, of each page and frame by its identifier; 0 of none in particular. */
     std::map<long, std::vector<std::string>> lines;
 
-    /* Arguments of lines that are known: of the heads of pages and frames by identifier, of the objects of frames by
-     * handle (which is no identifier of a page or frame), and of the layout's own head under 0. */
+    /* Arguments of lines that are known: of the heads of data sets, pages and frames by identifier, of the objects of
+     * frames by handle, and of the layout's own head under 0. No two of these have the same number. */
     std::map<long, std::vector<MacroCommand::Argument>> arguments;
+
+    /* Arguments of the states of data sets, by the identifier of the data set. */
+    std::map<long, std::vector<MacroCommand::Argument>> ofDataStates;
 
     /* All of it for the user, in the order of the file. */
     std::vector<std::string> texts;

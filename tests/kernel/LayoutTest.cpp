@@ -85,6 +85,14 @@ TEST_F(LayoutTest, KeepsAndReportsWhatItDoesNotKnow)
     EXPECT_THAT(text(), HasSubstr("Height=7.0 Shadow={1-2}")) << "a change of the text leaves it";
     VtxUtilLayoutNew();
     EXPECT_THAT(text(), Not(HasSubstr("Glow")));
+
+    const std::string data = "Layout Version=1\nDataSet Id=1 Origin=tower\n  DataReadSample Name=fe2d\n"
+                             "  DataState DisabledZones={1} Mirrored={2}\n"
+                             "DataSet Id=2\n  DataReadSample Name=lines\n  DataState Mirrored={3}\n"
+                             "Page Active=1\n  Frame DataSet=1\n  Frame DataSet=2 Active=1\n";
+    ASSERT_TRUE(open(data)) << kernel().lastError();
+    EXPECT_EQ(text(), data);
+    EXPECT_THAT(m_frontEnd.status, HasSubstr("3 entries"));
 }
 
 TEST_F(LayoutTest, WhatCannotBeOpenedChangesNothing)
