@@ -214,15 +214,21 @@ void AxisLinePainter::paintTicks(const std::vector<Tick>& ticks, double length, 
     }
 }
 
-void AxisLinePainter::paint(std::optional<QColor> behind) const
+void AxisLinePainter::paint(const std::function<void()>& paintGround) const
 {
     QPainter& painter = m_canvas.painter;
-    if (behind && m_style.labels.erasesBehind) {
+    if (paintGround && m_style.labels.erasesBehind) {
+        QPainterPath boxes;
+        boxes.setFillRule(Qt::WindingFill);
         for (const Label& label : m_labels) {
-            QPainterPath box;
-            box.addPolygon(turnedBox(label.middle, label.size * 1.04, label.degrees));
-            painter.fillPath(box, *behind);
+            boxes.addPolygon(turnedBox(label.middle, label.size * 1.04, label.degrees));
+            boxes.closeSubpath();
         }
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, false); // what lies below would shine through at the edges
+        painter.setClipPath(boxes, Qt::IntersectClip);
+        paintGround();
+        painter.restore();
     }
     if (m_parts.hasLine) {
         QPen pen = m_canvas.pen(m_style.line.color, m_style.line.thickness / 100.0 * m_frameHeight);

@@ -7,6 +7,7 @@
 
 #include <QRectF>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -47,8 +48,9 @@ public:
     /* How far things reach away from the plot, from the line on. */
     double reach() const;
 
-    /* `behind` is what labels erase lines with; without one nothing is erased. */
-    void paint(std::optional<QColor> behind = std::nullopt) const;
+    /* `paintGround` paints what the plot has below everything else, here cut off at the boxes of labels, which so erase
+     * the lines behind them; without it nothing is erased. */
+    void paint(const std::function<void()>& paintGround = {}) const;
 
     /* Tells the hit map where line, numbers and title of the axis are; see VtxUtilAxis.h for how axes are named. */
     void mark(char axis, int axisNumber = 1) const;

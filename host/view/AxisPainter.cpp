@@ -270,11 +270,16 @@ void AxisPainter::paintPreciseGrid() const
     }
 }
 
-void AxisPainter::paintBehind() const
+void AxisPainter::paintFill() const
 {
     if (m_style.area.isFilled) {
         m_canvas.painter.fillRect(m_area, m_style.area.fill);
     }
+}
+
+void AxisPainter::paintBehind() const
+{
+    paintFill();
     paintGrid(false);
 }
 
@@ -288,11 +293,14 @@ void AxisPainter::paintFront() const
         m_canvas.painter.setBrush(Qt::NoBrush);
         m_canvas.painter.drawRect(m_area);
     }
-    const QColor behind = style.isFilled ? style.fill : m_style.frame.background;
+    const auto paintGround = [&] {
+        m_canvas.painter.fillRect(m_canvas.painter.clipBoundingRect(), m_style.frame.background);
+        paintFill();
+    };
     m_canvas.markArea(axisObject('X', AxisSubObject_GridArea), m_area);
     for (const Line& line : lines()) {
         line.painter.mark("XY"[line.axis->kind], line.axis->number);
-        line.painter.paint(line.isAtBorder ? std::nullopt : std::optional(behind));
+        line.painter.paint(line.isAtBorder ? std::function<void()>() : paintGround);
     }
 }
 

@@ -62,6 +62,7 @@ private:
     std::vector<Line> lines() const;
     QRectF bounds() const;
     AxisTicks ticks(const Axis& axis) const;
+    void paintFill() const;
     void paintGrid(bool isLast) const;
     void paintGridLines(const Axis& axis, const GridLineStyle& grid, const std::vector<Tick>& ticks) const;
     void paintPreciseGrid() const;

@@ -94,7 +94,8 @@ QRectF PolarAxisPainter::layOut(const QRectF& room, const QRectF& frame)
     m_viewport =
         QRectF(QPointF(frame.left() + style.left * frame.width(), frame.bottom() - style.top * frame.height()),
                QPointF(frame.left() + style.right * frame.width(), frame.bottom() - style.bottom * frame.height()))
-            .normalized();
+            .normalized()
+            .intersected(room);
     const double edge = offsetUnits(edgePercent);
     const QRectF inside = room.adjusted(edge, edge, -edge, -edge);
     const QRectF most = inside.intersected(m_viewport);
@@ -370,20 +371,26 @@ void PolarAxisPainter::paintPreciseGrid() const
     }
 }
 
-void PolarAxisPainter::paintBehind() const
+void PolarAxisPainter::paintFills() const
 {
     const AxisAreaStyle& style = m_style.area;
     if (style.isViewportFilled) {
         m_canvas.painter.fillRect(m_viewport, style.viewportFill);
     }
+    if (style.isFilled) {
+        m_canvas.painter.fillPath(wholeSector(), style.fill);
+    }
+}
+
+void PolarAxisPainter::paintBehind() const
+{
+    const AxisAreaStyle& style = m_style.area;
+    paintFills();
     if (style.hasViewportBorder) {
         m_canvas.painter.setPen(
             m_canvas.pen(style.viewportBorderColor, style.viewportBorderThickness / 100.0 * m_frameHeight));
         m_canvas.painter.setBrush(Qt::NoBrush);
         m_canvas.painter.drawRect(m_viewport);
-    }
-    if (style.isFilled) {
-        m_canvas.painter.fillPath(wholeSector(), style.fill);
     }
     paintGrid(false);
 }
@@ -397,11 +404,14 @@ void PolarAxisPainter::paintFront() const
         m_canvas.painter.strokePath(wholeSector(),
                                     m_canvas.pen(style.borderColor, style.borderThickness / 100.0 * m_frameHeight));
     }
-    const QColor behind = style.isFilled ? style.fill : m_style.frame.background;
+    const auto paintGround = [&] {
+        m_canvas.painter.fillRect(m_canvas.painter.clipBoundingRect(), m_style.frame.background);
+        paintFills();
+    };
     m_canvas.markArea(axisObject('T', AxisSubObject_GridArea), wholeSector().toFillPolygon());
     for (const Line& line : lines()) {
         line.painter.mark(&line.painter.style() == &m_style.axes[0] ? 'T' : 'R');
-        line.painter.paint(line.isAtBorder ? std::nullopt : std::optional(behind));
+        line.painter.paint(line.isAtBorder ? std::function<void()>() : paintGround);
     }
 }
 

@@ -64,6 +64,7 @@ private:
     QRectF bounds() const;
     AxisTicks thetaTicks() const;
     AxisTicks rTicks() const;
+    void paintFills() const;
     void paintGrid(bool isLast) const;
     void paintPreciseGrid() const;
 

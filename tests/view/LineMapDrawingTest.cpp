@@ -207,6 +207,39 @@ TEST(PolarAxisPainter, KeepsNumbersAndTitlesInsideTheFrame)
     }
 }
 
+TEST(PolarAxisPainter, FillsNothingBesideTheSectorNorBesideTheRoom)
+{
+    PlotStyle plot = lineStyle();
+    plot.type = PlotType_PolarLine;
+    plot.axes[0].maximum = 360.0;
+    plot.axes[1].line.alignment = AxisAlignment_GridMin;
+    plot.axes[1].labels.erasesBehind = true;
+    plot.area.isFilled = true;
+    plot.area.fill = Qt::red;
+    plot.area.isViewportFilled = true;
+    plot.area.viewportFill = Qt::white;
+    QImage image(imageSize, imageSize, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::green);
+    QPainter painter(&image);
+    const Canvas canvas(painter, 100.0);
+    PolarAxisPainter axes(canvas, 4.0, plot);
+    const int legend = 300; // where something else stands
+    axes.layOut(QRectF(0, 0, legend, imageSize), image.rect());
+    axes.paintBehind();
+    axes.paintFront();
+    int inside = 0;
+    for (int y = 0; y < imageSize; ++y) {
+        for (int x = 0; x < imageSize; ++x) {
+            const QPointF from = QPointF(x, y) + QPointF(0.5, 0.5) - axes.center();
+            const bool isInside = std::hypot(from.x(), from.y()) < axes.radius() + 1.5;
+            ASSERT_TRUE(isInside || !isRed(image, x, y)) << x << ' ' << y;
+            ASSERT_TRUE(x < legend || image.pixelColor(x, y) == QColor(Qt::green)) << x << ' ' << y;
+            inside += isInside && isRed(image, x, y);
+        }
+    }
+    EXPECT_GT(inside, 10000);
+}
+
 TEST(LineMapDrawing, LeavesOutSymbolsThatALogarithmicAxisHasNoPlaceFor)
 {
     const kernel::DataSet data = dataSet({{0.25, -1.0}, {0.5, 0.0}, {0.75, 1.0}});
