@@ -249,7 +249,8 @@ void AxisBoxPainter::paintAxes() const
     for (const Side& side : farSides()) {
         paintGrid(side, true);
     }
-    for (const AxisLinePainter& line : lines()) {
+    for (AxisLinePainter& line : lines()) {
+        line.keepTitleInside(m_picture);
         line.mark("XYZ"[&line.style() - m_style.axes.data()]);
         line.paint();
     }
@@ -263,8 +264,14 @@ void AxisBoxPainter::paintTripod() const
     const TripodStyle& style = m_style.tripod;
     const double size = style.size / 100.0 * m_frameHeight * m_canvas.inch;
     const double text = 0.28 * style.size / 100.0 * m_frameHeight;
-    const QPointF origin(m_picture.left() + style.position.x() * m_picture.width(),
-                         m_picture.bottom() - style.position.y() * m_picture.height());
+    // As far from the borders as the axes and their names reach when they turn.
+    const double reach = size + 1.5 * text * m_canvas.inch;
+    const auto inside = [reach](double wanted, double from, double to) {
+        return from + reach < to - reach ? std::clamp(wanted, from + reach, to - reach) : 0.5 * (from + to);
+    };
+    const QPointF origin(
+        inside(m_picture.left() + style.position.x() * m_picture.width(), m_picture.left(), m_picture.right()),
+        inside(m_picture.bottom() - style.position.y() * m_picture.height(), m_picture.top(), m_picture.bottom()));
     const QFont font = m_canvas.font(text);
     m_canvas.painter.setPen(m_canvas.pen(style.color, 0.15 / 100.0 * m_frameHeight));
     constexpr std::array<const char*, 3> names{"X", "Y", "Z"};

@@ -37,6 +37,13 @@ double reachOf(QSizeF size, double degrees, QPointF direction)
     return reach;
 }
 
+/* What moves a box into a room that it is not larger than. */
+QPointF shiftInto(const QRectF& room, const QRectF& box)
+{
+    return {std::max(0.0, room.left() - box.left()) - std::max(0.0, box.right() - room.right()),
+            std::max(0.0, room.top() - box.top()) - std::max(0.0, box.bottom() - room.bottom())};
+}
+
 QFont fontOf(const Canvas& canvas, const TextStyle& text, double frameHeight)
 {
     return canvas.font(text.font, text.inches(frameHeight));
@@ -176,6 +183,24 @@ void AxisLinePainter::clearIntersections(const std::vector<double>& fractions)
         }
     }
     layOut();
+}
+
+void AxisLinePainter::keepTitleInside(const QRectF& room)
+{
+    if (!m_title || room.contains(turnedBox(m_title->middle, m_title->size, m_title->degrees).boundingRect())) {
+        return;
+    }
+    for (const double end : {1.0, 0.0}) {
+        const QPointF away = m_path.direction(end) * (end > 0.5 ? 1.0 : -1.0);
+        const double distance = ticksOutside() + 0.5 * m_title->size.height();
+        const QPointF middle = m_path.place(end) + away * (distance + reachOf(m_title->size, 0.0, away));
+        const QPointF shift = shiftInto(room, turnedBox(middle, m_title->size, 0.0).boundingRect());
+        if (room.contains(m_path.place(end)) && QPointF::dotProduct(shift, away) > -0.5 * distance) {
+            m_title->middle = middle + shift;
+            m_title->degrees = 0.0;
+            return;
+        }
+    }
 }
 
 QRectF AxisLinePainter::bounds() const

@@ -42,6 +42,9 @@ public:
     /* Leaves away labels where other axes cross this one at a fraction. */
     void clearIntersections(const std::vector<double>& fractions);
 
+    /* A title that would not be whole inside of a rectangle stands at an end of the axis instead, if that is better. */
+    void keepTitleInside(const QRectF& room);
+
     /* Everything that paint() draws lies inside. */
     QRectF bounds() const;
 

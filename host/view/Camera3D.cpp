@@ -144,9 +144,16 @@ View3D Camera3D::turned(double psi, double theta, double alpha) const
 void Camera3D::apply(vtkCamera& camera) const
 {
     const Point3 focus = target();
-    // The eye of a parallel projection may be anywhere on its line; outside the box nothing is clipped.
+    Point3 eye = m_view.position;
+    if (!m_view.isPerspective) {
+        // It may be anywhere on its line. What is behind it would be cut off, so it is put well in front of the box.
+        const Point3 diagonal = plus(m_box.maximum, -1.0, m_box.minimum);
+        const double size = std::sqrt(dot(diagonal, diagonal));
+        const double center = dot(plus(m_box.center(), -1.0, focus), m_toward);
+        eye = plus(focus, std::max(distance(), center + 5.0 * size), m_toward);
+    }
     camera.SetFocalPoint(focus.data());
-    camera.SetPosition(m_view.position.data());
+    camera.SetPosition(eye.data());
     camera.SetViewUp(m_up.data());
     camera.SetParallelProjection(!m_view.isPerspective);
     camera.SetParallelScale(0.5 * m_view.width / m_aspect);

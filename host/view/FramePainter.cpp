@@ -247,9 +247,12 @@ void FramePainter::paintThreeD(const Canvas& canvas, const QRectF& room)
         m_plot.camera = Camera3D(view, box, area.width() / area.height(), margin);
     }
     const AxisBoxPainter axes(canvas, frameHeightInches(canvas), style, *m_plot.camera, area);
+    canvas.painter.save();
+    canvas.painter.setClipRect(area, Qt::IntersectClip); // a plot that is magnified ends at its legends
     axes.paintBack();
     paintPicture(canvas, area, [&](QSize pixels) { return scene().picture(*m_plot.camera, pixels); });
     axes.paintAxes();
+    canvas.painter.restore();
 }
 
 template<typename Render>

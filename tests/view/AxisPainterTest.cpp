@@ -179,3 +179,46 @@ TEST(AxisBoxPainter, PutsAxesOnTheOutlineOfTheBox)
         }
     }
 }
+
+TEST(AxisBoxPainter, CutsNeitherTitlesNorTheSmallAxesOffAtTheBorder)
+{
+    const Box3 box{{0.0, 0.0, 0.0}, {4.0, 4.0, 1.0}};
+    PlotStyle plot;
+    plot.type = PlotType_Cartesian3D;
+    plot.axes = {axis(0, 4), axis(0, 4), axis(0, 1)};
+    plot.axes[0].isShown = plot.axes[1].isShown = false;
+    plot.axes[2].title.words = "Height";
+    plot.axes[2].title.text.color = Qt::red;
+    plot.tripod.isShown = true;
+    plot.tripod.color = Qt::blue;
+    // The picture lies in the middle of the image, so that what reaches beyond it is seen.
+    const QRectF picture(80.0, 80.0, 400.0, 300.0);
+    for (const double margin : {0.01, 0.03, 0.2}) {
+        for (const int theta : {20, 75, 200, 310}) {
+            plot.tripod.position = theta < 100 ? QPointF(0.0, 1.0) : QPointF(0.95, 0.9);
+            View3D view;
+            view.theta = theta;
+            QImage image(560, 460, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            const Canvas canvas(painter, 100.0);
+            const Camera3D camera(view, box, 4.0 / 3.0, margin);
+            AxisBoxPainter(canvas, 3.0, plot, camera, picture).paintAxes();
+            painter.end();
+            int inside = 0;
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const QColor color = image.pixelColor(x, y);
+                    const bool isTitle = color.red() > 200 && color.green() < 128;
+                    const bool isTripod = color.blue() > 200 && color.red() < 128;
+                    if (picture.contains(QPointF(x + 0.5, y + 0.5))) {
+                        inside += isTitle;
+                    } else {
+                        ASSERT_FALSE(isTitle || isTripod) << x << ' ' << y << ", " << margin << ' ' << theta;
+                    }
+                }
+            }
+            EXPECT_GT(inside, 10) << margin << ' ' << theta;
+        }
+    }
+}

@@ -2,6 +2,10 @@
 #include "ExpectNear.h"
 
 #include <gtest/gtest.h>
+#include <vtkCamera.h>
+#include <vtkNew.h>
+#include <vtkVector.h>
+#include <vtkVectorOperators.h>
 
 #include <cmath>
 
@@ -63,5 +67,17 @@ TEST(Camera3D, KeepsThePointUnderThePointerWhenItMagnifiesAndTheCentreWhenItTurn
             const Camera3D turned(moved.turned(30.0, 100.0, 0.0), box, aspect);
             expectNear(turned.project(box.center()), moved.project(box.center()));
         }
+    }
+}
+
+TEST(Camera3D, MagnifyingCutsNothingOffInFront)
+{
+    const Camera3D whole(View3D{}, box, 1.0);
+    const Camera3D near(whole.magnified(50.0, {0.1, 0.1}), box, 1.0);
+    const vtkNew<vtkCamera> eye;
+    near.apply(*eye);
+    for (int corner = 0; corner < 8; ++corner) {
+        const vtkVector3d from = vtkVector3d(eye->GetPosition()) - vtkVector3d(box.corner(corner).data());
+        EXPECT_GT(from.Dot(vtkVector3d(near.toward().data())), 0.0);
     }
 }
