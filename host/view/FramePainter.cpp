@@ -98,9 +98,12 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
     }
     painter.save();
     painter.setClipRect(rect, Qt::IntersectClip);
-    QRectF inside = rect;
+    const QPen border = canvas.pen(Qt::black, style.borderThickness / 100.0 * rect.height() / canvas.inch);
+    const double covered =
+        style.hasBorder ? std::min(0.5 * border.widthF(), 0.25 * std::min(rect.width(), rect.height())) : 0.0;
+    QRectF inside = rect.adjusted(covered, covered, -covered, -covered);
     if (style.hasHeader) {
-        const QRectF header(rect.topLeft(), QSizeF(rect.width(), std::min(0.2 * canvas.inch, 0.2 * rect.height())));
+        const QRectF header(inside.topLeft(), QSizeF(inside.width(), std::min(0.2 * canvas.inch, 0.2 * rect.height())));
         paintHeader(canvas, header);
         inside.setTop(header.bottom());
     }
@@ -121,7 +124,7 @@ void FramePainter::paint(QPainter& onto, double inch, TextEdges edges, const QRe
     }
     painter.restore();
     if (style.hasBorder) {
-        painter.setPen(canvas.pen(Qt::black, style.borderThickness / 100.0 * rect.height() / canvas.inch));
+        painter.setPen(border);
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(canvas.aligned(rect));
     }

@@ -93,6 +93,28 @@ TEST(PageRenderer, DrawsEveryLayer)
     }
 }
 
+TEST(PageRenderer, KeepsTheHeaderInsideOfTheBorder)
+{
+    ShownSample sample("lines", PlotType_XYLine);
+    view::PageRenderer renderer(sample.kernel);
+    for (long map = 1; map <= 4; ++map) {
+        sample.set("LineMap/Lines/Color", colornumber::blue, map);
+    }
+    sample.set("FrameLayout/ShowHeader", 1L);
+    const auto headerHeight = [&] {
+        const QImage image = renderer.frameImage(sample.frame(), 450);
+        int rows = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            rows += image.pixelColor(225, y) == QColor(Qt::red);
+        }
+        return rows;
+    };
+    const int thin = headerHeight();
+    EXPECT_GT(thin, 5);
+    sample.set("FrameLayout/BorderThickness", 10.0);
+    EXPECT_NEAR(headerHeight(), thin, 1);
+}
+
 TEST(PageRenderer, FindsTheSurfaceUnderAPlaceOfA3DPlot)
 {
     ShownSample sample("mixed", PlotType_Cartesian3D);
