@@ -20,6 +20,12 @@ namespace vantrix::kernel {
 namespace {
 
 constexpr long mostLineMaps = 50;
+constexpr long mostColoredZones = 50;
+
+/* Light colours that shade a surface well and are told from white: azure, orange, green, violet, yellow, red, cyan,
+ * rose.
+ */
+constexpr std::array<long, 8> shadeColors{47, 41, 44, 49, 42, 40, 46, 51};
 
 int highestDimension(const DataSet& data)
 {
@@ -71,7 +77,9 @@ void PlotDefaults::apply()
     m_axes = guessAxisVariables(*m_data);
     setAxes();
     setLineMaps();
-    setContours();
+    if (!setContours()) {
+        setShades();
+    }
     setVectors();
     resetView();
     set("PlotType", plotType());
@@ -203,7 +211,8 @@ void PlotDefaults::resetView()
     }
 }
 
-void PlotDefaults::setContours()
+/* Whether there is a variable to be coloured by. */
+bool PlotDefaults::setContours()
 {
     std::vector<long> variables;
     for (long variable = 1; variable <= m_data->variableCount(); ++variable) {
@@ -211,8 +220,9 @@ void PlotDefaults::setContours()
             variables.push_back(variable);
         }
     }
+    set("FieldLayers/ShowContour", long{!variables.empty()});
     if (variables.empty()) {
-        return;
+        return false;
     }
     for (long group = 1; group <= contourGroupCount; ++group) {
         const long variable = variables[std::min(static_cast<std::size_t>(group), variables.size()) - 1];
@@ -225,7 +235,19 @@ void PlotDefaults::setContours()
                 group);
         }
     }
-    set("FieldLayers/ShowContour", 1L);
+    return true;
+}
+
+void PlotDefaults::setShades()
+{
+    for (long zone = 1; zone <= std::min(m_data->zoneCount(), mostColoredZones); ++zone) {
+        applyToZone(zone);
+    }
+}
+
+void PlotDefaults::applyToZone(long zone)
+{
+    set("FieldMap/Shade/Color", shadeColors[static_cast<std::size_t>(zone - 1) % shadeColors.size()], zone);
 }
 
 void PlotDefaults::setVectors()

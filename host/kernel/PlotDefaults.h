@@ -11,8 +11,9 @@ constexpr long contourGroupCount = 8; /* of a frame */
 
 /*
  * Style for a frame that shows a data set for the first time: a plot type that suits the data, variables of the axes,
- * ranges that hold all data, line maps, and a variable and levels for each contour group. To be used after
- * Document::attachDataSet(), under the application lock; the style is part of the same step of undo.
+ * ranges that hold all data, line maps, a variable and levels for each contour group, and colours that tell zones
+ * without anything to be coloured by apart. To be used after Document::attachDataSet(), under the application lock; the
+ * style is part of the same step of undo.
  */
 class PlotDefaults
 {
@@ -23,6 +24,9 @@ public:
     PlotDefaults(StyleStore& style, const Frame& frame);
     void apply();
 
+    /* The same for a zone that was added to the data that the frame shows. */
+    void applyToZone(long zone);
+
 private:
     long plotType() const;
     void setAxes();
@@ -30,7 +34,8 @@ private:
     void setLineMaps();
     void setLineAxes(long lastVariable);
     void fitPolar(const std::vector<long>& radii);
-    void setContours();
+    bool setContours();
+    void setShades();
     void setVectors();
     void resetView();
     void set(const std::string& path, const StyleData& value, long object = -1);

@@ -51,6 +51,13 @@ void ZoneActions::createZone(const Description& description)
     DataSet changed = *frame->dataSet();
     DataHistory::apply(DataHistory::creating(description, {axes.x, axes.y, axes.z}), changed, progress.report());
     document.replaceDataSet(std::move(changed), {StateChange_ZonesAdded});
+    for (const auto& page : document.pages()) {
+        for (const auto& each : page->frames) {
+            if (each->dataSet() == frame->dataSet()) {
+                PlotDefaults(style, *each).applyToZone(each->dataSet()->zoneCount());
+            }
+        }
+    }
 }
 
 template void ZoneActions::createZone(const CircularZone&);

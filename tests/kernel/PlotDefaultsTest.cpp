@@ -167,3 +167,18 @@ TEST(NiceNumbers, HoldTheRangeBetweenMultiplesOfTheSpacing)
 }
 
 } // namespace vantrix::kernel
+
+TEST_F(PlotDefaultsTest, ZonesWithNothingToBeColouredByHaveColoursOfTheirOwn)
+{
+    const LockScope lock;
+    const auto create = [] {
+        return VtxUtilCreateCircularZone(5, 8, 1, 0.0, 0.0, 2.0, 0.0, 0.0, FieldDataType_Double);
+    };
+    ASSERT_TRUE(create()) << kernel().lastError();
+    ASSERT_TRUE(create()) << kernel().lastError();
+    const StyleData white(7L);
+    EXPECT_NE(value("FieldMap/Shade/Color", 1), white);
+    EXPECT_NE(value("FieldMap/Shade/Color", 2), white);
+    EXPECT_NE(value("FieldMap/Shade/Color", 1), value("FieldMap/Shade/Color", 2));
+    EXPECT_EQ(value("FieldLayers/ShowContour"), StyleData(0L));
+}
