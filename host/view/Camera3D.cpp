@@ -87,14 +87,26 @@ Point3 Camera3D::target() const
     return plus(m_view.position, -distance(), m_toward);
 }
 
+/* What the picture is wide in the plane of a point, which is given from the target. */
+double Camera3D::widthAt(const Point3& from) const
+{
+    return m_view.isPerspective ? m_view.width * std::max(1e-6, (distance() - dot(from, m_toward)) / distance())
+                                : m_view.width;
+}
+
 QPointF Camera3D::project(const Point3& world) const
 {
     const Point3 from = plus(world, -1.0, target());
-    double size = m_view.width;
-    if (m_view.isPerspective) {
-        size *= std::max(1e-6, (distance() - dot(from, m_toward)) / distance());
-    }
+    const double size = widthAt(from);
     return {dot(from, m_right) / size, dot(from, m_up) / size};
+}
+
+Point3 Camera3D::unproject(QPointF place, const Point3& inPlane) const
+{
+    const Point3 from = plus(inPlane, -1.0, target());
+    const double size = widthAt(from);
+    const QPointF by = place - project(inPlane);
+    return plus(plus(inPlane, by.x() * size, m_right), by.y() * size, m_up);
 }
 
 double Camera3D::nearness(const Point3& world) const

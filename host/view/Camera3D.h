@@ -39,6 +39,9 @@ public:
     /* Place in the picture, in picture widths from its middle; X to the right, Y up. */
     QPointF project(const Point3& world) const;
 
+    /* The point at a place in the picture, in the plane parallel to the screen through another point. */
+    Point3 unproject(QPointF place, const Point3& inPlane) const;
+
     /* How far a point is towards the eye; larger is nearer. */
     double nearness(const Point3& world) const;
 
@@ -64,6 +67,7 @@ public:
 private:
     double distance() const;
     Point3 target() const;
+    double widthAt(const Point3& from) const;
 
     View3D m_view;
     Box3 m_box;

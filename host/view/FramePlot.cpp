@@ -19,13 +19,31 @@ std::optional<QPointF> FramePlot::dataAt(QPointF place) const
                    y->value((area.bottom() - place.y()) / area.height()));
 }
 
+Point3 FramePlot::toWorld(const Point3& data) const
+{
+    const Point3 scale = style.worldScale();
+    const Point3 shift = style.worldShift();
+    return {data[0] * scale[0] + shift[0], data[1] * scale[1] + shift[1], data[2] * scale[2] + shift[2]};
+}
+
+std::optional<Point3> FramePlot::dataAt(QPointF place, const Point3& inPlane) const
+{
+    if (!camera) {
+        return std::nullopt;
+    }
+    Point3 point = camera->unproject(onPicture(place), toWorld(inPlane));
+    const Point3 scale = style.worldScale();
+    const Point3 shift = style.worldShift();
+    for (std::size_t i = 0; i < point.size(); ++i) {
+        point[i] = (point[i] - shift[i]) / scale[i];
+    }
+    return point;
+}
+
 std::optional<QPointF> FramePlot::placeOf(const Point3& data) const
 {
     if (camera) {
-        const Point3 scale = style.worldScale();
-        const Point3 shift = style.worldShift();
-        const QPointF seen = camera->project(
-            {data[0] * scale[0] + shift[0], data[1] * scale[1] + shift[1], data[2] * scale[2] + shift[2]});
+        const QPointF seen = camera->project(toWorld(data));
         return area.center() + QPointF(seen.x(), -seen.y()) * area.width();
     }
     if (polar) {

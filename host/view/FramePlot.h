@@ -53,6 +53,10 @@ public:
      * nothing to measure by. */
     std::optional<QPointF> placeOf(const Point3& data) const;
 
+    /* In a 3D plot, the point of the data that is seen at a place, in the plane parallel to the screen through another
+     * one; none in other plots. */
+    std::optional<Point3> dataAt(QPointF place, const Point3& inPlane) const;
+
     /* The same of a point of a line map that is shown over the X and Y axes of these numbers. */
     std::optional<QPointF> placeOf(QPointF data, int xAxis, int yAxis) const;
 
@@ -65,6 +69,7 @@ public:
     QPointF onPicture(QPointF place) const;
 
 private:
+    Point3 toWorld(const Point3& data) const;
     QPointF inArea(double xFraction, double yFraction) const;
 };
 

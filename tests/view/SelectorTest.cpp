@@ -246,6 +246,41 @@ TEST_F(SelectorTest, MovesTextsAndGeometriesAsOneStep)
     EXPECT_EQ(kernel().undoStack().undoName(), "Insert Text");
 }
 
+TEST_F(SelectorTest, MovesATextIn3DParallelToTheScreen)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    for (const long isPerspective : {0L, 1L}) {
+        m_sample->set("ThreeDView/DrawInPerspective", isPerspective);
+        const long text = createText("in space");
+        const view::Point3 start{2.0, -3.0, 5.0};
+        {
+            VtxArgList list{{{"TextID", text},
+                             {"PositionCoordSys", long(CoordSys_Grid3D)},
+                             {"XPos", start[0]},
+                             {"YPos", start[1]},
+                             {"ZPos", start[2]}}};
+            const kernel::ActionLock lock(kernel().lock());
+            ASSERT_TRUE(VtxUtilTextSetX(&list)) << kernel().lastError();
+        }
+        m_area->repaint();
+        const QPointF inside(0.15, -0.1);
+        const QPointF from = corner() + *plot().placeOf(start) + inside;
+        const QPointF by(-0.75, 0.5);
+        click(from);
+        ASSERT_EQ(VtxUtilPickListGetType(1), PickObject_Text);
+        drag(from, from + by, Qt::AltModifier);
+        EXPECT_EQ(kernel().undoStack().undoName(), "Move Text");
+        const auto moved = kernel().texts().find(text);
+        const view::Point3 end{moved->x, moved->y, moved->z};
+        const QPointF way = corner() + *plot().placeOf(end) - (from - inside);
+        EXPECT_NEAR(way.x(), by.x(), 0.02);
+        EXPECT_NEAR(way.y(), by.y(), 0.02);
+        EXPECT_NEAR(plot().camera->nearness(end), plot().camera->nearness(start), 1e-6);
+        const kernel::ActionLock lock(kernel().lock());
+        VtxUtilTextDelete(text);
+    }
+}
+
 TEST_F(SelectorTest, GeometriesAreDrawnByDragging)
 {
     show("fe2d", PlotType_Cartesian2D);

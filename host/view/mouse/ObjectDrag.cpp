@@ -42,12 +42,23 @@ QSizeF frameSize(const MouseContext& context, const kernel::PickedObject& object
     return context.renderer.frameRect(*context.kernel.document().frameById(object.frameId)).size();
 }
 
-void setPosition(const kernel::PickedObject& object, QPointF position)
+/* The same position moved to a place in the frame; none where nothing can be measured. */
+std::optional<Point3> movedTo(QPointF place, const Position& was, const FramePlot& plot, QSizeF frame)
+{
+    if (was.coordSys == CoordSys_Grid3D) {
+        return plot.dataAt(place, was.position);
+    }
+    const auto flat = objectPosition(plot, frame, was.coordSys, place);
+    return flat ? std::optional(Point3{flat->x(), flat->y(), was.position[2]}) : std::nullopt;
+}
+
+void setPosition(const kernel::PickedObject& object, CoordSys_e coordSys, const Point3& position)
 {
     const bool isText = object.type == PickObject_Text;
-    VtxArgList list{{{isText ? "TextID" : "GeometryID", object.number},
-                     {"XPos", double(position.x())},
-                     {"YPos", double(position.y())}}};
+    VtxArgList list{{{isText ? "TextID" : "GeometryID", object.number}, {"XPos", position[0]}, {"YPos", position[1]}}};
+    if (coordSys == CoordSys_Grid3D) {
+        list.arguments.push_back({"ZPos", position[2]});
+    }
     if (isText) {
         VtxUtilTextSetX(&list);
     } else {
@@ -67,7 +78,7 @@ ObjectDrag ObjectDrag::begin(const MouseContext& context, QPointF place)
     for (const kernel::PickedObject& object : context.kernel.pickList().objects()) {
         const auto position = positionOf(context.kernel, object);
         const FramePlot* plot = context.renderer.plot(object.frameId);
-        if (!position || !plot || position->coordSys == CoordSys_Grid3D) {
+        if (!position || !plot) {
             continue;
         }
         if (const auto at = objectPlace(*plot, frameSize(context, object), position->coordSys, position->position)) {
@@ -97,10 +108,9 @@ void ObjectDrag::drag(MouseContext& context, QPointF place, bool isFree)
         const auto was = positionOf(context.kernel, each.object);
         const FramePlot* plot = context.renderer.plot(each.object.frameId);
         const auto position =
-            plot ? objectPosition(*plot, frameSize(context, each.object), was->coordSys, each.place + by)
-                 : std::nullopt;
+            plot ? movedTo(each.place + by, *was, *plot, frameSize(context, each.object)) : std::nullopt;
         if (position) {
-            setPosition(each.object, *position);
+            setPosition(each.object, was->coordSys, *position);
         }
     }
 }

@@ -11,7 +11,7 @@ namespace vantrix::view {
 class MouseContext;
 
 /* Moves the texts and geometries that are picked, all by the same way, as one step of undo. Those in coordinates of a
- * 3D plot stay: a place on the paper is no place in space. */
+ * 3D plot stay in the plane parallel to the screen that they are in. */
 class ObjectDrag
 {
 public:
