@@ -20,8 +20,8 @@ PlotType_e VtxUtilFrameGetPlotType(void);
 /* Sets the plot type of the active frame. Field plots need a data set with variables to serve as axes. */
 bool VtxUtilFrameSetPlotType(PlotType_e plotType);
 
-/* Whether contours of the active frame can be coloured by red, green and blue variables. False, with a text, where not.
- */
+/* Whether contours of the active frame can be coloured by red, green and blue variables: where `GlobalRGB` names three
+ * that the frame's data have. False, with a text, where not. */
 bool VtxUtilContourOkToTurnOnRGBColoring(void);
 
 /* Gives the active frame another background colour (a colour index); foreground colours of the frame that equal it

@@ -206,6 +206,12 @@ void FieldScene::updateZone(const kernel::DataSet& dataSet, const PlotStyle& sty
         }
         return entry->second.colors.levels.empty() ? nullptr : &entry->second;
     };
+    if (zoneStyle.contour.isFloodedByRgb()) {
+        values.rgb = {{}, style.rgb.minimum, style.rgb.maximum};
+        for (std::size_t color = 0; color < values.rgb.fields.size(); ++color) {
+            values.rgb.fields[color] = loaded(dataSet.field(zoneStyle.zone, style.rgb.variables[color]));
+        }
+    }
     if (zoneStyle.vector.isShown) {
         for (std::size_t axis = 0; axis < values.vectors.size(); ++axis) {
             values.vectors[axis] = loaded(dataSet.field(zoneStyle.zone, style.vectors.variables[axis]));

@@ -217,6 +217,7 @@ void readField(PlotStyle& plot, const kernel::StyleStore& store, long frame, con
             plot.zones.back().name = dataSet.zones[std::size_t(zone - 1)]->name();
         }
     }
+    plot.rgb = RgbStyle::read(style);
     plot.vectors = VectorScaleStyle::read(style);
     plot.scatter = ScatterScaleStyle::read(style);
     plot.streamtraces = StreamtraceStyle::read(style);

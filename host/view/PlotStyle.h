@@ -195,6 +195,7 @@ struct PlotStyle
     LightStyle light;
     std::vector<ContourGroupStyle> contourGroups; /* group 1 first */
     std::vector<ZoneStyle> zones;
+    RgbStyle rgb;
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
     LegendStyle scatterLegend;
@@ -207,8 +208,8 @@ struct PlotStyle
     bool keepsAxisLengths =
         false;                  /* where that makes it necessary, ranges are widened and the area is not made smaller */
     double thetaPeriod = 360.0; /* of a polar plot: theta of one full circle */
-    bool resetsEdges = true; /* of a 3D plot: its axes choose their edges anew when it is turned */
-    double boxPadding = 0.0; /* of a 3D plot: space between data and box, as part of the range */
+    bool resetsEdges = true;    /* of a 3D plot: its axes choose their edges anew when it is turned */
+    double boxPadding = 0.0;    /* of a 3D plot: space between data and box, as part of the range */
     TripodStyle tripod;
     kernel::ValueBlanking blanking;
     std::vector<BlankingBoundaryStyle> blankingBoundaries; /* of a flat field plot */

@@ -26,7 +26,11 @@ void ZoneLayers::update(vtkDataSet* geometry, const std::shared_ptr<const kernel
     };
     const auto colors = [&](bool isNeeded, const LayerColor& color) { return contour(isNeeded, color.contourGroup); };
     m_surface.set(geometry, style.surfaces, context.keptPoints, blanked);
-    m_flood.update(m_surface, style, contour(style.contour.hasFlood(), style.contour.floodGroup), context);
+    if (style.contour.isFloodedByRgb()) {
+        m_flood.update(m_surface, style, values.rgb, context);
+    } else {
+        m_flood.update(m_surface, style, contour(style.contour.hasFlood(), style.contour.floodGroup), context);
+    }
     m_shade.update(m_surface, style, m_flood.isShown(), context);
     const ContourStyle& lines = style.contour;
     m_lines.update(m_surface, lines, contour(lines.hasLines(), lines.lineGroup),

@@ -23,6 +23,7 @@ struct ZoneValues
 {
     /* The values of a contour group (from 1) in the zone, or null. Asked only for what a shown layer needs. */
     std::function<const ContourValues*(long group)> contour;
+    RgbValues rgb; /* where the zone is flooded by them */
     std::array<kernel::FieldArray, 3> vectors;
     kernel::FieldArray sizes; /* of symbols */
 

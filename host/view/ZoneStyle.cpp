@@ -36,7 +36,7 @@ ContourStyle readContour(const StyleReader& style, bool isLayerShown, bool isLit
 {
     return {isLayerShown && style.flag("Show"),
             style.enumerator<ContourType_e>("ContourType"),
-            std::clamp(style.integer("FloodColoring"), 1L, kernel::contourGroupCount),
+            std::clamp(style.integer("FloodColoring"), 0L, kernel::contourGroupCount),
             std::clamp(style.integer("LineContourGroup"), 1L, kernel::contourGroupCount),
             LayerColor::read(style),
             style.real("LineThickness"),
@@ -133,6 +133,14 @@ VectorScaleStyle VectorScaleStyle::read(const StyleReader& frame)
             style.real("UniformLength"),
             style.real("HeadSizeAsFraction"),
             style.real("HeadAngle")};
+}
+
+RgbStyle RgbStyle::read(const StyleReader& frame)
+{
+    const StyleReader style = frame.below("GlobalRGB");
+    return {{style.integer("RedVar"), style.integer("GreenVar"), style.integer("BlueVar")},
+            style.real("RangeMin"),
+            style.real("RangeMax")};
 }
 
 ScatterScaleStyle ScatterScaleStyle::read(const StyleReader& frame)

@@ -87,7 +87,7 @@ struct ContourStyle
 {
     bool isShown = false;
     ContourType_e type = ContourType_Flood;
-    long floodGroup = 1;
+    long floodGroup = 1; /* 0 floods by three variables, see RgbStyle */
     long lineGroup = 1;
     LayerColor lineColor;
     double thickness = 0.1;
@@ -96,6 +96,7 @@ struct ContourStyle
     double patternLength = 2.0;
 
     bool hasFlood() const { return isShown && type != ContourType_Lines; }
+    bool isFloodedByRgb() const { return hasFlood() && floodGroup == 0; }
     bool hasLines() const { return isShown && (type == ContourType_Lines || type == ContourType_LinesAndFlood); }
     bool operator==(const ContourStyle&) const = default;
 };
@@ -185,6 +186,18 @@ struct VectorScaleStyle
     bool operator==(const VectorScaleStyle&) const = default;
 
     static VectorScaleStyle read(const StyleReader& frame);
+};
+
+/* What mixes red, green and blue. */
+struct RgbStyle
+{
+    std::array<long, 3> variables{}; /* of red, green and blue; 0 for none */
+    double minimum = 0.0;            /* has none of a colour */
+    double maximum = 1.0;            /* has all of it; equal to the minimum, what lies above has all */
+
+    bool operator==(const RgbStyle&) const = default;
+
+    static RgbStyle read(const StyleReader& frame);
 };
 
 /* What sizes symbols that are sized by a variable. */

@@ -1,4 +1,5 @@
 #include "api/VtxUtilData.h"
+#include "api/VtxUtilFrame.h"
 #include "kernel/ApplicationLock.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Frame.h"
@@ -154,6 +155,36 @@ TEST_F(FieldLayers, LeavesAwayWhatACutoffExcludes)
     sample->set("GlobalContour/ColorCutoff/UseMin", 1L, 1);
     sample->set("GlobalContour/ColorCutoff/Min", 0.5 * (low + high), 1);
     EXPECT_GT(count(image(), Qt::white), before + 1000);
+}
+
+TEST_F(FieldLayers, MixColoursFromThreeVariables)
+{
+    show("flow3d", PlotType_Cartesian2D);
+    sample->set("FieldLayers/ShowContour", 1L);
+    sample->set("FieldMap/Contour/FloodColoring", long{ContourColoring_RGB}, 1);
+    EXPECT_FALSE(VtxUtilContourOkToTurnOnRGBColoring());
+    const auto counts = [this] {
+        const QImage drawn = image();
+        return std::array{count(drawn, Qt::red), count(drawn, Qt::green), count(drawn, Qt::yellow),
+                          count(drawn, Qt::magenta)};
+    };
+    EXPECT_EQ(counts(), (std::array{0, 0, 0, 0})) << "no variables are chosen";
+    sample->set("GlobalRGB/RedVar", 1L);   // X
+    sample->set("GlobalRGB/GreenVar", 2L); // Y
+    EXPECT_FALSE(VtxUtilContourOkToTurnOnRGBColoring());
+    sample->set("GlobalRGB/BlueVar", 3L); // Z, which is 0 in the plane
+    EXPECT_TRUE(VtxUtilContourOkToTurnOnRGBColoring());
+    sample->set("GlobalRGB/RangeMax", 1e-3); // a step
+    for (const ContourType_e type : {ContourType_Flood, ContourType_AverageCell}) {
+        sample->set("FieldMap/Contour/ContourType", long{type}, 1);
+        const auto [reds, greens, yellows, magentas] = counts();
+        EXPECT_GT(reds, 5000) << "X is above 0";
+        EXPECT_NEAR(greens, reds, 0.1 * reds);
+        EXPECT_NEAR(yellows, reds, 0.1 * reds) << "X and Y are above 0";
+        EXPECT_EQ(magentas, 0);
+    }
+    sample->set("FieldMap/Contour/FloodColoring", long{ContourColoring_Group1}, 1);
+    EXPECT_LT(counts()[0], 500);
 }
 
 TEST_F(FieldLayers, ANewColourMakesNoGeometryAgain)

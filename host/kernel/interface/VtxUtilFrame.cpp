@@ -1,5 +1,6 @@
 #include "api/VtxUtilFrame.h"
 
+#include "kernel/DataError.h"
 #include "kernel/Document.h"
 #include "kernel/ForegroundColors.h"
 #include "kernel/FrontEnd.h"
@@ -53,8 +54,22 @@ PlotType_e VtxUtilFrameGetPlotType(void)
 
 bool VtxUtilContourOkToTurnOnRGBColoring(void)
 {
-    boundary::fail("This host colours contours by one variable; it cannot mix red, green and blue from three.");
-    return false;
+    return boundary::guarded(false, [] {
+        const Frame* frame = document().activeFrame();
+        const DataSet* data = frame ? frame->dataSet().get() : nullptr;
+        if (!data) {
+            throw DataError("The active frame has no data to be coloured by.");
+        }
+        for (const char* color : {"Red", "Green", "Blue"}) {
+            const long entry = style().entry((std::string("GlobalRGB/") + color + "Var").c_str());
+            const long variable = style().integer(frame->id(), entry);
+            if (variable < 1 || variable > data->variableCount()) {
+                throw DataError(std::string("No variable of the data is chosen for the ") + color +
+                                " part. Choose variables for red, green and blue.");
+            }
+        }
+        return true;
+    });
 }
 
 bool VtxUtilFrameSetPlotType(PlotType_e plotType)

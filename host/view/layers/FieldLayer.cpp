@@ -99,7 +99,7 @@ void FieldLayer::setColor(const QColor& color)
     m_actor->GetProperty()->SetColor(color.redF(), color.greenF(), color.blueF());
 }
 
-void FieldLayer::setColors(const ContourColors& colors, bool byCell)
+void FieldLayer::setOwnColors(bool byCell)
 {
     m_mapper->ScalarVisibilityOn();
     if (byCell) {
@@ -107,6 +107,12 @@ void FieldLayer::setColors(const ContourColors& colors, bool byCell)
     } else {
         m_mapper->SetScalarModeToUsePointData();
     }
+    m_mapper->InterpolateScalarsBeforeMappingOff();
+}
+
+void FieldLayer::setColors(const ContourColors& colors, bool byCell)
+{
+    setOwnColors(byCell);
     m_mapper->SetInterpolateScalarsBeforeMapping(!byCell);
     m_mapper->SetLookupTable(colors.table);
     m_mapper->UseLookupTableScalarRangeOn();

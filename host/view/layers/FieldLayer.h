@@ -90,6 +90,9 @@ protected:
     void setColor(const QColor& color);
     void setColors(const ContourColors& colors, bool byCell);
 
+    /* The colours that the mapper's input has itself. */
+    void setOwnColors(bool byCell);
+
     /* What a light leaves of a colour, see LightStyle::colorContrast. */
     static QColor contrasted(const QColor& color, double contrast);
 

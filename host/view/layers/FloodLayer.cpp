@@ -12,8 +12,10 @@
 #include <vtkPolyData.h>
 #include <vtkProperty.h>
 #include <vtkThreshold.h>
+#include <vtkUnsignedCharArray.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace vantrix::view {
@@ -78,6 +80,30 @@ vtkSmartPointer<vtkPolyData> cutOff(vtkSmartPointer<vtkPolyData> surface, const 
     return surface;
 }
 
+/* Colours that have as much of red, green and blue as values lie between none and all; grey where one is no number. */
+template<class Contrasted>
+vtkSmartPointer<vtkUnsignedCharArray> mixedColors(const std::array<vtkSmartPointer<vtkDataArray>, 3>& parts,
+                                                  double minimum, double maximum, const Contrasted& contrasted)
+{
+    const auto part = [&](double value) {
+        const double fraction = maximum > minimum ? (value - minimum) / (maximum - minimum) : value > maximum;
+        return float(std::clamp(fraction, 0.0, 1.0));
+    };
+    auto colors = vtkSmartPointer<vtkUnsignedCharArray>::New();
+    colors->SetNumberOfComponents(3);
+    colors->SetNumberOfTuples(parts[0]->GetNumberOfTuples());
+    for (vtkIdType i = 0; i < colors->GetNumberOfTuples(); ++i) {
+        const std::array<double, 3> values{parts[0]->GetComponent(i, 0), parts[1]->GetComponent(i, 0),
+                                           parts[2]->GetComponent(i, 0)};
+        const bool isNumber = std::ranges::none_of(values, [](double value) { return std::isnan(value); });
+        const QColor color = contrasted(isNumber ? QColor::fromRgbF(part(values[0]), part(values[1]), part(values[2]))
+                                                 : QColor(Qt::gray));
+        const std::array<double, 3> mixed{double(color.red()), double(color.green()), double(color.blue())};
+        colors->SetTuple(i, mixed.data());
+    }
+    return colors;
+}
+
 } // namespace
 
 vtkSmartPointer<vtkLookupTable> FloodLayer::contrastedTable(vtkLookupTable& table, double contrast)
@@ -105,6 +131,7 @@ void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const Cont
     const Source source{surface.revision(), values->field.values, values->field.location, type, values->colors.cutoff};
     if (source != m_source) {
         m_source = source;
+        m_rgbSource = {};
         vtkSmartPointer<vtkPolyData> flood = surface.withValues(surface.litSurface(), values->field);
         if (isFlat && values->field.location == ValueLocation_Nodal) {
             makeCellValues(*flood, type == ContourType_AverageCell);
@@ -118,6 +145,54 @@ void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const Cont
     } else {
         setColors(values->colors, isFlat);
     }
+    setLook(style, context);
+}
+
+void FloodLayer::update(ZoneSurface& surface, const ZoneStyle& style, const RgbValues& values,
+                        const LayerContext& context)
+{
+    const bool isComplete = std::ranges::all_of(values.fields, [](const auto& field) { return field.values; });
+    setShown(style.contour.hasFlood() && isComplete && !surface.isEmpty());
+    if (!isShown()) {
+        return;
+    }
+    const ContourType_e type = style.contour.type;
+    const bool isFlat =
+        type == ContourType_AverageCell || type == ContourType_PrimaryValue ||
+        std::ranges::any_of(values.fields, [](auto& field) { return field.location == ValueLocation_CellCentered; });
+    const bool isLit = style.contour.isLit && context.isThreeD;
+    const RgbSource source{surface.revision(),
+                           {values.fields[0].values, values.fields[1].values, values.fields[2].values},
+                           values.minimum,
+                           values.maximum,
+                           isLit ? context.light.colorContrast : 1.0,
+                           type};
+    if (source != m_rgbSource) {
+        m_rgbSource = source;
+        m_source = {};
+        std::array<vtkSmartPointer<vtkDataArray>, 3> parts;
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            const vtkSmartPointer<vtkPolyData> part = surface.withValues(surface.litSurface(), values.fields[i]);
+            if (isFlat && values.fields[i].location == ValueLocation_Nodal) {
+                makeCellValues(*part, type != ContourType_PrimaryValue);
+            }
+            parts[i] = isFlat ? part->GetCellData()->GetScalars() : part->GetPointData()->GetScalars();
+        }
+        const auto flood = vtkSmartPointer<vtkPolyData>::New();
+        flood->ShallowCopy(surface.litSurface());
+        const vtkSmartPointer<vtkUnsignedCharArray> mixed =
+            mixedColors(parts, values.minimum, values.maximum,
+                        [&](const QColor& color) { return contrasted(color, source.contrast); });
+        (isFlat ? static_cast<vtkDataSetAttributes*>(flood->GetCellData()) : flood->GetPointData())->SetScalars(mixed);
+        setGeometry(flood);
+    }
+    setOwnColors(isFlat);
+    setLook(style, context);
+}
+
+void FloodLayer::setLook(const ZoneStyle& style, const LayerContext& context)
+{
+    const LightStyle& light = context.light;
     const LightingEffect_e effect = light.forcesGouraud  ? LightingEffect_Gouraud
                                     : light.forcesPanels ? LightingEffect_Paneled
                                                          : style.lighting;

@@ -4,11 +4,21 @@
 
 #include <vtkDataArray.h>
 
+#include <array>
+
 namespace vantrix::view {
 
 class ZoneSurface;
 
-/* The surface in the colours of a contour group. */
+/* Three variables in one zone that mix red, green and blue; see RgbStyle. */
+struct RgbValues
+{
+    std::array<kernel::FieldArray, 3> fields;
+    double minimum = 0.0;
+    double maximum = 1.0;
+};
+
+/* The surface in the colours of a contour group, or in colours mixed from three variables. */
 class FloodLayer : public PolyDataLayer
 {
 public:
@@ -20,6 +30,9 @@ public:
 
     /* Null values draw nothing. */
     void update(ZoneSurface& surface, const ZoneStyle& style, const ContourValues* values, const LayerContext& context);
+
+    /* Draws nothing unless there are all three. */
+    void update(ZoneSurface& surface, const ZoneStyle& style, const RgbValues& values, const LayerContext& context);
 
     /* Whether it draws anything. */
     using FieldLayer::isShown;
@@ -37,8 +50,21 @@ private:
         ColorCutoff cutoff;
         bool operator==(const Source&) const = default;
     };
+    struct RgbSource
+    {
+        unsigned long surface = 0;
+        std::array<vtkSmartPointer<vtkDataArray>, 3> values;
+        double minimum = 0.0;
+        double maximum = 1.0;
+        double contrast = 1.0;
+        ContourType_e type = ContourType_Flood;
+        bool operator==(const RgbSource&) const = default;
+    };
+
+    void setLook(const ZoneStyle& style, const LayerContext& context);
 
     Source m_source;
+    RgbSource m_rgbSource; /* at most one of the two says what is drawn */
 };
 
 } // namespace vantrix::view
