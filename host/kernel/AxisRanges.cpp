@@ -220,6 +220,19 @@ double AxisRanges::nextValue(AxisName axis, double value, bool up, bool isNice) 
     return withoutRounding(up ? value + step : value - step, step);
 }
 
+std::array<double, 3> AxisRanges::sizeFactors(const std::array<double, 3>& lengths)
+{
+    std::array<double, 3> factors{1.0, 1.0, 1.0};
+    const double longest = *std::ranges::max_element(lengths);
+    const auto isShort = [&](double length) { return length > 0.0 && longest > mostElongated * length; };
+    if (std::ranges::any_of(lengths, isShort)) {
+        for (std::size_t i = 0; i < lengths.size(); ++i) {
+            factors[i] = lengths[i] > 0.0 ? longest / lengths[i] : 1.0;
+        }
+    }
+    return factors;
+}
+
 void AxisRanges::reset3DScaleFactors()
 {
     if (m_plotType != PlotType_Cartesian3D) {
@@ -227,24 +240,21 @@ void AxisRanges::reset3DScaleFactors()
     }
     constexpr std::array kinds{'X', 'Y', 'Z'};
     std::array<double, 3> lengths{};
-    double longest = 0.0;
     for (std::size_t i = 0; i < kinds.size(); ++i) {
         const AxisName axis{kinds[i], 1};
         const Limits present{real(axis, "RangeMin"), real(axis, "RangeMax")};
         const auto range = dataRange(axis);
         lengths[i] = range ? range->maximum - range->minimum : std::abs(present.maximum - present.minimum);
-        longest = std::max(longest, lengths[i]);
     }
-    const auto isShort = [&](double length) { return length > 0.0 && longest > mostElongated * length; };
-    const bool isInProportion = std::none_of(lengths.begin(), lengths.end(), isShort);
+    const std::array<double, 3> factors = sizeFactors(lengths);
+    const bool isInProportion = factors == std::array{1.0, 1.0, 1.0};
     const long mode = isInProportion ? AxisMode_XYZDependent : AxisMode_Independent;
     m_style.setOf(m_frame.id(), m_style.entry("ThreeDAxis/AxisMode"), -1, -1, mode);
     setReal(m_style.entry("ThreeDAxis/DepXToYRatio"), 1.0);
     setReal(m_style.entry("ThreeDAxis/DepXToZRatio"), 1.0);
     for (std::size_t i = 0; i < kinds.size(); ++i) {
-        const bool isScaled = !isInProportion && lengths[i] > 0.0;
         const std::string path = std::string("GlobalThreeD/AxisScale/") + kinds[i];
-        setReal(m_style.entry(path.c_str()), isScaled ? longest / lengths[i] : 1.0);
+        setReal(m_style.entry(path.c_str()), factors[i]);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "kernel/AxisPlace.h"
 #include "kernel/AxisVariables.h"
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -44,6 +45,10 @@ public:
 
     /* See VtxUtilReset3DScaleFactors(). */
     void reset3DScaleFactors();
+
+    /* What makes axes whose ranges have such lengths equally long; all 1 where the lengths suit each other as they are.
+     * A length of 0 counts for nothing. */
+    static std::array<double, 3> sizeFactors(const std::array<double, 3>& lengths);
 
     /* See VtxUtilQueryIsXYDependentAllowedForFrame(). */
     bool isXYDependentAllowed() const;

@@ -1,6 +1,7 @@
 #include "kernel/PlotDefaults.h"
 
 #include "api/VtxEnumerations.h"
+#include "kernel/AxisRanges.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Kernel.h"
 #include "kernel/LineMaps.h"
@@ -76,6 +77,7 @@ void PlotDefaults::apply()
     }
     m_axes = guessAxisVariables(*m_data);
     setAxes();
+    setProportions();
     setLineMaps();
     if (!setContours()) {
         setShades();
@@ -116,6 +118,28 @@ void PlotDefaults::setAxes()
             }
         }
     }
+}
+
+/* Axes are in proportion unless one of them would be too short to be read. */
+void PlotDefaults::setProportions()
+{
+    const auto length = [&](long variable) {
+        const auto range = variable != 0 ? variableRange(*m_data, variable) : std::nullopt;
+        return range ? range->maximum - range->minimum : 0.0;
+    };
+    const std::array<double, 3> lengths{length(m_axes.x), length(m_axes.y), length(m_axes.z)};
+    constexpr std::array inProportion{1.0, 1.0, 1.0};
+    const bool isFlatInProportion = AxisRanges::sizeFactors({lengths[0], lengths[1], 0.0}) == inProportion;
+    set("TwoDAxis/AxisMode", long{isFlatInProportion ? AxisMode_XYDependent : AxisMode_Independent});
+    set("TwoDAxis/DepXToYRatio", 1.0);
+
+    const std::array<double, 3> factors = AxisRanges::sizeFactors(lengths);
+    set("ThreeDAxis/AxisMode", long{factors == inProportion ? AxisMode_XYZDependent : AxisMode_Independent});
+    set("ThreeDAxis/DepXToYRatio", 1.0);
+    set("ThreeDAxis/DepXToZRatio", 1.0);
+    set("GlobalThreeD/AxisScale/X", factors[0]);
+    set("GlobalThreeD/AxisScale/Y", factors[1]);
+    set("GlobalThreeD/AxisScale/Z", factors[2]);
 }
 
 void PlotDefaults::fitRange(const std::string& axisDetail, const std::vector<long>& variables, long axis, bool isNice)

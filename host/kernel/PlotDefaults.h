@@ -11,9 +11,9 @@ constexpr long contourGroupCount = 8; /* of a frame */
 
 /*
  * Style for a frame that shows a data set for the first time: a plot type that suits the data, variables of the axes,
- * ranges that hold all data, line maps, a variable and levels for each contour group, and colours that tell zones
- * without anything to be coloured by apart. To be used after Document::attachDataSet(), under the application lock; the
- * style is part of the same step of undo.
+ * ranges that hold all data, in proportion where that suits them, line maps, a variable and levels for each contour
+ * group, and colours that tell zones without anything to be coloured by apart. To be used after
+ * Document::attachDataSet(), under the application lock; the style is part of the same step of undo.
  */
 class PlotDefaults
 {
@@ -31,6 +31,7 @@ private:
     long plotType() const;
     void setAxes();
     void fitRange(const std::string& axisDetail, const std::vector<long>& variables, long axis, bool isNice);
+    void setProportions();
     void setLineMaps();
     void setLineAxes(long lastVariable);
     void fitPolar(const std::vector<long>& radii);

@@ -130,8 +130,8 @@ void PlotLegends::paint(const QRectF& frame, const QRectF& inside, const QRectF&
     const QRectF room = this->room(inside);
     const bool hasLines = m_lines.isShown() && !m_lines.style().isPlaced;
     const double left = m_isThreeD || hasLines ? room.right() + m_gap : area.right() + 2.0 * m_gap;
-    const QRectF column(left, m_isThreeD ? room.top() + 3.0 * m_gap : area.top(), columnWidth(inside),
-                        m_isThreeD ? room.height() - 6.0 * m_gap : area.height());
+    QRectF column(left, m_isThreeD ? room.top() + 3.0 * m_gap : area.top(), columnWidth(inside),
+                  m_isThreeD ? room.height() - 6.0 * m_gap : area.height());
 
     double fixed = 0.0; /* height of those that do not grow */
     double wanted = 0.0;
@@ -143,6 +143,13 @@ void PlotLegends::paint(const QRectF& frame, const QRectF& inside, const QRectF&
         }
     }
     const double between = 2.0 * m_gap;
+    const double needed = std::min(fixed + wanted + std::max(0, count - 1) * between, room.height() - 2.0 * m_gap);
+    if (needed > column.height()) { // they keep their size beside a plot that is not as high
+        const double most = room.bottom() - m_gap - needed;
+        column.moveTop(
+            std::clamp(column.center().y() - 0.5 * needed, room.top() + m_gap, std::max(room.top() + m_gap, most)));
+        column.setHeight(needed);
+    }
     const double growing = std::max(1.0, column.height() - fixed - std::max(0, count - 1) * between);
     const double share = wanted > growing ? growing / wanted : 1.0;
     const double all = fixed + share * wanted + std::max(0, count - 1) * between;

@@ -60,6 +60,18 @@ TEST_F(PlotDefaultsTest, NewDataAreSeenWholeWhateverTheViewWas)
     EXPECT_EQ(value("ThreeDView/ViewerPosition/X"), StyleData(70.0));
 }
 
+TEST_F(PlotDefaultsTest, AxesAreInProportionUnlessOneWouldBeTooShort)
+{
+    for (const auto& [sample, isInProportion] : {std::pair("polar", false), {"fe2d", true}, {"flow3d", true}}) {
+        show(sample); // over what was shown before
+        EXPECT_EQ(value("TwoDAxis/AxisMode"),
+                  StyleData(long{isInProportion ? AxisMode_XYDependent : AxisMode_Independent}))
+            << sample;
+        EXPECT_EQ(value("GlobalThreeD/AxisScale/X"), StyleData(1.0)) << "of the longest";
+        EXPECT_EQ(value("GlobalThreeD/AxisScale/Y") == StyleData(1.0), isInProportion) << sample;
+    }
+}
+
 TEST_F(PlotDefaultsTest, ThePlotTypeSuitsTheData)
 {
     const std::vector<std::pair<std::string, PlotType_e>> cases{{"flow3d", PlotType_Cartesian3D},
