@@ -36,7 +36,7 @@ void ZoneLayers::update(vtkDataSet* geometry, const std::shared_ptr<const kernel
     m_lines.update(m_surface, lines, contour(lines.hasLines(), lines.lineGroup),
                    colors(lines.hasLines(), lines.lineColor), context);
     m_mesh.update(m_surface, style.mesh, colors(style.mesh.isShown, style.mesh.color), context);
-    m_edges.update(m_surface, style.edge, context);
+    m_edges.update(m_surface, style.edge, m_flood.isShown(), context);
 
     if (style.vector.isShown || style.scatter.isShown) {
         m_points.set(m_surface, style.points);

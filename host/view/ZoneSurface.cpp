@@ -48,16 +48,36 @@ vtkSmartPointer<vtkPolyData> outerSurface(vtkDataSet* geometry)
     return filter->GetOutput();
 }
 
+vtkSmartPointer<vtkIdTypeArray> numbers(const char* name, vtkIdType count)
+{
+    auto numbers = vtkSmartPointer<vtkIdTypeArray>::New();
+    numbers->SetName(name);
+    numbers->SetNumberOfValues(count);
+    std::iota(numbers->GetPointer(0), numbers->GetPointer(0) + count, vtkIdType{0});
+    return numbers;
+}
+
+/* The lines from point to point of an ordered curve, which filters for surfaces leave away. */
+vtkSmartPointer<vtkPolyData> curve(vtkStructuredGrid& grid)
+{
+    auto result = vtkSmartPointer<vtkPolyData>::New();
+    const auto lines = vtkSmartPointer<vtkCellArray>::New();
+    for (vtkIdType number = 0; number + 1 < grid.GetNumberOfPoints(); ++number) {
+        lines->InsertNextCell({number, number + 1});
+    }
+    result->SetPoints(grid.GetPoints());
+    result->SetLines(lines);
+    result->GetPointData()->AddArray(numbers(pointNumbersName, grid.GetNumberOfPoints()));
+    result->GetCellData()->AddArray(numbers(cellNumbersName, lines->GetNumberOfCells()));
+    return result;
+}
+
 /* Every face of every cell, those between two cells once for each. */
 vtkSmartPointer<vtkPolyData> everyFace(vtkUnstructuredGrid& grid)
 {
     auto faces = vtkSmartPointer<vtkPolyData>::New();
     const auto polygons = vtkSmartPointer<vtkCellArray>::New();
-    const auto points = vtkSmartPointer<vtkIdTypeArray>::New();
     const auto cells = vtkSmartPointer<vtkIdTypeArray>::New();
-    points->SetName(pointNumbersName);
-    points->SetNumberOfValues(grid.GetNumberOfPoints());
-    std::iota(points->GetPointer(0), points->GetPointer(0) + grid.GetNumberOfPoints(), vtkIdType{0});
     cells->SetName(cellNumbersName);
     for (vtkIdType number = 0; number < grid.GetNumberOfCells(); ++number) {
         vtkCell* cell = grid.GetCell(number);
@@ -68,9 +88,17 @@ vtkSmartPointer<vtkPolyData> everyFace(vtkUnstructuredGrid& grid)
     }
     faces->SetPoints(grid.GetPoints());
     faces->SetPolys(polygons);
-    faces->GetPointData()->AddArray(points);
+    faces->GetPointData()->AddArray(numbers(pointNumbersName, grid.GetNumberOfPoints()));
     faces->GetCellData()->AddArray(cells);
     return faces;
+}
+
+/* Whether an ordered zone goes on in one direction alone. */
+bool isCurve(vtkStructuredGrid& grid)
+{
+    std::array<int, 3> size{};
+    grid.GetDimensions(size.data());
+    return std::ranges::count_if(size, [](int points) { return points > 1; }) == 1;
 }
 
 bool isVolume(vtkDataSet* geometry)
@@ -135,15 +163,8 @@ vtkSmartPointer<vtkPolyData> exposedSurface(vtkDataSet* geometry, const std::vec
 {
     const auto numbered = vtkSmartPointer<vtkDataSet>::Take(geometry->NewInstance());
     numbered->CopyStructure(geometry);
-    const auto addNumbers = [](vtkDataSetAttributes& attributes, const char* name, vtkIdType count) {
-        const auto numbers = vtkSmartPointer<vtkIdTypeArray>::New();
-        numbers->SetName(name);
-        numbers->SetNumberOfValues(count);
-        std::iota(numbers->GetPointer(0), numbers->GetPointer(0) + count, vtkIdType{0});
-        attributes.AddArray(numbers);
-    };
-    addNumbers(*numbered->GetPointData(), pointNumbersName, geometry->GetNumberOfPoints());
-    addNumbers(*numbered->GetCellData(), cellNumbersName, geometry->GetNumberOfCells());
+    numbered->GetPointData()->AddArray(numbers(pointNumbersName, geometry->GetNumberOfPoints()));
+    numbered->GetCellData()->AddArray(numbers(cellNumbersName, geometry->GetNumberOfCells()));
     const auto blanked = vtkSmartPointer<vtkUnsignedCharArray>::New();
     blanked->SetNumberOfValues(geometry->GetNumberOfCells());
     std::ranges::copy(areBlanked, blanked->GetPointer(0));
@@ -197,7 +218,8 @@ vtkSmartPointer<vtkPolyData> ZoneSurface::wholeSurface() const
             return everyFace(*cells);
         }
     }
-    return outerSurface(m_geometry);
+    vtkStructuredGrid* ordered = vtkStructuredGrid::SafeDownCast(m_geometry);
+    return ordered && isCurve(*ordered) ? curve(*ordered) : outerSurface(m_geometry);
 }
 
 vtkSmartPointer<vtkPolyData> ZoneSurface::makeSurface()

@@ -393,6 +393,20 @@ TEST_F(FieldLayers, LightForcesTheShadingOfFloods)
     EXPECT_EQ(image(), paneled);
 }
 
+TEST_F(FieldLayers, CurvesKeepTheirColoursUnderTheirEdges)
+{
+    show("lines", PlotType_Cartesian2D);
+    const QImage empty = image();
+    sample->set("FieldLayers/ShowContour", 1L);
+    sample->set("GlobalContour/Legend/Show", 0L, 1);
+    const QImage flooded = image();
+    EXPECT_NE(flooded, empty);
+    sample->set("FieldLayers/ShowEdge", 1L);
+    EXPECT_EQ(image(), flooded);
+    sample->set("FieldLayers/ShowContour", 0L);
+    EXPECT_NE(image(), empty) << "they are seen by their edges";
+}
+
 TEST_F(FieldLayers, HaveALegendOfSymbols)
 {
     show("fe2d", PlotType_Cartesian2D);

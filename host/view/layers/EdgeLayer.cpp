@@ -6,9 +6,11 @@
 
 namespace vantrix::view {
 
-void EdgeLayer::update(ZoneSurface& surface, const EdgeStyle& style, const LayerContext& context)
+void EdgeLayer::update(ZoneSurface& surface, const EdgeStyle& style, bool isFlooded, const LayerContext& context)
 {
-    setShown(style.isShown && !surface.isEmpty());
+    // The edge of a curve is the curve, and would hide its colours.
+    const bool hidesFlood = isFlooded && surface.surface()->GetNumberOfPolys() == 0;
+    setShown(style.isShown && !surface.isEmpty() && !hidesFlood);
     if (isShown()) {
         setGeometry(surface.edges(style.type));
         setColor(style.color);

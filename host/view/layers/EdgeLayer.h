@@ -14,7 +14,7 @@ public:
         : PolyDataLayer(renderer, 4.0)
     {}
 
-    void update(ZoneSurface& surface, const EdgeStyle& style, const LayerContext& context);
+    void update(ZoneSurface& surface, const EdgeStyle& style, bool isFlooded, const LayerContext& context);
 };
 
 } // namespace vantrix::view
