@@ -22,6 +22,8 @@
 namespace vantrix::view {
 namespace {
 
+constexpr double highestOversampled = 4000.0; /* pixels; larger pictures would not fit into every graphics memory */
+
 vtkSmartPointer<vtkPoints> logarithmicPoints(vtkPoints* points, const std::array<bool, 3>& isLogarithmic)
 {
     auto result = vtkSmartPointer<vtkPoints>::New();
@@ -136,20 +138,25 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
 {
     updateGroups(style.contourGroups);
     // Translucent surfaces are seen in their order from the viewer only when they are peeled layer by layer, and that
-    // allows one sample a pixel.
+    // allows one sample a pixel. Lines of several samples have gaps where their segments meet with some drivers.
     const bool isTranslucent =
         (style.streamtraces.isShown && style.streamtraces.rodRibbon.opacity < 1.0) ||
         std::any_of(style.zones.begin(), style.zones.end(), [](const ZoneStyle& zone) { return zone.opacity < 1.0; });
     m_renderer->SetUseDepthPeeling(isTranslucent);
     m_renderer->SetMaximumNumberOfPeels(quality.sortedSurfaces);
-    m_samples = isTranslucent ? 0 : quality.samples;
-    m_oversampling = isTranslucent && quality.samples > 0 ? 2 : 1;
+    const bool isOversampled = quality.samples > 0 && (isTranslucent || frameHeightPixels <= highestOversampled);
+    m_oversampling = isOversampled ? 2 : 1;
+    m_samples = isTranslucent || isOversampled ? 0 : quality.samples;
     const bool isThreeD = style.type == PlotType_Cartesian3D;
     m_scale = isThreeD ? style.worldScale() : std::array<double, 3>{1.0, 1.0, 0.0};
     m_shift = isThreeD ? style.worldShift() : std::array<double, 3>{};
-    const LayerContext context{isThreeD,      m_oversampling * frameHeightPixels / 100.0,
-                               style.light,   style.vectors,
-                               style.scatter, quality.keptPoints};
+    const LayerContext context{isThreeD,
+                               m_oversampling * frameHeightPixels / 100.0,
+                               double(m_oversampling),
+                               style.light,
+                               style.vectors,
+                               style.scatter,
+                               quality.keptPoints};
     m_boxDiagonal = boxDiagonal(style);
     m_light->SetPosition(style.light.direction[0], style.light.direction[1], style.light.direction[2]);
     std::erase_if(m_zones, [&](const auto& entry) {

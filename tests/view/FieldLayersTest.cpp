@@ -345,6 +345,32 @@ TEST_F(FieldLayers, EdgesAreSeenWholeHoweverSteepTheFacesAre)
     }
 }
 
+TEST_F(FieldLayers, LinesHaveNoGapsWhereTheirSegmentsMeet)
+{
+    show("polar", PlotType_Cartesian2D);
+    sample->set("FieldLayers/ShowEdge", 1L);
+    for (const long zone : {2L, 3L}) {
+        sample->set("ActiveFieldMaps", 0L, zone);
+    }
+    for (const int width : {640, 700, 760}) {
+        const QImage drawn = renderer->frameImage(sample->frame(), width);
+        const view::FramePlot& plot = *renderer->plot(sample->frame().id());
+        const double inch = width / plot.frameSize.width();
+        const QRect area = QRectF(plot.area.topLeft() * inch, plot.area.size() * inch).toRect();
+        // The field goes up and down twice, so that four lines cross each height.
+        for (int y = area.top() + area.height() / 10; y < area.bottom() - area.height() / 10; ++y) {
+            int lines = 0;
+            bool isOnLine = false;
+            for (int x = area.left() + 3; x < area.right() - 3; ++x) {
+                const bool isDark = drawn.pixelColor(x, y).lightness() < 200;
+                lines += isDark && !isOnLine;
+                isOnLine = isDark;
+            }
+            ASSERT_EQ(lines, 4) << "row " << y << " of width " << width;
+        }
+    }
+}
+
 TEST_F(FieldLayers, LightLeavesAsMuchOfAColourAsItIsTold)
 {
     show("fe2d", PlotType_Cartesian3D);

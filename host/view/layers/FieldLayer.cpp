@@ -15,7 +15,7 @@ namespace vantrix::view {
 
 float LayerContext::lineWidth(double percent) const
 {
-    return static_cast<float>(std::max(1.0, percent * pixelsPerPercent));
+    return static_cast<float>(std::max(leastWidth, percent * pixelsPerPercent));
 }
 
 std::array<double, 3> Placement::place(const std::array<double, 3>& point) const

@@ -20,13 +20,14 @@ namespace vantrix::view {
 struct LayerContext
 {
     bool isThreeD = false;
-    double pixelsPerPercent = 1.0; /* pixels to one per cent of the frame's height */
+    double pixelsPerPercent = 1.0; /* pixels rendered to one per cent of the frame's height */
+    double leastWidth = 1.0;       /* of lines, in pixels rendered: one of the picture */
     LightStyle light;
     VectorScaleStyle vectors;
     ScatterScaleStyle scatter;
     double keptPoints = 1.0; /* of the points of surfaces, 0 to 1 */
 
-    /* The width of a line in pixels, never less than one. */
+    /* The width of a line in pixels, never less than one of the picture. */
     float lineWidth(double percent) const;
 
     /* A length in pixels. */
