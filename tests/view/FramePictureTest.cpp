@@ -105,6 +105,9 @@ TEST_F(FramesOnScreen, ArePaintedAnewOnlyWhenTheyChange)
     EXPECT_EQ(screen(), fresh()) << "the border has an outer half";
     EXPECT_EQ(renderer.paintCount(lines), 3);
     EXPECT_EQ(renderer.paintCount(empty), 2);
+    renderer.forgetLatexErrors();
+    EXPECT_EQ(screen(), fresh());
+    EXPECT_EQ(renderer.paintCount(lines), 4) << "its LaTeX texts can have a picture now";
 }
 
 TEST_F(FramesOnScreen, ArePaintedAnewWhereAnotherPartIsSeenOrAtAnotherResolution)
