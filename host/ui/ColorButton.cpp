@@ -31,7 +31,10 @@ public:
     ColorGrid()
         : m_layout(new QGridLayout(this))
     {
-        m_layout->setSpacing(2);
+        m_layout->setSpacing(0);
+        setStyleSheet(QStringLiteral("QToolButton { border: 2px solid transparent; padding: 1px; }"
+                                     "QToolButton:hover { border-color: palette(mid); }"
+                                     "QToolButton:focus { border-color: palette(highlight); }"));
     }
 
     void add(QToolButton* button, int color)
