@@ -1,5 +1,6 @@
 #include "view/WorkArea.h"
 
+#include "api/VtxUtilState.h"
 #include "kernel/Document.h"
 #include "kernel/Frame.h"
 #include "kernel/Kernel.h"
@@ -39,6 +40,12 @@ constexpr double zoomPerNotch = 1.2;
 constexpr int wheelPause = 350; /* milliseconds after which turning the wheel again is another step of undo */
 const QColor deskColor(0xd9, 0xdd, 0xe3);
 
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+           key == Qt::Key_Meta;
+}
+
 } // namespace
 
 struct WorkArea::Impl : kernel::PickSurface
@@ -72,6 +79,9 @@ struct WorkArea::Impl : kernel::PickSurface
     {
         auto* self = static_cast<Impl*>(impl);
         self->widget.update();
+        if (change->kind == StateChange_HistoryStep) { // what is dragged may be gone
+            self->cancelDrag();
+        }
         if (change->kind == StateChange_MouseMode) {
             self->widget.endInsert();
         }
@@ -91,6 +101,15 @@ struct WorkArea::Impl : kernel::PickSurface
         endGesture();
         pressed = &tool;
         tool.press(event);
+    }
+
+    void cancelDrag()
+    {
+        if (pressed) {
+            std::exchange(pressed, nullptr)->cancel();
+            widget.update();
+        }
+        endGesture();
     }
 
     void endGesture()
@@ -210,10 +229,7 @@ bool WorkArea::event(QEvent* event)
     // Whoever takes the mouse away in the middle of a drag ends the drag.
     if (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide ||
         event->type() == QEvent::WindowDeactivate) {
-        if (m_impl->pressed) {
-            std::exchange(m_impl->pressed, nullptr)->cancel();
-        }
-        m_impl->endGesture();
+        m_impl->cancelDrag();
     }
     return QWidget::event(event);
 }
@@ -361,7 +377,18 @@ void WorkArea::leaveEvent(QEvent* event)
 
 void WorkArea::keyPressEvent(QKeyEvent* event)
 {
-    m_impl->endGesture();
+    if (isModifier(event->key())) { // says how to drag
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    const bool takesBack = m_impl->pressed && event->key() == Qt::Key_Escape;
+    if (takesBack && m_impl->context.editor.isEditing()) {
+        VtxUtilLockRollBack();
+    }
+    m_impl->cancelDrag();
+    if (takesBack && !m_impl->inserting) {
+        return;
+    }
     if (!m_impl->tool().keyPress(*event)) {
         QWidget::keyPressEvent(event);
     }
