@@ -58,28 +58,39 @@ Camera3D::Camera3D(const View3D& view, const Box3& box, double aspect, double ma
     if (m_view.width > 0.0) {
         return;
     }
-    const Point3 center = box.center();
-    std::array<double, 4> extent{0.0, 0.0, 0.0, 0.0};
-    for (int i = 0; i < 8; ++i) {
-        const Point3 from = plus(box.corner(i), -1.0, center);
-        const double x = dot(from, m_right);
-        const double y = dot(from, m_up);
-        extent = {std::min(extent[0], x), std::max(extent[1], x), std::min(extent[2], y), std::max(extent[3], y)};
-    }
     // A margin that leaves nothing for the plot would turn the picture inside out.
     const double across = std::max(0.2, 1.0 - 2.0 * margin);
     const double up = std::max(0.2, 1.0 / m_aspect - 2.0 * margin);
-    const double needed = std::max((extent[1] - extent[0]) / across, (extent[3] - extent[2]) / up);
+    // A corner that lies `away` from the middle of the picture and `near` the eye is inside of its part of it when
+    //     width >= near / eyeDistance() + 2 |away| / part
+    // What is largest for the corners on either side decides on width and middle.
+    std::array<double, 2> rightAndLeft{};
+    std::array<double, 2> upAndDown{};
+    const Point3 center = box.center();
+    for (int i = 0; i < 8; ++i) {
+        const Point3 from = plus(box.corner(i), -1.0, center);
+        const double near = m_view.isPerspective ? dot(from, m_toward) / eyeDistance() : 0.0;
+        const double x = 2.0 * dot(from, m_right) / across;
+        const double y = 2.0 * dot(from, m_up) / up;
+        rightAndLeft = {std::max(rightAndLeft[0], near + x), std::max(rightAndLeft[1], near - x)};
+        upAndDown = {std::max(upAndDown[0], near + y), std::max(upAndDown[1], near - y)};
+    }
+    const double needed = 0.5 * std::max(rightAndLeft[0] + rightAndLeft[1], upAndDown[0] + upAndDown[1]);
     m_view.width = needed > 0.0 ? needed : 1.0;
-    const Point3 middle =
-        plus(plus(center, 0.5 * (extent[0] + extent[1]), m_right), 0.5 * (extent[2] + extent[3]), m_up);
+    const Point3 middle = plus(plus(center, 0.25 * across * (rightAndLeft[0] - rightAndLeft[1]), m_right),
+                               0.25 * up * (upAndDown[0] - upAndDown[1]), m_up);
     m_view.position = plus(middle, distance(), m_toward);
+}
+
+double Camera3D::eyeDistance() const
+{
+    const double angle = std::clamp(m_view.fieldOfView, 0.1, 179.0);
+    return 1.0 / (2.0 * std::tan(radians(angle) / 2.0));
 }
 
 double Camera3D::distance() const
 {
-    const double angle = std::clamp(m_view.fieldOfView, 1.0, 150.0);
-    return m_view.width / (2.0 * std::tan(radians(angle) / 2.0));
+    return m_view.width * eyeDistance();
 }
 
 Point3 Camera3D::target() const

@@ -65,6 +65,8 @@ public:
     void apply(vtkCamera& camera) const;
 
 private:
+    /* Of the eye from the plane through the plot's middle, in picture widths. */
+    double eyeDistance() const;
     double distance() const;
     Point3 target() const;
     double widthAt(const Point3& from) const;

@@ -21,18 +21,22 @@ TEST(Camera3D, ShowsTheWholeBoxInsideItsMarginsFromEveryDirection)
 {
     const double aspect = 1.3;
     const double margin = 0.1;
-    for (int theta = 0; theta < 360; theta += 30) {
-        for (int psi = 0; psi <= 180; psi += 30) {
-            View3D view;
-            view.theta = theta;
-            view.psi = psi;
-            view.alpha = 20.0;
+    View3D view;
+    view.alpha = 20.0;
+    for (const double fieldOfView : {0.0, 0.1, 30.0, 150.0, 179.0}) {
+        view.isPerspective = fieldOfView > 0.0;
+        view.fieldOfView = fieldOfView;
+        for (int direction = 0; direction < 12 * 7; ++direction) {
+            view.theta = direction % 12 * 30;
+            view.psi = direction / 12 * 30;
             const Camera3D camera(view, box, aspect, margin);
+            double reach = 0.0; // 1 is the whole room inside of the margins
             for (int corner = 0; corner < 8; ++corner) {
                 const QPointF place = camera.project(box.corner(corner));
-                EXPECT_LE(std::abs(place.x()), 0.5 - margin + 1e-9);
-                EXPECT_LE(std::abs(place.y()), 0.5 / aspect - margin + 1e-9);
+                reach = std::max(
+                    {reach, std::abs(place.x()) / (0.5 - margin), std::abs(place.y()) / (0.5 / aspect - margin)});
             }
+            EXPECT_NEAR(reach, 1.0, 1e-6) << fieldOfView << ' ' << view.theta << ' ' << view.psi;
         }
     }
 }

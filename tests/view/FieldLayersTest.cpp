@@ -402,6 +402,33 @@ TEST_F(FieldLayers, LightLeavesAsMuchOfAColourAsItIsTold)
     EXPECT_GT(saturation(), paleFlood) << "no light, no contrast of its own";
 }
 
+TEST_F(FieldLayers, LightFallsOnReversedAxesAsOnOthers)
+{
+    show("flow3d", PlotType_Cartesian3D);
+    sample->set("FieldLayers/ShowShade", 1L);
+    sample->set("FieldMap/Shade/Color", green, 1);
+    // How bright the surface is where it is brightest.
+    const auto brightest = [&] {
+        const QImage picture = image();
+        int green = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor color = picture.pixelColor(x, y);
+                green = color.saturation() > 200 ? std::max(green, color.green()) : green;
+            }
+        }
+        return green;
+    };
+    const int before = brightest();
+    EXPECT_GT(before, 150);
+    sample->set("ThreeDAxis/ZDetail/IsReversed", 1L);
+    EXPECT_NEAR(brightest(), before, 25);
+    sample->set("ThreeDAxis/XDetail/IsReversed", 1L);
+    EXPECT_NEAR(brightest(), before, 25);
+    sample->set("ThreeDAxis/ZDetail/IsReversed", 0L);
+    EXPECT_NEAR(brightest(), before, 25);
+}
+
 TEST_F(FieldLayers, LightForcesTheShadingOfFloods)
 {
     show("flow3d", PlotType_Cartesian3D);

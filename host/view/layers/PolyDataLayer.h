@@ -13,13 +13,19 @@ class PolyDataLayer : public FieldLayer
 public:
     PolyDataLayer(vtkRenderer* renderer, double order);
 
+    void place(const Placement& placement) override;
+
 protected:
     void setGeometry(vtkPolyData* geometry);
 
 private:
+    void setInput();
+
     PolyDataLayer(vtkRenderer* renderer, vtkSmartPointer<vtkPolyDataMapper> mapper, double order);
 
     vtkSmartPointer<vtkPolyDataMapper> m_mapper;
+    vtkSmartPointer<vtkPolyData> m_geometry;
+    bool m_isMirrored = false; /* by reversed axes */
 };
 
 } // namespace vantrix::view
