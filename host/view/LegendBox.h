@@ -5,6 +5,7 @@
 
 #include <QRectF>
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 
@@ -20,9 +21,12 @@ public:
     const LegendStyle& style() const { return m_style; }
     const QFont& font() const { return m_font; }
 
+    /* Rows hold something besides texts that is so high, in logical units. */
+    void makeRoom(double height) { m_leastRowHeight = height; }
+
     /* In logical units: the height of a line of text, the distance of rows, and that of the box from what it holds. */
     double textHeight() const { return m_textHeight; }
-    double rowHeight() const { return m_style.rowSpacing * m_textHeight; }
+    double rowHeight() const { return std::max(m_style.rowSpacing * m_textHeight, m_leastRowHeight); }
     double margin() const;
     double gap() const { return 0.5 * m_textHeight; }
 
@@ -48,6 +52,7 @@ private:
     const LegendStyle& m_style;
     QFont m_font;
     double m_textHeight;
+    double m_leastRowHeight = 0.0;
 };
 
 } // namespace vantrix::view

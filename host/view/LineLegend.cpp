@@ -12,11 +12,17 @@ LineLegend::LineLegend(const Canvas& canvas, double frameHeight, const PlotStyle
     , m_frameHeight(frameHeight)
     , m_box(canvas, frameHeight, style.lineLegend)
 {
+    double highest = 0.0;
     for (const LineMapStyle& map : style.lineMaps) {
         if (map.hasLines || map.hasSymbols) {
             m_maps.push_back(&map);
         }
+        if (map.hasSymbols) {
+            constexpr double apart = 1.1;
+            highest = std::max(highest, apart * 2.0 * MarkSymbol(canvas, frameHeight, map.symbol).radius());
+        }
     }
+    m_box.makeRoom(highest);
 }
 
 bool LineLegend::isShown() const

@@ -106,11 +106,14 @@ void LinePlot::paint(const LineMapStyle& map, const QRectF& area, const Places& 
     if (map.hasSymbols) {
         const MarkSymbol symbol(m_canvas, m_frameHeight, map.symbol);
         const double margin = symbol.radius();
+        const QPointF reach(margin, margin);
         TakenPixels taken(area.adjusted(-margin, -margin, margin, margin), pixel);
         for (vtkIdType i = 0; i < count; i += map.skip) {
             const QPointF place = places(xs->GetComponent(i, 0), ys->GetComponent(i, 0));
             if (!isBlanked(i) && taken.take(place)) {
                 symbol.draw(place);
+                m_canvas.markArea({.type = PickObject_LineMap, .number = map.number},
+                                  QRectF(place - reach, place + reach));
             }
         }
     }

@@ -148,20 +148,25 @@ TEST_F(SelectorTest, PicksZonesAndAxesOfASpatialPlot)
 TEST_F(SelectorTest, PicksLineMapsAndTheirLegend)
 {
     show("lines", PlotType_XYLine);
-    std::set<int> types;
-    std::set<long> maps;
-    for (double x = 0.05; x < 1.2; x += 0.05) {
-        for (double y = 0.02; y < 1.0; y += 0.01) {
-            const auto object = m_area->renderer().objectAt(m_sample->frame().id(), inPlot(x, y) - corner(), 0.02);
-            types.insert(object.type);
-            if (object.type == PickObject_LineMap) {
-                maps.insert(object.number);
+    for (const bool hasLines : {true, false}) { // else symbols
+        m_sample->set("LinePlotLayers/ShowLines", long{hasLines});
+        m_sample->set("LinePlotLayers/ShowSymbols", long{!hasLines});
+        m_area->repaint();
+        std::set<int> types;
+        std::set<long> maps;
+        for (double x = 0.05; x < 1.2; x += 0.05) {
+            for (double y = 0.02; y < 1.0; y += 0.01) {
+                const auto object = m_area->renderer().objectAt(m_sample->frame().id(), inPlot(x, y) - corner(), 0.02);
+                types.insert(object.type);
+                if (object.type == PickObject_LineMap) {
+                    maps.insert(object.number);
+                }
             }
         }
+        EXPECT_TRUE(types.contains(PickObject_LineLegend));
+        EXPECT_TRUE(types.contains(PickObject_Axis));
+        EXPECT_GE(maps.size(), 2U);
     }
-    EXPECT_TRUE(types.contains(PickObject_LineLegend));
-    EXPECT_TRUE(types.contains(PickObject_Axis));
-    EXPECT_GE(maps.size(), 2U);
 }
 
 TEST_F(SelectorTest, MovesAFrameByTheGridAsOneStep)
@@ -244,6 +249,48 @@ TEST_F(SelectorTest, MovesTextsAndGeometriesAsOneStep)
     ASSERT_TRUE(VtxUtilUndo());
     EXPECT_EQ(kernel().texts().find(text)->x, 30.0);
     EXPECT_EQ(kernel().undoStack().undoName(), "Insert Text");
+}
+
+TEST_F(SelectorTest, KeysEndADragAndEscapeTakesItBack)
+{
+    show("fe2d", PlotType_Cartesian2D);
+    const long text = createText("MMMM");
+    m_area->repaint();
+    const QRectF frame = activeRect();
+    const QPointF inText = frame.bottomLeft() + QPointF(0.31 * frame.width(), -0.33 * frame.height());
+    const QPointF other = inText + QPointF(0.1 * frame.width(), 0.0);
+    const auto press = [&] { QTest::mousePress(m_area.get(), Qt::LeftButton, {}, widgetPlace(inText)); };
+    const auto move = [&](QPointF to) {
+        test::moveMouse(*m_area, m_area->toWidget(to), Qt::LeftButton, Qt::AltModifier);
+    };
+    click(inText);
+
+    press();
+    move(other);
+    EXPECT_GT(kernel().texts().find(text)->x, 35.0);
+    QTest::keyPress(m_area.get(), Qt::Key_Alt);
+    move(other + QPointF(0.1 * frame.width(), 0.0));
+    EXPECT_GT(kernel().texts().find(text)->x, 45.0) << "Alt is part of the drag";
+    QTest::keyClick(m_area.get(), Qt::Key_Escape);
+    EXPECT_EQ(kernel().texts().find(text)->x, 30.0);
+    move(other);
+    EXPECT_EQ(kernel().texts().find(text)->x, 30.0);
+    EXPECT_EQ(kernel().undoStack().undoName(), "Insert Text");
+
+    press();
+    move(other);
+    QTest::keyClick(m_area.get(), Qt::Key_Delete);
+    move(inText);
+    EXPECT_EQ(kernel().texts().find(text), nullptr);
+    ASSERT_TRUE(VtxUtilUndo());
+    ASSERT_TRUE(VtxUtilUndo()) << "the drag until then is a step";
+    EXPECT_EQ(kernel().texts().find(text)->x, 30.0);
+    m_area->repaint();
+    click(inText);
+    press();
+    ASSERT_TRUE(VtxUtilUndo());
+    move(other);
+    EXPECT_EQ(kernel().texts().find(text), nullptr);
 }
 
 TEST_F(SelectorTest, MovesATextIn3DParallelToTheScreen)
