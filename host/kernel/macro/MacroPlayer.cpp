@@ -109,25 +109,40 @@ void MacroPlayer::play(const std::vector<Line>& lines, const std::string& name)
 
 void MacroPlayer::play(const Line& line)
 {
-    const auto runAll = [&] {
-        for (const MacroCommand& command : line.commands) {
-            if (!runCommand(command)) {
-                throw DataError(m_kernel.lastError());
-            }
-        }
-    };
     if (commandNamed(line.commands.front().name)->isStepOfItsOwn) {
-        runAll();
+        runAll(line.commands);
         return;
     }
     const ActionLock lock(m_kernel.lock());
     try {
-        runAll();
+        runAll(line.commands);
         m_kernel.undoStack().nameStep("Macro");
     } catch (...) {
         m_kernel.undoStack().rollBackStep();
         m_kernel.macroRecorder().dropStep();
         throw;
+    }
+}
+
+void MacroPlayer::runAll(const std::vector<MacroCommand>& commands)
+{
+    // A value may be right only when another one of the line is set, as the ends of a range are that moves far.
+    std::vector<const MacroCommand*> refused;
+    std::string error;
+    for (const MacroCommand& command : commands) {
+        if (runCommand(command)) {
+            continue;
+        }
+        error = refused.empty() ? m_kernel.lastError() : error;
+        if (!isValue(command)) {
+            throw DataError(error);
+        }
+        refused.push_back(&command);
+    }
+    while (!refused.empty()) {
+        if (std::erase_if(refused, [this](const MacroCommand* command) { return runCommand(*command); }) == 0) {
+            throw DataError(error);
+        }
     }
 }
 

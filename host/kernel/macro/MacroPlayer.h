@@ -37,6 +37,7 @@ private:
     static std::vector<Line> read(std::istream& stream, const std::string& name);
     void play(const std::vector<Line>& lines, const std::string& name);
     void play(const Line& line);
+    void runAll(const std::vector<MacroCommand>& commands);
     bool runCommand(const MacroCommand& command);
 
     Kernel& m_kernel;
