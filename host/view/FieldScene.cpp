@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace vantrix::view {
 namespace {
@@ -118,6 +119,7 @@ FieldScene::FieldScene(OffscreenWindow& window)
 
 FieldScene::~FieldScene()
 {
+    m_renderer->RemoveAllViewProps(); /* so that each layer has none to search for its own */
     m_zones.clear();
     m_streamtraces.reset();
     m_window.forget(m_renderer);
@@ -159,10 +161,11 @@ void FieldScene::update(const kernel::DataSet& dataSet, const PlotStyle& style, 
                                quality.keptPoints};
     m_boxDiagonal = boxDiagonal(style);
     m_light->SetPosition(style.light.direction[0], style.light.direction[1], style.light.direction[2]);
-    std::erase_if(m_zones, [&](const auto& entry) {
-        return std::none_of(style.zones.begin(), style.zones.end(),
-                            [&](const ZoneStyle& zone) { return zone.zone == entry.first; });
-    });
+    std::unordered_set<long> shown;
+    for (const ZoneStyle& zone : style.zones) {
+        shown.insert(zone.zone);
+    }
+    std::erase_if(m_zones, [&](const auto& entry) { return !shown.contains(entry.first); });
     for (const ZoneStyle& zone : style.zones) {
         updateZone(dataSet, style, zone, context);
     }

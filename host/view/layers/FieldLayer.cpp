@@ -3,6 +3,7 @@
 #include <vtkActor.h>
 #include <vtkLookupTable.h>
 #include <vtkMapper.h>
+#include <vtkPropCollection.h>
 #include <vtkProperty.h>
 #include <vtkRenderer.h>
 #include <vtkShaderProperty.h>
@@ -80,9 +81,10 @@ vtkActor& FieldLayer::actor() const
 
 void FieldLayer::setShown(bool isShown)
 {
-    // A renderer looks through all its actors for each that comes or goes: those of layers never shown stay away.
+    // Layers never shown stay away, and AddActor() would look through all actors for each that comes.
     if (isShown && !m_isAdded) {
-        m_renderer->AddActor(m_actor);
+        m_renderer->GetViewProps()->AddItem(m_actor);
+        m_actor->AddConsumer(m_renderer);
         m_isAdded = true;
     }
     m_actor->SetVisibility(isShown);
