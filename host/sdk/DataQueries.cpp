@@ -32,9 +32,14 @@ bool IsOkToMake3DZone()
     return plotType == PlotType_Cartesian3D || (plotType == PlotType_Sketch && !VtxUtilDataSetIsAvailable());
 }
 
+bool pageIsAvailable()
+{
+    return VtxUtilPageGetCount() > 0;
+}
+
 bool dataSetAndFrameAreAvailable()
 {
-    return VtxUtilPageGetCount() > 0 && VtxUtilFrameGetCount() > 0 && VtxUtilDataSetIsAvailable();
+    return pageIsAvailable() && VtxUtilFrameGetCount() > 0 && VtxUtilDataSetIsAvailable();
 }
 
 toolbox::Set getEnabledZones()

@@ -12,6 +12,9 @@ void GetDataExtents(double& xMin, double& yMin, double& zMin, double& xMax, doub
 /// type is still open.
 bool IsOkToMake3DZone();
 
+/// Whether there is a page.
+bool pageIsAvailable();
+
 /// Whether there is a page with a frame that has a data set.
 bool dataSetAndFrameAreAvailable();
 

@@ -41,6 +41,9 @@ public:
         return found != m_controls.end() ? found->second.data() : nullptr;
     }
 
+    /// Tells the control of a property that is bound by way of another one, such as a member of a set.
+    void remember(QWidget* control, PropertyItemInterface const& property) { m_controls.emplace(&property, control); }
+
     template<typename T>
     using Followed = propertymanager::UIStylePropertyAbstract<T>;
 
@@ -153,7 +156,6 @@ public:
 private:
     using BindingInterface = propertybindings::BindingInterface;
 
-    void remember(QWidget* control, PropertyItemInterface const& property) { m_controls.emplace(&property, control); }
     void apply(Relevance const& relevance, std::vector<QObject*> const& controls,
                propertybindings::RelevanceApplier::Manifestation manifestation)
     {

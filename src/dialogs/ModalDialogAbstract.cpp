@@ -6,18 +6,32 @@
 #include "ui/ButtonBinding.h"
 
 #include <QAbstractButton>
+#include <QGroupBox>
 #include <QLabel>
+#include <QRadioButton>
 #include <QRegularExpression>
 
 namespace vantrix::sdk::ui::dialogs {
 
 namespace {
 
-/// What stands beside a control, without its access key and colon.
+/// The group that a radio button is one of; null for other controls.
+QGroupBox const* groupOf(QWidget const& control)
+{
+    QWidget const* box = qobject_cast<QRadioButton const*>(&control);
+    while (box && !qobject_cast<QGroupBox const*>(box)) {
+        box = box->parentWidget();
+    }
+    return qobject_cast<QGroupBox const*>(box);
+}
+
+/// What stands beside a control, or above the group that it is one of, without access key and colon.
 QString labelOf(QWidget const& control)
 {
     QString text;
-    if (auto const* const button = qobject_cast<QAbstractButton const*>(&control)) {
+    if (auto const* const group = groupOf(control)) {
+        text = group->title();
+    } else if (auto const* const button = qobject_cast<QAbstractButton const*>(&control)) {
         text = button->text();
     }
     for (QLabel const* const label : control.window()->findChildren<QLabel*>()) {

@@ -41,6 +41,15 @@ struct UpdateOnIdle
     BindingInterface* binding;
 };
 
+/// A long list does not ask each row for its width.
+void limitWidth(QComboBox& comboBox, int rows)
+{
+    if (rows >= LONG_LIST) {
+        comboBox.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        comboBox.setMinimumContentsLength(WIDTH_WITH_LONG_LIST);
+    }
+}
+
 void prepare(QComboBox& comboBox, int rows)
 {
     comboBox.setInsertPolicy(QComboBox::NoInsert);
@@ -51,10 +60,7 @@ void prepare(QComboBox& comboBox, int rows)
     if (auto* list = qobject_cast<QListView*>(comboBox.view())) {
         list->setUniformItemSizes(true);
     }
-    if (rows >= LONG_LIST) {
-        comboBox.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        comboBox.setMinimumContentsLength(WIDTH_WITH_LONG_LIST);
-    }
+    limitWidth(comboBox, rows);
 }
 
 void refuse(QComboBox& comboBox, QString const& text, std::string const& expected)
@@ -140,6 +146,7 @@ void ComboBoxPropertyBinding<T>::updateWidget()
     if (!m_comboBox || (m_deferrer && m_deferrer->defer())) {
         return;
     }
+    limitWidth(*m_comboBox, m_model.size()); // other data may have made it long
     T const value = this->property().value();
     int const row = m_model.indexOf(value);
     if (row >= 0) {

@@ -59,6 +59,7 @@ void PaperSetupDialogImpl::createBindings()
     m_bindings.bindCheck(m_form.paper_ShowOnScreen_ToggleButton, paper.showPaper());
     m_bindings.bindCheck(m_form.paper_ShowBackColor_ToggleButton, m_manager.useFillColorWhenPrinting());
     m_bindings.bindColor(m_form.paper_Color_ColorAndTextButton, m_manager.fillColor());
+    m_bindings.remember(m_form.paper_Color_ColorAndTextButton, *paper.backgroundColor());
     m_bindings.bindLabel(m_form.paper_Color_Label, m_manager.fillColor());
 }
 

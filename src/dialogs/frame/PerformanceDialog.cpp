@@ -59,10 +59,11 @@ void PerformanceDialogImpl::setupRenderingBindings()
 
 void PerformanceDialogImpl::setupChoiceBindings()
 {
+    auto& set = m_manager.properties();
     auto const cache = m_manager.graphicsCacheLevel();
     auto const font = m_manager.highQualityFontOption();
-    auto const offScreen = m_manager.properties().useoffscreenbitmap();
-    auto const derivation = m_manager.properties().variablederivationmethod();
+    auto const offScreen = set.useoffscreenbitmap();
+    auto const derivation = set.variablederivationmethod();
 
     m_bindings.bindChoice(m_form.performance_CacheAll_RadioButton, cache, GraphicsCacheLevel_All);
     m_bindings.bindChoice(m_form.performance_CacheLight_RadioButton, cache, GraphicsCacheLevel_LightOnly);
@@ -70,6 +71,10 @@ void PerformanceDialogImpl::setupChoiceBindings()
     m_bindings.bindChoice(m_form.performance_FontWhenPossible_RadioButton, font, HighQualityFont_WhenPossible);
     m_bindings.bindChoice(m_form.performance_FontLargeOnly_RadioButton, font, HighQualityFont_LargeOnly);
     m_bindings.bindChoice(m_form.performance_FontNever_RadioButton, font, HighQualityFont_Never);
+    m_bindings.remember(m_form.performance_CacheAll_RadioButton, *set.usedisplaylists());
+    m_bindings.remember(m_form.performance_CacheAll_RadioButton, *set.cachelightdisplaylistsonly());
+    m_bindings.remember(m_form.performance_FontWhenPossible_RadioButton, *set.usestrokefontsonscreen());
+    m_bindings.remember(m_form.performance_FontWhenPossible_RadioButton, *set.usestrokefontsforsmalltext());
     m_bindings.bindChoice(m_form.performance_ExportOffScreen_RadioButton, offScreen, true);
     m_bindings.bindChoice(m_form.performance_ExportOnScreen_RadioButton, offScreen, false);
     m_bindings.bindChoice(m_form.performance_DerivationFast_RadioButton, derivation, VariableDerivationMethod_Fast);

@@ -39,7 +39,7 @@ PrintRenderOptsDialog& PrintRenderOptsDialog::getInstance(QWidget& parent)
 }
 
 PrintRenderOptsDialog::PrintRenderOptsDialog(QWidget& parent)
-    : ModalDialogAbstract(parent, nullptr)
+    : ModalDialogAbstract(parent, PrintRenderOptsPropertiesManager::relevance())
     , m_impl(std::make_unique<Impl>(*this))
 {
     setOkButton(m_impl->form.buttonBox->button(QDialogButtonBox::Ok));

@@ -67,7 +67,7 @@ void CreateRectangularZoneDialogImpl::setupValidators()
 void CreateRectangularZoneDialogImpl::saveSize()
 {
     m_sizeInitialized = true;
-    m_dialogSize = m_dialog.size();
+    m_dialogSize = dialogInstance->size();
 }
 
 void CreateRectangularZoneDialogImpl::saveAndCloseDialog()

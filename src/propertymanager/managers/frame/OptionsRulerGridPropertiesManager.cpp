@@ -1,9 +1,8 @@
 #include "propertymanager/managers/frame/OptionsRulerGridPropertiesManager.h"
 
-#include "api/VtxUtil.h"
 #include "propertymanager/PropertyDependentRelevance.h"
 #include "propertymanager/managers/PropertySetSubmission.h"
-#include "sdk/AppLock.h"
+#include "sdk/DataQueries.h"
 #include "ui/relevance/StateChangeDependentRelevance.h"
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -25,12 +24,6 @@ SpacingModel::Rows const gridRows{
     {"1/2 inch", PaperUnitSpacing_HalfInch},       {"1 inch", PaperUnitSpacing_OneInch},
     {"10 points", PaperUnitSpacing_TenPoints},     {"24 points", PaperUnitSpacing_TwentyFourPoints}};
 
-bool hasPage()
-{
-    AppLock const lock(false);
-    return VtxUtilPageGetCount() > 0;
-}
-
 } // namespace
 
 OptionsRulerGridPropertiesManager::OptionsRulerGridPropertiesManager()
@@ -47,8 +40,8 @@ bool OptionsRulerGridPropertiesManager::submit()
 
 OptionsRulerGridPropertiesManager::Relevance OptionsRulerGridPropertiesManager::relevance()
 {
-    static auto const relevance =
-        boost::make_shared<StateChangeDependentRelevance const>(&hasPage, "There is no page with rulers and a grid.");
+    static auto const relevance = boost::make_shared<StateChangeDependentRelevance const>(
+        &pageIsAvailable, "There is no page with rulers and a grid.");
     return relevance;
 }
 

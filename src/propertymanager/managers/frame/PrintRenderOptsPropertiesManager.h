@@ -1,5 +1,6 @@
 #pragma once
 
+#include "propertymanager/RelevanceInterface.h"
 #include "propertymanager/generated/PrintRenderOptsPropertiesGenerated.h"
 
 namespace vantrix::sdk::ui::propertymanager {
@@ -9,6 +10,9 @@ class PrintRenderOptsPropertiesManager
 {
 public:
     PrintRenderOptsPropertiesManager();
+
+    /// Whether there is anything to print.
+    static boost::shared_ptr<RelevanceInterface const> relevance();
 
     PrintRenderOptsPropertiesGenerated& properties() { return m_properties; }
 
