@@ -1,6 +1,7 @@
 #include "api/VtxUtil.h"
 #include "property/InvalidPropertyValueException.h"
 #include "property/Property.h"
+#include "propertymanager/generated/ContourPropertiesGenerated.h"
 #include "propertymanager/generated/FrameEditPropertiesGenerated.h"
 #include "propertymanager/generated/OptionsRulerGridPropertiesGenerated.h"
 #include "sdk/AppLock.h"
@@ -93,6 +94,23 @@ TEST_F(PropertySetSubmit, ReachesTheKernelMemberBehindOneThatWasReplaced)
     modal.submit();
     EXPECT_EQ(!border, host.framelayoutShowBorder()->value());
     EXPECT_EQ(border, inFront->value());
+}
+
+TEST_F(PropertySetSubmit, OffsetsReachTheKernelMemberBehindOneThatWasReplaced)
+{
+    ContourPropertiesGenerated zone(false, {"FieldMap", "Contour"});
+    zone.setOffset(1, -1);
+    auto const kernelMember = zone.getColor();
+    int const before = kernelMember->value();
+    zone.setColor(boost::make_shared<Property<int>>(before));
+    {
+        AppLock const lock;
+        kernelMember->setValue(before + 1);
+    }
+    zone.setOffset(2, -1);
+    EXPECT_EQ(before, kernelMember->value());
+    zone.setOffset(1, -1);
+    EXPECT_EQ(before + 1, kernelMember->value());
 }
 
 TEST_F(PropertySetSubmit, OfAModelessSetWritesNothingNew)

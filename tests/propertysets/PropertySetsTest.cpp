@@ -38,11 +38,12 @@ struct AllSets
 {
     bool modal;
     std::vector<SetProbe> sets;
+    bool isNowhere = false; // on a path that the host does not know
 
     template<typename Set>
     void operator()(std::string const& name, toolbox::StringList const& path, int offsets)
     {
-        auto set = std::make_unique<Set>(modal, path);
+        auto set = std::make_unique<Set>(modal, isNowhere ? toolbox::StringList{"NoSuchNode"} : path);
         if (offsets > 0) {
             set->setOffset(1, offsets > 1 ? 1 : -1);
         }
@@ -135,10 +136,15 @@ TEST(PropertySets, EveryMemberOfAModalSetReachesTheHostWithTheSubmit)
 TEST(PropertySets, OfPathsThatTheHostDoesNotKnowRefuseEveryEdit)
 {
     AppLock const lock;
-    OptionsRulerGridPropertiesGenerated modeless(false, {"NoSuchNode"});
-    EXPECT_FALSE(modeless.showGrid()->value());
-    EXPECT_THROW(modeless.showGrid()->setValue(true), InvalidPropertyValueException);
-    EXPECT_FALSE(modeless.showGrid()->value());
+    AllSets nowhere{false, {}, true};
+    visitSets(nowhere);
+    ASSERT_FALSE(nowhere.sets.empty());
+    for (SetProbe const& set : nowhere.sets) {
+        for (auto const& [path, probe] : set.members) {
+            EXPECT_FALSE(probe->change()) << path;
+            EXPECT_TRUE(probe->isAsAtFirst()) << path;
+        }
+    }
 
     OptionsRulerGridPropertiesGenerated modal(true, {"NoSuchNode"});
     modal.showGrid()->setValue(true);
