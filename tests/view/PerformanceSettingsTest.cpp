@@ -1,3 +1,4 @@
+#include "api/VtxUtilData.h"
 #include "kernel/ApplicationLock.h"
 #include "kernel/Document.h"
 #include "kernel/FrameObjects.h"
@@ -205,9 +206,17 @@ TEST_F(PerformanceSettings, GraphicsObjectsAreKeptAsTheCacheIsSet)
 
 TEST_F(PerformanceSettingsFlat, LightObjectsAreKeptWhereOnlyTheyAre)
 {
+    screen();
+    const long light = renderer.keptZoneCount();
+    EXPECT_GT(light, 0);
+    sample.kernel.lock().start(true);
+    ASSERT_TRUE(VtxUtilCreateRectangularZone(200, 100, 1, 0, 0, 0, 1, 1, 0, FieldDataType_Float));
+    sample.kernel.lock().finish();
+    screen();
+    EXPECT_EQ(renderer.keptZoneCount(), light + 1);
     set("Interface/CacheLightDisplayListsOnly", 1L);
     screen();
-    EXPECT_GT(renderer.keptZoneCount(), 0);
+    EXPECT_EQ(renderer.keptZoneCount(), light) << "the new zone takes much memory";
 }
 
 TEST_F(PerformanceSettings, AFastExportTakesThePictureOfTheScreen)
@@ -251,6 +260,9 @@ TEST_F(PerformanceSettingsFlat, PlainTextsHaveNoSmoothEdges)
         return count;
     };
     const int smooth = edges(screen());
+    set("Interface/UseStrokeFontsForSmallText", 1L);
+    EXPECT_LT(edges(screen()), smooth / 2) << "numbers are small";
+    set("Interface/UseStrokeFontsForSmallText", 0L);
     set("Interface/UseStrokeFontsOnScreen", 1L);
     EXPECT_LT(edges(screen()), smooth / 2);
     EXPECT_GT(edges(renderer.pageImage(page(), 660)), smooth / 2) << "exported texts are smooth";
