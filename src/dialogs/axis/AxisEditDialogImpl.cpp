@@ -165,29 +165,41 @@ void AxisEditDialog::AxisEditDialogImpl::setActiveAxisButton(Axis_e axis, int nu
 
 void AxisEditDialog::AxisEditDialogImpl::aimAtPickedAxis()
 {
-    char const kind = VtxUtilPickListGetAxisKind(1);
-    int const number = VtxUtilPickListGetAxisNumber(1);
-    if (kind == 'X' || kind == 'T') {
-        chooseAxis(buttonId(AxisEditProperties::FirstAxis, number));
-    } else if (kind == 'Y' || kind == 'R') {
-        chooseAxis(buttonId(AxisEditProperties::SecondAxis, number));
-    } else if (kind == 'Z') {
-        chooseAxis(buttonId(AxisEditProperties::ThirdAxis, number));
-    } else {
-        return;
-    }
-    m_isTabChosen = true;
     switch (VtxUtilPickListGetAxisSubObject(1)) {
     case AxisSubObject_AxisLine:
-        m_form.rangePage->setCurrentWidget(m_form.axisEdit_Line_Page);
+        chooseTab(*m_form.axisEdit_Line_Page);
         break;
     case AxisSubObject_GridArea:
-        m_form.rangePage->setCurrentWidget(m_form.axisEdit_Grid_Page);
+        chooseTab(*m_form.axisEdit_Grid_Page);
         break;
     case AxisSubObject_Title:
-        m_form.rangePage->setCurrentWidget(m_form.axisEdit_Title_Page);
+        chooseTab(*m_form.axisEdit_Title_Page);
+        break;
+    default:
         break;
     }
+    int const number = VtxUtilPickListGetAxisNumber(1);
+    switch (VtxUtilPickListGetAxisKind(1)) {
+    case 'X':
+    case 'T':
+        chooseAxis(buttonId(AxisEditProperties::FirstAxis, number));
+        break;
+    case 'Y':
+    case 'R':
+        chooseAxis(buttonId(AxisEditProperties::SecondAxis, number));
+        break;
+    case 'Z':
+        chooseAxis(buttonId(AxisEditProperties::ThirdAxis, number));
+        break;
+    default:
+        break;
+    }
+}
+
+void AxisEditDialog::AxisEditDialogImpl::chooseTab(QWidget& page)
+{
+    m_isTabChosen = true;
+    m_form.rangePage->setCurrentWidget(&page);
 }
 
 void AxisEditDialog::AxisEditDialogImpl::showCurrentPage()

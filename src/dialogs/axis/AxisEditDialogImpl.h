@@ -62,6 +62,7 @@ private:
     void bindRelevanciesToControls();
     Page_e pageOf(QWidget const* widget) const;
     void createManagerForPage(Page_e page);
+    void chooseTab(QWidget& page);
     void setAxis(Axis_e axis, int number);
     void setActiveAxisButton(Axis_e axis, int number);
     QButtonGroup const* currentAxes() const;

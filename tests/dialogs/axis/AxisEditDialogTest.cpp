@@ -175,10 +175,15 @@ TEST_F(AxisEditDialogTest, OpensOnThePickedAxisAndItsPart)
                                   "&Show Z-Axis",
                                   "axisEdit_Line_Page"},
                              Case{PlotType_Cartesian3D,
+                                  {'\0', 0, static_cast<AxisSubObject_e>(3)},
+                                  "axisEdit_Pick3DZAxis_TXRadioButton",
+                                  "&Show Z-Axis",
+                                  "axisEdit_Line_Page"},
+                             Case{PlotType_Cartesian3D,
                                   {'\0', 0, AxisSubObject_GridArea},
                                   "axisEdit_Pick3DZAxis_TXRadioButton",
                                   "&Show Z-Axis",
-                                  "axisEdit_Line_Page"}}) {
+                                  "axisEdit_Grid_Page"}}) {
         setPlotType(each.plotType);
         auto const& dialog = launchOnPick(each.picked);
         EXPECT_TRUE(isChecked(dialog, each.button)) << each.text;
