@@ -61,14 +61,15 @@ TEST_F(AxisEditPropertiesTest, TheCurrentAxisIsThatOfThePlotsType)
           Case{PlotType_XYLine, first, 'X', axes.getXyLineAxis()->getXDetail().get(), axes.getXyLineAxis().get()},
           Case{PlotType_Sketch, second, 'Y', axes.getSketchAxis()->getYDetail().get(), axes.getSketchAxis().get()},
           Case{PlotType_PolarLine, first, 'T', axes.getPolarAxis()->getThetaDetail().get(), axes.getPolarAxis().get()},
-          Case{PlotType_PolarLine, second, 'R', axes.getPolarAxis()->getRDetail().get(), axes.getPolarAxis().get()}}) {
+          Case{PlotType_PolarLine, second, 'R', axes.getPolarAxis()->getRDetail().get(), axes.getPolarAxis().get()},
+          Case{PlotType_PolarLine, third, 'Z', axes.getPolarAxis()->getRDetail().get(), axes.getPolarAxis().get()}}) {
         setPlotType(each.plotType);
         axes.setAxis(each.axis);
         SCOPED_TRACE(testing::Message() << "plot type " << each.plotType << ", axis " << each.axis);
         EXPECT_EQ(axes.axisChar(), each.character);
         EXPECT_EQ(axes.axisDetail().get(), each.detail);
         EXPECT_EQ(axes.axis().get(), each.set);
-        EXPECT_EQ(axes.getPolarDetail() != nullptr, each.plotType == PlotType_PolarLine);
+        EXPECT_EQ(axes.getPolarDetail() != nullptr, each.plotType == PlotType_PolarLine && each.axis != third);
     }
 }
 

@@ -83,8 +83,8 @@ boost::shared_ptr<XYAxisPropertiesGenerated> AxisEditProperties::xyAxis() const
 
 boost::shared_ptr<AxisDetailPropertiesGenerated> AxisEditProperties::axisDetail() const
 {
-    if (auto const polar = getPolarDetail()) {
-        return polar;
+    if (VtxUtilFrameGetPlotType() == PlotType_PolarLine) {
+        return m_axisType == FirstAxis ? getPolarAxis()->getThetaDetail() : getPolarAxis()->getRDetail();
     }
     if (m_axisType == ThirdAxis && VtxUtilFrameGetPlotType() == PlotType_Cartesian3D) {
         return getThreedAxis()->getZDetail();
@@ -101,7 +101,7 @@ AxisEditProperties::axisDetailForXYAxis(XYAxisPropertiesGenerated& axes) const
 
 boost::shared_ptr<PolarDetailPropertiesGenerated> AxisEditProperties::getPolarDetail() const
 {
-    if (VtxUtilFrameGetPlotType() != PlotType_PolarLine) {
+    if (VtxUtilFrameGetPlotType() != PlotType_PolarLine || m_axisType == ThirdAxis) {
         return {};
     }
     return m_axisType == FirstAxis ? getPolarAxis()->getThetaDetail() : getPolarAxis()->getRDetail();

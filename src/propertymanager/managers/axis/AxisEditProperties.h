@@ -60,7 +60,7 @@ public:
     /// X where the first axis is edited, else Y.
     boost::shared_ptr<AxisDetailPropertiesGenerated> axisDetailForXYAxis(XYAxisPropertiesGenerated& axes) const;
 
-    /// The current axis of a polar plot; null for other plots.
+    /// The current axis of a polar plot; null for other plots, and for the third axis, which axisDetail() takes for R.
     boost::shared_ptr<PolarDetailPropertiesGenerated> getPolarDetail() const;
 
     /// Listeners are told in the order of their addresses; one that is added twice is told once. They are not owned and
