@@ -4,6 +4,10 @@
  * An axis is named by a character and a number. The characters are 'X', 'Y' and, in a 3D plot, 'Z'; in a polar plot 'T'
  * (theta) and 'R'. The number is 1 but in an XY line plot, which has X and Y axes 1 to 5. A function given an axis that
  * the plot does not have fails.
+ *
+ * The minimum of an axis is below its maximum and, where the axis is logarithmic, above 0; a style value that would end
+ * that is refused (`SetValueReturnCode_Refused`). Who sets both ends sets first the one that leaves them in order. An
+ * axis that becomes logarithmic gets a minimum above 0 if it has none.
  */
 #ifndef VTX_UTIL_AXIS_H
 #define VTX_UTIL_AXIS_H
@@ -40,7 +44,7 @@ bool VtxUtilViewX(VtxArgListHandle arguments);
 
 /* The next value that a range field steps to from `value`, up or down: a twentieth of the axis' range on, or with
  * `nice` the next nice value at that size of step. A log axis steps by factors. `value` itself where there is no such
- * axis. */
+ * axis, and where the step would take a value above the minimum down to it, or one below the maximum up to it. */
 double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice);
 
 /* Puts the size factors of a 3D plot and the dependency of its axes back to what suits its data. */

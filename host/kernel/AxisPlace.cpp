@@ -25,11 +25,22 @@ std::string axesPath(PlotType_e plotType)
     return "SketchAxis/";
 }
 
+std::string kindText(char kind)
+{
+    return kind == 'T' ? "Theta" : std::string(kind ? 1 : 0, kind);
+}
+
+/* "X and Y", "X1 to X5 and Y1 to Y5" */
 std::string kindsText(PlotType_e plotType)
 {
+    const std::string_view kinds = axisKinds(plotType);
     std::string text;
-    for (const char kind : axisKinds(plotType)) {
-        text += (text.empty() ? "'" : ", '") + std::string(1, kind) + "'";
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        text += i == 0 ? "" : i + 1 < kinds.size() ? ", " : " and ";
+        text += axisText(plotType, {kinds[i], 1});
+        if (axesOfAKind(plotType) > 1) {
+            text += " to " + axisText(plotType, {kinds[i], axesOfAKind(plotType)});
+        }
     }
     return text;
 }
@@ -59,15 +70,17 @@ bool hasAxis(PlotType_e plotType, AxisName axis)
            axis.number <= axesOfAKind(plotType);
 }
 
-AxisPlace AxisPlace::find(const StyleStore& style, const Frame& frame, AxisName axis)
+bool canBeLogarithmic(PlotType_e plotType, char kind)
 {
-    const PlotType_e plotType = plotTypeOf(style, frame);
+    return plotType == PlotType_XYLine || (plotType == PlotType_PolarLine && kind == 'R');
+}
+
+AxisPlace AxisPlace::find(const Frame& frame, PlotType_e plotType, AxisName axis)
+{
     if (!hasAxis(plotType, axis)) {
-        throw DataError("The plot has no axis " + axisText(axis) + "; it has " + kindsText(plotType) +
-                        ", each with numbers from 1 to " + std::to_string(axesOfAKind(plotType)) + ".");
+        throw DataError("The plot has no axis " + axisText(plotType, axis) + "; it has " + kindsText(plotType) + '.');
     }
-    const std::string detail = axis.kind == 'T' ? "Theta" : std::string(1, axis.kind);
-    return {frame.id(), axesPath(plotType) + detail + "Detail/", axesOfAKind(plotType) > 1 ? axis.number : -1};
+    return {frame.id(), axisPath(plotType, axis.kind), axesOfAKind(plotType) > 1 ? axis.number : -1};
 }
 
 long AxisPlace::entry(const StyleStore& style, const char* value) const
@@ -80,9 +93,15 @@ PlotType_e plotTypeOf(const StyleStore& style, const Frame& frame)
     return static_cast<PlotType_e>(style.integer(frame.id(), style.entry("PlotType")));
 }
 
-std::string axisText(AxisName axis)
+std::string axisPath(PlotType_e plotType, char kind)
 {
-    return "'" + std::string(axis.kind ? 1 : 0, axis.kind) + "' number " + std::to_string(axis.number);
+    return axesPath(plotType) + kindText(kind) + "Detail/";
+}
+
+std::string axisText(PlotType_e plotType, AxisName axis)
+{
+    const bool isNumbered = axesOfAKind(plotType) > 1 || axis.number != 1;
+    return kindText(axis.kind) + (isNumbered ? std::to_string(axis.number) : std::string());
 }
 
 } // namespace vantrix::kernel

@@ -1,5 +1,6 @@
 #include "kernel/AxisRanges.h"
 
+#include "kernel/AxisRangeRules.h"
 #include "kernel/DataError.h"
 #include "kernel/FieldValues.h"
 #include "kernel/LineMaps.h"
@@ -46,9 +47,13 @@ std::optional<ValueRange> rangeWhere(vtkDataArray& values, const Test& isTaken)
 } // namespace
 
 AxisRanges::AxisRanges(StyleStore& style, const Frame& frame)
+    : AxisRanges(style, frame, plotTypeOf(style, frame))
+{}
+
+AxisRanges::AxisRanges(StyleStore& style, const Frame& frame, PlotType_e plotType)
     : m_style(style)
     , m_frame(frame)
-    , m_plotType(plotTypeOf(style, frame))
+    , m_plotType(plotType)
 {}
 
 double AxisRanges::real(AxisName axis, const char* value) const
@@ -60,8 +65,8 @@ double AxisRanges::real(AxisName axis, const char* value) const
 bool AxisRanges::isLogarithmic(AxisName axis) const
 {
     const AxisPlace where = place(axis);
-    const long entry = where.entry(m_style, "CoordScale");
-    return entry >= 0 && m_style.integer(m_frame.id(), entry, where.offset) == CoordScale_Log;
+    return canBeLogarithmic(m_plotType, axis.kind) &&
+           m_style.integer(m_frame.id(), where.entry(m_style, "CoordScale"), where.offset) == CoordScale_Log;
 }
 
 bool AxisRanges::isOfLinePlot() const
@@ -127,15 +132,14 @@ ValueRange AxisRanges::expectedDataRange(AxisName axis, Blanking blanking) const
         return *range;
     }
     throw DataError(
-        "Axis " + axisText(axis) + " shows no data " +
+        "Axis " + axisText(m_plotType, axis) + " shows no data " +
         (isLogarithmic(axis) ? "above 0 that a logarithmic axis could be fitted to." : "that it could be fitted to."));
 }
 
 AxisRanges::Limits AxisRanges::nice(AxisName axis, Limits limits) const
 {
-    const double low = std::min(limits.minimum, limits.maximum);
-    const double high = std::max(limits.minimum, limits.maximum);
-    const NiceRange range = isLogarithmic(axis) && low > 0.0 ? niceDecades(low, high) : niceRange(low, high);
+    const NiceRange range =
+        isLogarithmic(axis) ? niceDecades(limits.minimum, limits.maximum) : niceRange(limits.minimum, limits.maximum);
     return {range.minimum, range.maximum};
 }
 
@@ -166,6 +170,20 @@ void AxisRanges::niceFit(AxisName axis)
 void AxisRanges::makeNice(AxisName axis)
 {
     set(axis, nice(axis, {real(axis, "RangeMin"), real(axis, "RangeMax")}));
+}
+
+void AxisRanges::raiseAboveZero(AxisName axis)
+{
+    constexpr double decadesWithoutData = 1e3;
+    constexpr double mostDecades = 1e10;
+    const std::optional<ValueRange> range = dataRange(axis);
+    double maximum = real(axis, "RangeMax");
+    if (!(maximum > (range ? range->minimum : 0.0))) {
+        maximum = range ? range->maximum : 1.0;
+    }
+    const double lowest = range ? std::max(range->minimum, maximum / mostDecades) : maximum / decadesWithoutData;
+    const NiceRange decades = niceDecades(lowest, maximum);
+    set(axis, {decades.minimum, maximum > decades.minimum ? maximum : decades.maximum});
 }
 
 void AxisRanges::fitToEntireCircle(AxisName axis)
@@ -200,19 +218,30 @@ double AxisRanges::nextValue(AxisName axis, double value, bool up, bool isNice) 
     if (!hasAxis(m_plotType, axis) || !std::isfinite(value)) {
         return value;
     }
-    const double low = std::min(real(axis, "RangeMin"), real(axis, "RangeMax"));
-    const double high = std::max(real(axis, "RangeMin"), real(axis, "RangeMax"));
-    if (isLogarithmic(axis)) {
-        if (value <= 0.0) {
-            return value;
-        }
-        if (isNice) {
-            return nextNiceFactor(value, up);
-        }
-        const double factor = low > 0.0 && high > low ? std::pow(high / low, 1.0 / stepsInRange) : std::pow(10.0, 0.1);
-        return up ? value * factor : value / factor;
+    const Limits present{real(axis, "RangeMin"), real(axis, "RangeMax")};
+    const double next = isLogarithmic(axis) ? steppedByFactor(present, value, up, isNice)
+                                            : steppedBySpacing(present, value, up, isNice);
+    /* One end of a range does not step to the other. */
+    const bool passesEnd =
+        up ? value < present.maximum && next >= present.maximum : value > present.minimum && next <= present.minimum;
+    return passesEnd || !std::isfinite(next) ? value : next;
+}
+
+double AxisRanges::steppedByFactor(Limits range, double value, bool up, bool isNice)
+{
+    if (value <= 0.0) {
+        return value;
     }
-    const double length = high > low ? high - low : std::max(std::abs(value), 1.0);
+    if (isNice) {
+        return nextNiceFactor(value, up);
+    }
+    const double factor = std::pow(range.maximum / range.minimum, 1.0 / stepsInRange);
+    return up ? value * factor : value / factor;
+}
+
+double AxisRanges::steppedBySpacing(Limits range, double value, bool up, bool isNice)
+{
+    const double length = range.maximum - range.minimum;
     if (isNice) {
         return nextNiceValue(value, niceSpacing(length, static_cast<int>(stepsInRange)), up);
     }
@@ -292,11 +321,11 @@ AxisVariables AxisRanges::variables() const
 void AxisRanges::set(AxisName axis, Limits limits)
 {
     if (!std::isfinite(limits.minimum) || !std::isfinite(limits.maximum)) {
-        throw DataError("The data of axis " + axisText(axis) + " are infinite; an axis ends at numbers.");
+        throw DataError("The data of axis " + axisText(m_plotType, axis) + " are infinite; an axis ends at numbers.");
     }
     const AxisPlace where = place(axis);
-    setReal(where.entry(m_style, "RangeMin"), limits.minimum, where.offset);
-    setReal(where.entry(m_style, "RangeMax"), limits.maximum, where.offset);
+    writeAxisRange(real(axis, "RangeMax"), limits.minimum, limits.maximum,
+                   [&](const char* end, double value) { setReal(where.entry(m_style, end), value, where.offset); });
     if (m_style.flag(m_frame.id(), where.entry(m_style, "AutoGrid"), where.offset) && limits.maximum > limits.minimum) {
         setReal(where.entry(m_style, "GRSpacing"), niceSpacing(limits.maximum - limits.minimum, 5), where.offset);
     }

@@ -26,7 +26,9 @@ struct ValueRange;
 class AxisRanges
 {
 public:
+    /* Of the frame's plot, or of the plot of another type that it could have. */
     AxisRanges(StyleStore& style, const Frame& frame);
+    AxisRanges(StyleStore& style, const Frame& frame, PlotType_e plotType);
 
     /* See VtxUtilViewAxisFit(), VtxUtilViewAxisNiceFit(), VtxUtilViewAxisFitToEntireCircle() and
      * VtxUtilViewAxisMakeCurValsNice(). */
@@ -36,6 +38,10 @@ public:
     void niceFit(AxisName axis);
     void fitToEntireCircle(AxisName axis);
     void makeNice(AxisName axis);
+
+    /* Lets the range of a logarithmic axis begin at the power of ten below the smallest value above 0 that is shown
+     * over it. Its maximum stays where it can. */
+    void raiseAboveZero(AxisName axis);
 
     /* Fits every axis of the plot that shows data. */
     void fitAll(bool nice);
@@ -74,7 +80,7 @@ private:
         Considered
     };
 
-    AxisPlace place(AxisName axis) const { return AxisPlace::find(m_style, m_frame, axis); }
+    AxisPlace place(AxisName axis) const { return AxisPlace::find(m_frame, m_plotType, axis); }
     double real(AxisName axis, const char* value) const;
     bool isLogarithmic(AxisName axis) const;
     bool isOfLinePlot() const;
@@ -84,6 +90,8 @@ private:
     ValueRange expectedDataRange(AxisName axis, Blanking blanking = Blanking::Ignored) const;
     void fit(AxisName axis, Blanking blanking);
     Limits nice(AxisName axis, Limits limits) const;
+    static double steppedByFactor(Limits range, double value, bool up, bool isNice);
+    static double steppedBySpacing(Limits range, double value, bool up, bool isNice);
     void set(AxisName axis, Limits limits);
     void setReal(long entry, double value, long offset = -1);
 

@@ -1,6 +1,7 @@
 #include "kernel/Kernel.h"
 
 #include "kernel/ApplicationLock.h"
+#include "kernel/AxisRangeRules.h"
 #include "kernel/Document.h"
 #include "kernel/FrameObjects.h"
 #include "kernel/Layout.h"
@@ -43,11 +44,12 @@ Kernel::Kernel()
     , m_noFrontEnd(std::make_unique<SilentFrontEnd>())
 {
     m_style->setDocument(*m_document);
-    m_style->setRule(m_style->entry("PlotType"), [this](long frameId, const StyleData& plotType) {
+    m_style->setRule(m_style->entry("PlotType"), [this](long frameId, long /*object*/, const StyleData& plotType) {
         const Frame* frame = m_document->frameById(frameId);
         return whyPlotTypeIsRefused(frame ? frame->dataSet().get() : nullptr,
                                     static_cast<PlotType_e>(std::get<long>(plotType)));
     });
+    AxisRangeRules::install(*m_style, *m_document);
     m_document->reset();
 }
 

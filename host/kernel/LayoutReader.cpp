@@ -1,5 +1,6 @@
 #include "kernel/LayoutReader.h"
 
+#include "kernel/AxisRangeRules.h"
 #include "kernel/DataError.h"
 #include "kernel/GeometryValues.h"
 #include "kernel/PlotAxes.h"
@@ -38,9 +39,8 @@ void LayoutReader::read(std::istream& stream, const std::filesystem::path& folde
 {
     m_folder = folder;
     std::string text;
-    long number = 1;
     try {
-        for (; std::getline(stream, text); ++number) {
+        for (; std::getline(stream, text); ++m_line) {
             readLine(text);
         }
         finishDataSet();
@@ -51,10 +51,11 @@ void LayoutReader::read(std::istream& stream, const std::filesystem::path& folde
             throw DataError("the layout has no page.");
         }
         checkPlotTypes();
+        checkAxisRanges();
     } catch (const ActionCancelled&) {
         throw;
     } catch (const std::exception& failure) {
-        throw DataError("line " + std::to_string(number) + ": " + failure.what());
+        throw DataError("line " + std::to_string(m_line) + ": " + failure.what());
     }
     for (const auto& page : pages) {
         if (page->frames.empty()) {
@@ -181,7 +182,7 @@ void LayoutReader::beginPage(const MacroCommand& command)
         activePage = pages.size() - 1;
     }
     m_frame.reset();
-    styles.push_back({pages.back()->id, {}});
+    styles.push_back({pages.back()->id, {}, {}});
     keepUnknown(command, {"Active"}, unknown.arguments[pages.back()->id]);
 }
 
@@ -205,7 +206,7 @@ void LayoutReader::beginFrame(const MacroCommand& command)
         }
         m_frame->setDataSet(found->second);
     }
-    styles.push_back({m_frame->id(), {}});
+    styles.push_back({m_frame->id(), {}, {}});
     keepUnknown(command, {"Active", "DataSet"}, unknown.arguments[m_frame->id()]);
 }
 
@@ -237,6 +238,7 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
         throw DataError(refusal.text);
     }
     styles.back().values.push_back(std::move(stored));
+    styles.back().lines.push_back(m_line);
 }
 
 template<class Object>
@@ -266,23 +268,35 @@ void LayoutReader::addObject(const MacroCommand& command)
     m_frame->setObjects<Object>(std::move(objects));
 }
 
-void LayoutReader::checkPlotTypes() const
+void LayoutReader::checkPlotTypes()
 {
     const long plotType = m_style.entry("PlotType");
     for (const auto& page : pages) {
         for (const auto& frame : page->frames) {
             for (const Style& style : styles) {
-                for (const StyleStore::Stored& stored : style.values) {
+                for (std::size_t i = 0; i < style.values.size(); ++i) {
+                    const StyleStore::Stored& stored = style.values[i];
                     if (style.scopeId != frame->id() || stored.entry != plotType) {
                         continue;
                     }
                     const std::string refused = whyPlotTypeIsRefused(
                         frame->dataSet().get(), static_cast<PlotType_e>(std::get<long>(stored.value)));
                     if (!refused.empty()) {
+                        m_line = style.lines[i];
                         throw DataError(refused);
                     }
                 }
             }
+        }
+    }
+}
+
+void LayoutReader::checkAxisRanges()
+{
+    for (const Style& style : styles) {
+        if (const auto violation = AxisRangeRules::find(m_style, style.values)) {
+            m_line = style.lines[violation->value];
+            throw DataError(violation->text);
         }
     }
 }

@@ -36,6 +36,7 @@ public:
     {
         long scopeId;
         std::vector<StyleStore::Stored> values;
+        std::vector<long> lines; /* of the file, of each value */
     };
 
     std::vector<std::shared_ptr<Page>> pages;
@@ -57,12 +58,14 @@ private:
     void keepUnknown(const std::string& line);
     void keepUnknown(const MacroCommand& command, std::initializer_list<std::string_view> known,
                      std::vector<MacroCommand::Argument>& kept);
-    void checkPlotTypes() const;
+    void checkPlotTypes();
+    void checkAxisRanges();
 
     Document& m_document;
     const StyleStore& m_style;
     ReportProgress m_progress;
     std::filesystem::path m_folder;
+    long m_line = 1; /* of the file, that is being read or checked */
     bool m_hasHead = false;
     std::unique_ptr<DataSet> m_dataSet; /* being made */
     long m_dataSetId = 0;

@@ -10,11 +10,11 @@ std::string whyPlotTypeIsRefused(const DataSet* dataSet, PlotType_e plotType)
         return {};
     }
     if (!dataSet || dataSet->zoneCount() == 0) {
-        return "the frame has no data; read or create some first.";
+        return "The frame has no data; read or create some first.";
     }
     const long needed = plotType == PlotType_Cartesian3D ? 3 : 2;
     if (dataSet->variableCount() < needed) {
-        return "the plot needs " + std::to_string(needed) + " variables as axes, and the data have " +
+        return "The plot needs " + std::to_string(needed) + " variables as axes, and the data have " +
                std::to_string(dataSet->variableCount()) + '.';
     }
     return {};

@@ -1,6 +1,7 @@
 #include "kernel/PlotDefaults.h"
 
 #include "api/VtxEnumerations.h"
+#include "kernel/AxisRangeRules.h"
 #include "kernel/AxisRanges.h"
 #include "kernel/FieldValues.h"
 #include "kernel/Kernel.h"
@@ -157,9 +158,19 @@ void PlotDefaults::fitRange(const std::string& axisDetail, const std::vector<lon
     }
     const NiceRange nice = niceRange(values->minimum, values->maximum);
     const bool isExact = !isNice && values->maximum > values->minimum;
-    set(axisDetail + "/RangeMin", isExact ? values->minimum : nice.minimum, axis);
-    set(axisDetail + "/RangeMax", isExact ? values->maximum : nice.maximum, axis);
+    setRange(axisDetail, isExact ? values->minimum : nice.minimum, isExact ? values->maximum : nice.maximum, axis);
     set(axisDetail + "/GRSpacing", nice.spacing, axis);
+}
+
+/* An axis that was logarithmic for other data is linear again where it could not show these. */
+void PlotDefaults::setRange(const std::string& axisDetail, double minimum, double maximum, long axis)
+{
+    if (minimum <= 0.0 && m_style.entry((axisDetail + "/CoordScale").c_str()) >= 0) {
+        set(axisDetail + "/CoordScale", long{CoordScale_Linear}, axis);
+    }
+    const double present = m_style.real(m_frameId, m_style.entry((axisDetail + "/RangeMax").c_str()), axis);
+    writeAxisRange(present, minimum, maximum,
+                   [&](const std::string& end, double value) { set(axisDetail + '/' + end, value, axis); });
 }
 
 /*
@@ -214,14 +225,14 @@ void PlotDefaults::fitPolar(const std::vector<long>& radii)
     const double start = angles && angles->minimum < 0.0 && reach <= 0.5 * period * (1.0 + 1e-6) ? -0.5 * period : 0.0;
     set("PolarAxis/ThetaMode", long{isRadians ? ThetaMode_Radians : ThetaMode_Degrees});
     set("PolarAxis/ThetaPeriod", period);
-    set("PolarAxis/ThetaDetail/RangeMin", start);
-    set("PolarAxis/ThetaDetail/RangeMax", start + period);
+    setRange("PolarAxis/ThetaDetail", start, start + period);
     set("PolarAxis/ThetaDetail/AutoGrid", 0L);
     set("PolarAxis/ThetaDetail/GRSpacing", period / 12.0);
     fitRange("PolarAxis/RDetail", radii, -1, true);
-    const StyleData from = m_style.real(m_frameId, m_style.entry("PolarAxis/RDetail/RangeMin"));
-    const double origin = std::min(std::get<double>(from), 0.0);
-    set("PolarAxis/RDetail/RangeMin", origin);
+    const double from = m_style.real(m_frameId, m_style.entry("PolarAxis/RDetail/RangeMin"));
+    const double to = m_style.real(m_frameId, m_style.entry("PolarAxis/RDetail/RangeMax"));
+    const double origin = std::min(from, 0.0);
+    setRange("PolarAxis/RDetail", origin, to > origin ? to : origin + 1.0);
     set("PolarAxis/RDetail/ValueAtOrigin", origin);
 }
 

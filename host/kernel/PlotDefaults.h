@@ -32,6 +32,7 @@ private:
     void setAxes();
     void fitRange(const std::string& axisDetail, const std::vector<long>& variables, long axis, bool isNice);
     void setProportions();
+    void setRange(const std::string& axisDetail, double minimum, double maximum, long axis = -1);
     void setLineMaps();
     void setLineAxes(long lastVariable);
     void fitPolar(const std::vector<long>& radii);

@@ -57,6 +57,7 @@ public:
     StyleScopes m_scopes;
     const Document* m_document = nullptr;
     std::map<long, Rule> m_rules;
+    std::map<long, Effect> m_effects;
     mutable std::string m_lastError;
 };
 
@@ -147,12 +148,6 @@ SetValueReturnCode_e StyleStore::Impl::set(long scopeId, long entry, const std::
         m_lastError = std::move(refusal.text);
         return refusal.code;
     }
-    if (const auto rule = m_rules.find(entry); rule != m_rules.end()) {
-        if (std::string refused = rule->second(scopeId, value); !refused.empty()) {
-            m_lastError = stylePathText(entry) + ": " + refused;
-            return SetValueReturnCode_Refused;
-        }
-    }
     const bool hasZones = styleOffset(about.offsets[0]).kind == StyleOffset::Kind::Zone;
     const long zones = hasZones ? zoneLimit(scopeId) : 0;
     std::vector<std::size_t> indices;
@@ -165,17 +160,30 @@ SetValueReturnCode_e StyleStore::Impl::set(long scopeId, long entry, const std::
         }
         indices.push_back(static_cast<std::size_t>(index));
     }
-    bool changed = false;
-    StyleData before;
-    for (const std::size_t index : indices) {
-        m_scopes.read(scopeId, entry, index, before);
-        if (before != value) {
-            m_scopes.write(scopeId, entry, index, value);
-            record(scopeId, entry, index, before, value);
-            changed = true;
+    if (const auto rule = m_rules.find(entry); rule != m_rules.end()) {
+        for (const long offset1 : offsets1) {
+            if (std::string refused = rule->second(scopeId, offset1, value); !refused.empty()) {
+                m_lastError = std::move(refused);
+                return SetValueReturnCode_Refused;
+            }
         }
     }
-    if (changed) {
+    std::vector<long> changed;
+    StyleData before;
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+        m_scopes.read(scopeId, entry, indices[i], before);
+        if (before != value) {
+            m_scopes.write(scopeId, entry, indices[i], value);
+            record(scopeId, entry, indices[i], before, value);
+            changed.push_back(offsets1[i]);
+        }
+    }
+    if (const auto effect = m_effects.find(entry); effect != m_effects.end()) {
+        for (const long offset1 : changed) {
+            effect->second(scopeId, offset1);
+        }
+    }
+    if (!changed.empty()) {
         m_scopes.announce(entry, offsets1.size() == 1 && offsets1[0] > 0 ? offsets1[0] : 0);
     }
     return SetValueReturnCode_Ok;
@@ -311,6 +319,11 @@ unsigned long StyleStore::scopeStamp(long scopeId) const
 void StyleStore::setRule(long entry, Rule rule)
 {
     m_impl->m_rules[entry] = std::move(rule);
+}
+
+void StyleStore::setEffect(long entry, Effect effect)
+{
+    m_impl->m_effects[entry] = std::move(effect);
 }
 
 void StyleStore::replaceForegroundColors(long scopeId, long from, long to)

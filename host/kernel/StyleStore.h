@@ -71,11 +71,18 @@ public:
     unsigned long scopeStamp(long scopeId) const;
 
     /*
-     * A further check of new values of one entry: returns why a value is refused in the present state of the plot, or
-     * an empty text. One rule an entry.
+     * A further check of new values of one entry: returns a sentence that tells why a value is refused in the present
+     * state of the plot, or an empty text. One rule an entry.
      */
-    using Rule = std::function<std::string(long scopeId, const StyleData& value)>;
+    using Rule = std::function<std::string(long scopeId, long offset1, const StyleData& value)>;
     void setRule(long entry, Rule rule);
+
+    /*
+     * What else changes with a value of one entry: called when it has changed and nobody has been told yet. It may set
+     * other values; they are part of the same step. One effect an entry.
+     */
+    using Effect = std::function<void(long scopeId, long offset1)>;
+    void setEffect(long entry, Effect effect);
 
     /* Gives every foreground colour of a frame that is `from` the value `to`. Undone as part of the step. */
     void replaceForegroundColors(long scopeId, long from, long to);

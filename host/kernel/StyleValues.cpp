@@ -8,7 +8,7 @@ namespace vantrix::kernel {
 namespace {
 
 /* Where a value is kept: the vector follows from the entry's type and offsets. */
-struct Layout
+struct StorageLayout
 {
     struct Sizes
     {
@@ -31,12 +31,12 @@ bool isIndexed(const StyleEntry& entry)
     return entry.offsets[0] != 0;
 }
 
-const Layout& layout()
+const StorageLayout& layout()
 {
-    static const Layout instance = [] {
-        Layout made;
+    static const StorageLayout instance = [] {
+        StorageLayout made;
         for (const StyleEntry& entry : styleVocabulary()) {
-            Layout::Sizes& sizes = made.sizes[static_cast<std::size_t>(entry.scope)];
+            StorageLayout::Sizes& sizes = made.sizes[static_cast<std::size_t>(entry.scope)];
             std::size_t& size = isText(entry) ? (isIndexed(entry) ? sizes.indexedTexts : sizes.singleTexts)
                                               : (isIndexed(entry) ? sizes.indexedNumbers : sizes.singleNumbers);
             made.slots.push_back(size++);
@@ -74,7 +74,7 @@ void eraseIndexed(std::vector<Value>& values, std::size_t first, std::size_t cou
 StyleValues::StyleValues(StyleScope scope)
     : m_scope(scope)
 {
-    const Layout::Sizes& sizes = layout().sizes[static_cast<std::size_t>(scope)];
+    const StorageLayout::Sizes& sizes = layout().sizes[static_cast<std::size_t>(scope)];
     m_numbers.single.reserve(sizes.singleNumbers);
     m_numbers.indexed.resize(sizes.indexedNumbers);
     m_texts.single.reserve(sizes.singleTexts);

@@ -1,6 +1,7 @@
 #include "view/ViewEditor.h"
 
 #include "kernel/ApplicationLock.h"
+#include "kernel/AxisRangeRules.h"
 #include "kernel/DataError.h"
 #include "kernel/DataSet.h"
 #include "kernel/Document.h"
@@ -126,16 +127,10 @@ void ViewEditor::writeRange(const kernel::Frame& frame, const std::string& detai
     if (!std::isfinite(minimum) || !std::isfinite(maximum) || !(maximum > minimum)) {
         return;
     }
-    // A range must never be empty, not even between the two writes.
     const kernel::StyleStore& style = m_kernel.style();
-    const double oldMaximum = style.real(frame.id(), style.entry((detail + "RangeMax").c_str()), offset);
-    if (minimum < oldMaximum) {
-        write(frame, detail + "RangeMin", minimum, offset);
-        write(frame, detail + "RangeMax", maximum, offset);
-    } else {
-        write(frame, detail + "RangeMax", maximum, offset);
-        write(frame, detail + "RangeMin", minimum, offset);
-    }
+    const double present = style.real(frame.id(), style.entry((detail + "RangeMax").c_str()), offset);
+    kernel::writeAxisRange(present, minimum, maximum,
+                           [&](const char* end, double value) { write(frame, detail + end, value, offset); });
 }
 
 void ViewEditor::writeRange(const kernel::Frame& frame, const FramePlot& plot, std::size_t kind, int number,

@@ -21,10 +21,22 @@ protected:
                 std::get<double>(value((detail + "/RangeMax").c_str(), axis))};
     }
 
+    /* What is set is below what was there, or above it. */
     static void setRange(const std::string& detail, Range to, long axis = -1)
     {
-        set((detail + "/RangeMin").c_str(), to.first, axis);
-        set((detail + "/RangeMax").c_str(), to.second, axis);
+        const bool isLower = to.first < range(detail, axis).second;
+        EXPECT_EQ(set((detail + (isLower ? "/RangeMin" : "/RangeMax")).c_str(), isLower ? to.first : to.second, axis),
+                  SetValueReturnCode_Ok);
+        EXPECT_EQ(set((detail + (isLower ? "/RangeMax" : "/RangeMin")).c_str(), isLower ? to.second : to.first, axis),
+                  SetValueReturnCode_Ok);
+    }
+
+    /* The text of the refusal; empty when the value was taken. */
+    static std::string refusalOf(const std::string& path, const StyleData& to, long axis = -1)
+    {
+        const SetValueReturnCode_e code = set(path.c_str(), to, axis);
+        EXPECT_THAT(code, testing::AnyOf(SetValueReturnCode_Ok, SetValueReturnCode_Refused));
+        return code == SetValueReturnCode_Ok ? std::string() : style().lastError();
     }
 
     template<class... Arguments>
@@ -132,13 +144,86 @@ TEST_F(AxisRangesTest, PolarAxesAreFittedToTheEntireCircle)
     EXPECT_EQ(range("PolarAxis/RDetail"), Range(1.0, 8.0));
 }
 
+TEST_F(AxisRangesTest, ARangeThatIsNotInOrderIsRefusedWithTheAxisAndBothValues)
+{
+    show("polar");
+    setPlotType(PlotType_XYLine);
+    struct
+    {
+        const char* path;
+        long axis;
+        double value;
+        const char* text;
+    } const cases[] = {
+        {"XYLineAxis/XDetail/RangeMin", 2, 1.0, "The minimum of axis X2 has to be below its maximum, which is 1; 1 is"},
+        {"XYLineAxis/YDetail/RangeMax", 5, -4, "The maximum of axis Y5 has to be above its minimum, which is 0; -4 is"},
+        {"TwoDAxis/YDetail/RangeMin", -1, 1e9, "minimum of axis Y has"},
+        {"ThreeDAxis/ZDetail/RangeMax", -1, -1e9, "maximum of axis Z has"},
+        {"SketchAxis/XDetail/RangeMin", -1, 1e9, "minimum of axis X has"},
+        {"PolarAxis/ThetaDetail/RangeMin", -1, 1e9, "minimum of axis Theta has"},
+        {"PolarAxis/RDetail/RangeMax", -1, -1e9, "maximum of axis R has"},
+    };
+    for (const auto& each : cases) {
+        const StyleData before = value(each.path, each.axis);
+        EXPECT_THAT(refusalOf(each.path, each.value, each.axis), HasSubstr(each.text));
+        EXPECT_EQ(value(each.path, each.axis), before);
+    }
+    setRange("XYLineAxis/XDetail", {20.0, 30.0}, 2); // both ends, when the right one is first
+
+    const LockScope lock;
+    style().set(style().entry("XYLineAxis/YDetail/RangeMax"), 3, -1, 7.0);
+    EXPECT_EQ(style().setMany(style().entry("XYLineAxis/YDetail/RangeMin"), {3, 4}, -1, 5.0),
+              SetValueReturnCode_Refused);
+    EXPECT_EQ(range("XYLineAxis/YDetail", 3), Range(0.0, 7.0)) << "none of many is written when one is refused";
+}
+
+TEST_F(AxisRangesTest, ALogarithmicAxisHasItsRangeAboveZeroAtAnyTime)
+{
+    show("lines");
+    setPlotType(PlotType_XYLine);
+    const std::string y = "XYLineAxis/YDetail";
+    const long log = CoordScale_Log;
+    const Range before = range(y, 1);
+    ASSERT_LT(before.first, 0.0);
+    const double maximum = before.second;
+    EXPECT_EQ(refusalOf(y + "/CoordScale", log, 1), "");
+    EXPECT_GT(range(y, 1).first, 0.0);
+    EXPECT_LE(range(y, 1).first, 0.1) << "there are data above 0";
+    EXPECT_EQ(range(y, 1).second, maximum);
+    const double up = VtxUtilAxisGetNextRangeValue('Y', 1, range(y, 1).first, true, true);
+    EXPECT_GT(up, range(y, 1).first) << "the minimum can be stepped";
+    EXPECT_THAT(refusalOf(y + "/RangeMin", 0.0, 1),
+                HasSubstr("The minimum of axis Y1 has to be above 0, because the axis is logarithmic; 0 is not."));
+    EXPECT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(range(y, 1), before) << "scale and range were one step";
+
+    EXPECT_EQ(refusalOf(y + "/RangeMin", -9.0, 4), "");
+    EXPECT_EQ(refusalOf(y + "/RangeMax", -2.0, 4), "");
+    EXPECT_EQ(refusalOf(y + "/CoordScale", log, 4), "") << "nothing is shown over the axis";
+    EXPECT_GT(range(y, 4).first, 0.0);
+    EXPECT_GT(range(y, 4).second, range(y, 4).first);
+
+    EXPECT_EQ(refusalOf("PolarAxis/RDetail/CoordScale", log), "") << "another plot is shown";
+    EXPECT_GT(range("PolarAxis/RDetail").first, 0.0);
+    set("PolarAxis/RDetail/ValueAtOrigin", 0.0);
+    const Range r = range("PolarAxis/RDetail");
+    setPlotType(PlotType_PolarLine);
+    EXPECT_FALSE(locked(VtxUtilViewAxisFitToEntireCircle, 'R', 1)) << "0 is in the centre";
+    EXPECT_THAT(lastError(), HasSubstr("axis R has to be above 0"));
+    EXPECT_EQ(range("PolarAxis/RDetail"), r);
+
+    show("lines");
+    EXPECT_EQ(range("PolarAxis/RDetail").first, -1.0) << "other data, seen whole";
+    EXPECT_EQ(value("PolarAxis/RDetail/CoordScale"), StyleData(long{CoordScale_Linear}));
+}
+
 TEST_F(AxisRangesTest, WhatThePlotDoesNotHaveIsRefusedWithWhatItHas)
 {
     show("fe2d");
     const Range before = range(x2D);
     for (const auto& [kind, number] : {std::pair{'Z', 1}, {'T', 1}, {'X', 2}, {'X', 0}, {'\0', 1}}) {
         EXPECT_FALSE(locked(VtxUtilViewAxisFit, kind, number));
-        EXPECT_THAT(lastError(), HasSubstr("it has 'X', 'Y'")) << kind << number;
+        EXPECT_THAT(lastError(), HasSubstr("it has X and Y.")) << kind << number;
     }
     EXPECT_FALSE(locked(VtxUtilViewAxisFitToEntireCircle, 'X', 1));
     EXPECT_FALSE(locked(VtxUtilReset3DScaleFactors));
@@ -204,19 +289,23 @@ TEST_F(AxisRangesTest, StepsOfARangeFieldFollowTheRange)
     show("fe2d");
     setRange(x2D, {0.0, 2.0});
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 0.2, true, false), 0.3);
-    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 0.1, false, false), 0.0);
+    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 0.0, false, false), -0.1);
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 0.23, true, true), 0.3);
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 0.23, false, true), 0.2);
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('Z', 1, 0.23, true, true), 0.23) << "no such axis";
-    setRange(x2D, {4.0, 4.0});
-    EXPECT_GT(VtxUtilAxisGetNextRangeValue('X', 1, 4.0, true, false), 4.0) << "an empty range must not stick";
+    setRange(x2D, {1.0, 1.9});
+    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 1.05, false, true), 1.05)
+        << "one end does not step to the other";
+    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 1, 1.0, false, true), 0.95);
 
     setPlotType(PlotType_XYLine);
     set("XYLineAxis/XDetail/CoordScale", static_cast<long>(CoordScale_Log), 2);
     setRange("XYLineAxis/XDetail", {1.0, 1e20}, 2);
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 2, 50.0, true, false), 500.0);
     EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 2, 50.0, false, true), 20.0);
-    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 2, -1.0, true, true), -1.0);
+    setRange("XYLineAxis/XDetail", {1.0, 2.0}, 2);
+    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 2, 2.0, false, true), 2.0);
+    EXPECT_DOUBLE_EQ(VtxUtilAxisGetNextRangeValue('X', 2, 2.0, true, true), 5.0);
 }
 
 TEST_F(AxisRangesTest, DependencyIsAllowedWhereXAndYAreTheOnlyAxesAndLinear)

@@ -119,6 +119,10 @@ TEST_F(LayoutTest, WhatCannotBeOpenedChangesNothing)
         {head + "Page\nFrame\nStyleSet Path=\"FrameLayout/Width\"\n", "missing"},
         {head + "Page\nFrame\nStyleSet Path=PlotType Value=Cartesian3D\n", "no data"},
         {head + "Page\nFrame\nStyleSet Path=PlotType Value=NoSuch\n", "line 4"},
+        {head + "Page\nFrame\nStyleSet Path=\"XYLineAxis/XDetail/RangeMin\" Object=2 Value=7.5\nStyleSet Path=PlotType "
+                "Value=Sketch\n",
+         "line 4: The minimum of axis X2 has to be below its maximum, which is 1; 7.5"},
+        {head + "Page\nFrame\nStyleSet Path=\"PolarAxis/RDetail/CoordScale\" Value=Log\n", "axis R has to be above 0"},
         {head + "Page; Frame\n", "one entry a line"},
     };
     for (const auto& [layout, cause] : bad) {

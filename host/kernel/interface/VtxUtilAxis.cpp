@@ -30,7 +30,8 @@ AxisRanges ranges()
 
 AxisPlace placeOf(AxisName axis)
 {
-    return AxisPlace::find(style(), expectFrame(), axis);
+    const Frame& frame = expectFrame();
+    return AxisPlace::find(frame, plotTypeOf(style(), frame), axis);
 }
 
 /* Does something to the axes of the active frame for the function that was called with `arguments`. */

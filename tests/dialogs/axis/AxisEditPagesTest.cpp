@@ -69,11 +69,11 @@ std::string shownBy(QWidget const& widget)
     return textOf(edit ? *edit : *widget.findChild<QLineEdit*>());
 }
 
-/// Half the number, which every range of the style has room for; 1 in place of 0.
+/// Half the number, which every range of the style has room for; a half in place of 0.
 std::string anotherNumber(std::string const& text)
 {
     double const number = QString::fromStdString(text).toDouble();
-    return QString::number(number == 0.0 ? 1.0 : number / 2).toStdString();
+    return QString::number(number == 0.0 ? 0.5 : number / 2).toStdString();
 }
 
 /// Gives the widget another value, as a user does.
@@ -122,6 +122,9 @@ protected:
             set(axis + lines + "LinePattern", static_cast<long>(LinePattern_Dashed), number);
         }
         set(axis + "AutoGrid", 0L, number);
+        if (axes == "XYLineAxis" || detail == "RDetail") {
+            set(axis + "RangeMin", 0.25, number); // a logarithmic scale then changes the scale alone
+        }
         set(axis + "Title/TitleMode", static_cast<long>(AxisTitleMode_Text), number);
         set(axes + "/GridArea/DrawBorder", 1L);
         set(axes + "/GridArea/IsFilled", 1L);

@@ -176,7 +176,10 @@ TEST_F(AxisEditRangePageTest, FittingThetaMakesItsUnitArbitraryAndItsPeriodEdita
               QStringLiteral("Theta Mode: Arbitrary"));
     EXPECT_TRUE(field(dialog, "ThetaPeriod").isEnabled());
 
+    setStyle({"PolarAxis", "ThetaDetail", "RangeMin"}, -900.0);
+    setStyle({"PolarAxis", "ThetaDetail", "RangeMax"}, -500.0);
     trigger(openMenu(dialog, thetaButton), "0 to 360 Degrees");
+    EXPECT_EQ(theta("RangeMin"), 0.0) << "above where the range ended before";
     setStyle({"PolarAxis", "ThetaDetail", "ValueAtOrigin"}, 17.0);
     {
         vantrix::sdk::AppLock const lock;
@@ -263,6 +266,36 @@ TEST_F(AxisEditRangePageTest, SpinBoxesStepToWhatTheHostSays)
     EXPECT_EQ(styleOf<double>({"TwoDAxis", "XDetail", "RangeMin"}), 0.1);
     QTest::keyClick(&minimum, Qt::Key_Down);
     EXPECT_EQ(styleOf<double>({"TwoDAxis", "XDetail", "RangeMin"}), 0.005) << "a twentieth of the present range";
+}
+
+TEST_F(AxisEditRangePageTest, ARangeThatIsNotInOrderIsRefusedWithTheAxisAndTheFieldShowsTheOldValue)
+{
+    showSample("lines");
+    auto const& dialog = openOn(PlotType_XYLine);
+    click(dialog, "axisEdit_PickXYX2Axis_TXRadioButton");
+    auto& minimum = find<QDoubleSpinBox>(dialog, "axisEdit_RangeMin_1Text");
+    auto const typed = [&](char const* text) {
+        minimum.setFocus();
+        minimum.selectAll();
+        QTest::keyClicks(&minimum, QString::fromLatin1(text));
+        QTest::keyClick(&minimum, Qt::Key_Return);
+        idle();
+    };
+    typed("7");
+    EXPECT_THAT(frontEnd.messages,
+                ElementsAre("The minimum of axis X2 has to be below its maximum, which is 1; 7 is not."));
+    EXPECT_EQ(axisStyle<double>({"XYLineAxis", "XDetail", "RangeMin"}, 2), 0.0);
+    EXPECT_EQ(minimum.value(), 0.0);
+
+    click(dialog, "axisEdit_RangeLogScale_ToggleButton");
+    EXPECT_GT(minimum.value(), 0.0) << "a logarithmic axis begins above 0";
+    double const before = minimum.value();
+    minimum.setFocus();
+    QTest::keyClick(&minimum, Qt::Key_Up);
+    EXPECT_GT(minimum.value(), before);
+    typed("-1");
+    EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("X2 has to be above 0"));
+    EXPECT_GT(minimum.value(), before);
 }
 
 TEST_F(AxisEditRangePageTest, ControlsThatThePlotOrAxisHasNoUseForAreHidden)

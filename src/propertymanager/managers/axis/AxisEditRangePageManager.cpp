@@ -54,6 +54,19 @@ bool tellRefusal(Action&& action)
     return false;
 }
 
+/// The minimum stays below the maximum in between: the host refuses anything else.
+void setInOrder(Detail const& axis, double minimum, double maximum)
+{
+    bool const isMinimumFirst = minimum < axis.getMax()->value();
+    if (!isMinimumFirst) {
+        axis.getMax()->setValue(maximum);
+    }
+    axis.getMin()->setValue(minimum);
+    if (isMinimumFirst) {
+        axis.getMax()->setValue(maximum);
+    }
+}
+
 bool isXYDependentAllowed()
 {
     AppLock const lock(false);
@@ -196,8 +209,7 @@ void AxisEditRangePageManager::resetThetaMode(ThetaResetMode_e mode)
     m_thetaMode.setValue(range.mode);
     m_thetaPeriod.setValue(range.period);
     theta->getValueatorigin()->setValue(0);
-    theta->getMin()->setValue(range.minimum);
-    theta->getMax()->setValue(range.minimum + range.period);
+    setInOrder(*theta, range.minimum, range.minimum + range.period);
     theta->getGrSpacing()->setValue(range.period / ThetaGridLines);
 }
 
