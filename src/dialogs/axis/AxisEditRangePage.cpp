@@ -1,6 +1,7 @@
 #include "dialogs/axis/AxisEditRangePage.h"
 
 #include "api/VtxUtil.h"
+#include "propertymanager/SpinBoxIncDecCalculatorPercentage.h"
 #include "propertymanager/managers/axis/AxisRangeSpinBoxIncDecCalculator.h"
 #include "ui/relevance/RelevanceExpression.h"
 #include "ui_AxisEditDialog.h"
@@ -9,6 +10,12 @@ namespace vantrix::sdk::ui::dialogs {
 
 using namespace propertymanager;
 using Manager = AxisEditRangePageManager;
+
+namespace {
+
+constexpr double ProportionStepPercent = 10.0;
+
+} // namespace
 
 AxisEditRangePage::AxisEditRangePage(QWidget& /*parent*/, Ui::AxisEdit& form, AxisEditProperties& properties)
     : m_form(form)
@@ -42,16 +49,16 @@ void AxisEditRangePage::createBindings()
     m_bindings.bindChoice(m_form.axisEdit_RangeAxisSpec2DDependent_RadioButton, mode, AxisMode_XYDependent);
     m_bindings.bindChoice(m_form.axisEdit_RangeAxisSpec2DIndependent_RadioButton, mode, AxisMode_Independent);
     m_bindings.bindText(m_form.axisEdit_RangeAxisSpec2DRatio_Label, m.getXtoYRatioLabel());
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec2DRatio_1Text, m.getXtoYRatio());
+    bindProportion(m_form.axisEdit_RangeAxisSpec2DRatio_1Text, m.getXtoYRatio());
 
     m_bindings.bindChoice(m_form.axisEdit_RangeAxisSpec3DIndep_RadioButton, mode, AxisMode_Independent);
     m_bindings.bindChoice(m_form.axisEdit_RangeAxisSpec3DXY_RadioButton, mode, AxisMode_XYDependent);
     m_bindings.bindChoice(m_form.axisEdit_RangeAxisSpec3DXYZ_RadioButton, mode, AxisMode_XYZDependent);
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec3DXYRatio_1Text, m.getXtoYRatio());
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec3DXZRatio_1Text, m.getXtoZRatio());
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec3DXScaleFact_1Text, m.getXSizeFactor());
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec3DYScaleFact_1Text, m.getYSizeFactor());
-    m_bindings.bindField(m_form.axisEdit_RangeAxisSpec3DZScaleFact_1Text, m.getZSizeFactor());
+    bindProportion(m_form.axisEdit_RangeAxisSpec3DXYRatio_1Text, m.getXtoYRatio());
+    bindProportion(m_form.axisEdit_RangeAxisSpec3DXZRatio_1Text, m.getXtoZRatio());
+    bindProportion(m_form.axisEdit_RangeAxisSpec3DXScaleFact_1Text, m.getXSizeFactor());
+    bindProportion(m_form.axisEdit_RangeAxisSpec3DYScaleFact_1Text, m.getYSizeFactor());
+    bindProportion(m_form.axisEdit_RangeAxisSpec3DZScaleFact_1Text, m.getZSizeFactor());
     m_bindings.bindAction(m_form.axisEdit_RangeAxisSpec3DResetScaleFacts_Button,
                           [this] { on_axisEdit_RangeAxisSpec3DResetScaleFacts_Button_clicked(); });
 
@@ -62,6 +69,14 @@ void AxisEditRangePage::createBindings()
     m_bindings.bindAction(m_form.axisEdit_RangeAxisSpecThetaReset_Button,
                           [this] { on_axisEdit_RangeAxisSpecThetaReset_Button_clicked(); });
     m_bindings.bindField(m_form.axisEdit_RangeAxisSpecROrigin_1Text, m.getROrigin());
+}
+
+/// Ratios and size factors step by a part of what they are, because each stands for a proportion.
+void AxisEditRangePage::bindProportion(common::QScientificSpinBox* spinBox, UIStylePropertyAbstract<double>& property)
+{
+    using Calculator = SpinBoxIncDecCalculatorPercentage;
+    m_bindings.bindSpinBox(spinBox, property,
+                           boost::make_shared<Calculator>(ProportionStepPercent, spinBox->decimals()));
 }
 
 void AxisEditRangePage::bindRelevanciesToControls()

@@ -23,6 +23,8 @@ public:
 
 private:
     void createBindings();
+    void bindProportion(common::QScientificSpinBox* spinBox,
+                        propertymanager::UIStylePropertyAbstract<double>& property);
     void bindRelevanciesToControls();
     void axisEdit_RangeReset_Button_clicked();
     void on_axisEdit_RangeAxisSpecThetaReset_Button_clicked();

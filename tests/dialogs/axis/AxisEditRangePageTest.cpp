@@ -66,7 +66,9 @@ protected:
 
     static QLineEdit& field(QDialog const& dialog, char const* item)
     {
-        return find<QLineEdit>(dialog, (std::string("axisEdit_RangeAxisSpec") + item + "_1Text").c_str());
+        auto& widget = find<QWidget>(dialog, (std::string("axisEdit_RangeAxisSpec") + item + "_1Text").c_str());
+        auto* const edit = qobject_cast<QLineEdit*>(&widget);
+        return edit ? *edit : *widget.findChild<QLineEdit*>();
     }
 
     static double theta(char const* value) { return styleOf<double>({"PolarAxis", "ThetaDetail", value}); }
@@ -201,6 +203,10 @@ TEST_F(AxisEditRangePageTest, ASizeFactorOfZeroLeavesTheOldOne)
     setStyle({"ThreeDAxis", "AxisMode"}, long{AxisMode_Independent});
     enter(field(dialog, "3DYScaleFact"), "2.5");
     EXPECT_EQ(styleOf<double>({"GlobalThreeD", "AxisScale", "Y"}), 2.5);
+    QTest::keyClick(field(dialog, "3DYScaleFact").parentWidget(), Qt::Key_Up);
+    EXPECT_EQ(styleOf<double>({"GlobalThreeD", "AxisScale", "Y"}), 2.75) << "proportions step by a tenth";
+    QTest::keyClick(field(dialog, "3DYScaleFact").parentWidget(), Qt::Key_Down);
+    enter(field(dialog, "3DYScaleFact"), "2.5");
     enter(field(dialog, "3DYScaleFact"), "0");
     EXPECT_EQ(styleOf<double>({"GlobalThreeD", "AxisScale", "Y"}), 2.5);
     EXPECT_EQ(textOf(field(dialog, "3DYScaleFact")), "2.5");
