@@ -64,8 +64,9 @@ bool VtxUtilProbeAtFieldIndexX(VtxArgListHandle arguments);
 
 /*
  * Probes of line plots. By position along an axis ("Position" double, "Axis" long: 'X', 'Y', 'T' or 'R', "AxisNum"
- * long) every active line map over that axis is interpolated, theta being the same a full circle on; by index ("I",
- * "J", "K", "LineMap" long) one point of one line map is taken.
+ * long) every active line map over that axis is interpolated, theta being the same a full circle on;
+ * "PROBEATLINEPOSITIONRESULT" (long*, optional) receives 1 when one has a value there, else 0. By index ("I", "J", "K",
+ * "LineMap" long) one point of one line map is taken.
  */
 bool VtxUtilProbeAtLinePositionX(VtxArgListHandle arguments);
 bool VtxUtilProbeAtLineIndexX(VtxArgListHandle arguments);

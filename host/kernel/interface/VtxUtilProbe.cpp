@@ -183,9 +183,11 @@ bool VtxUtilProbeAtFieldIndexX(VtxArgListHandle arguments)
 bool VtxUtilProbeAtLinePositionX(VtxArgListHandle arguments)
 {
     return probing([&] {
-        return perform(LinePositionRequest{static_cast<char>(argument<long>(arguments, "Axis")),
-                                           static_cast<int>(argumentOr(arguments, "AxisNum", 1L)),
-                                           argument<double>(arguments, "Position")});
+        const bool isFound = perform(LinePositionRequest{static_cast<char>(argument<long>(arguments, "Axis")),
+                                                         static_cast<int>(argumentOr(arguments, "AxisNum", 1L)),
+                                                         argument<double>(arguments, "Position")});
+        setIfNotNull(argumentOr<long*>(arguments, "PROBEATLINEPOSITIONRESULT", nullptr), isFound ? 1 : 0);
+        return isFound;
     });
 }
 

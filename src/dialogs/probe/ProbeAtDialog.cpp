@@ -12,7 +12,6 @@
 #include "ui/SpinBoxDoublePropertyBinding.h"
 #include "ui/SpinBoxLgIndexPropertyBinding.h"
 #include "ui/TabWidgetLaunchHelpAction.h"
-#include "ui/relevance/FieldPlotTypeDependentRelevance.h"
 #include "ui_ProbeAtDialog.h"
 
 #include <array>
@@ -74,8 +73,11 @@ void ProbeAtDialog::Impl::createButtons()
     m_several = m_form.buttonBox->addButton(tr("&Several..."), QDialogButtonBox::ActionRole);
     m_several->setObjectName(QStringLiteral("atProbe_Several_PushButton"));
     m_several->setToolTip(tr("Probe many positions at once"));
-    m_bindings.push_back(
-        new ButtonBinding(m_several, [this] { ProbePositionsDialog::getInstance(*m_dialog.parentWidget()).launch(); }));
+    m_bindings.push_back(new ButtonBinding(m_several, [this] {
+        auto& several = ProbePositionsDialog::getInstance(*m_dialog.parentWidget());
+        several.setLineAxis(m_manager.getLineProbeAxis(), m_manager.getLineProbeAxisNum());
+        several.launch();
+    }));
     QPushButton* const probe = m_form.buttonBox->button(QDialogButtonBox::Apply);
     probe->setText(tr("&Do Probe"));
     m_bindings.push_back(new ButtonBinding(probe, [this] { m_dialog.doProbe(); }));
@@ -128,7 +130,6 @@ void ProbeAtDialog::Impl::bindRelevanciesToControls()
     m_formBindings.apply(ProbeAtDialogManager::threeDRelevance(),
                          {m_form.atProbe_PositionAreaFieldZ_Label, m_form.atProbe_PositionAreaFieldZ_1Text,
                           m_form.atProbe_PositionAreaFieldVolume_ToggleButton});
-    m_formBindings.apply(boost::make_shared<propertymanager::FieldPlotTypeDependentRelevance const>(), {m_several});
 }
 
 QAbstractButton* ProbeAtDialog::Impl::xyButton(propertymanager::LineProbeAxis_e axis, int number) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "propertymanager/LineProbePosSpinBoxIncDecCalculator.h"
 #include "ui/QtDialogAbstract.h"
 
 #include <QString>
@@ -9,8 +10,8 @@
 
 namespace vantrix::sdk::ui::dialogs {
 
-/// "Probe Several Positions": probes a field plot at positions that are typed or pasted, one a line. What is found is
-/// listed in the probe history.
+/// "Probe Several Positions": probes a field plot at positions that are typed or pasted, one a line, and a line plot at
+/// places on one of its axes. What is found is listed in the probe history.
 class ProbePositionsDialog : public vantrix::dialogs::common::QtDialogAbstract
 {
     Q_OBJECT
@@ -23,14 +24,22 @@ public:
 
     /// Reads lines of numbers parted by blanks, tabs, commas or semicolons; empty lines and lines that begin with # are
     /// left out. A comma between digits does not part where something else does: it may be meant as a decimal point.
-    /// @param dimension  how many numbers a line has to have, 2 or 3
+    /// @param dimension  how many numbers a line has to have, 1 to 3
     /// @param problem  what is wrong with which line; the positions are then empty
     static std::vector<Position> parse(QString const& text, int dimension, QString& problem);
 
     ~ProbePositionsDialog() override;
 
+    /// Chooses the axis of a line plot that positions are on; does nothing for one that the present plot does not have.
+    void setLineAxis(propertymanager::LineProbeAxis_e axis, int number);
+
+    /// Brings the form in step with the plot.
+    void launch() override;
+
 private:
     explicit ProbePositionsDialog(QWidget& parent);
+    void createForm();
+    void update();
     void probe();
 
     class Impl;

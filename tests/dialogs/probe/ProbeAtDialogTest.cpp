@@ -151,11 +151,7 @@ TEST_F(ProbeAtDialogTest, TheFormFollowsThePlotAndZonesThatGo)
     EXPECT_EQ(find<QComboBox>(dialog, "atProbe_IndexDataGroup_CmbBox").count(), 1);
     probe(dialog);
     EXPECT_EQ(VtxUtilProbeFieldGetZone(), 1);
-    EXPECT_TRUE(isEnabled(dialog, "atProbe_Several_PushButton"));
     setStyle({"PlotType"}, long{PlotType_PolarLine});
-    auto const& several = find<QPushButton>(dialog, "atProbe_Several_PushButton");
-    EXPECT_FALSE(several.isEnabled());
-    EXPECT_THAT(several.toolTip().toStdString(), testing::HasSubstr("2D or 3D Cartesian plot"));
     EXPECT_EQ(pageOf(dialog, "atProbe_PositionAreaLinePlotAxis_Stack"), "lineAxisPolar_page");
     EXPECT_TRUE(isChecked(dialog, "atProbe_PositionAreaLinePlotPolarAxisTheta_TXRadioButton"));
     click(dialog, "atProbe_PositionAreaLinePlotPolarAxisR_TXRadioButton");

@@ -1,11 +1,13 @@
 #include "ProbeDialogsFixture.h"
 
+#include "dialogs/probe/ProbeAtDialog.h"
 #include "dialogs/probe/ProbeHistory.h"
 #include "dialogs/probe/ProbeHistoryDialog.h"
 #include "dialogs/probe/ProbePositionsDialog.h"
 #include "toolbox/Set.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -214,6 +216,44 @@ TEST_F(ProbeHistoryTest, SeveralPositionsAreProbedAtOnce)
     positions.setPlainText(QString());
     click(dialog, QDialogButtonBox::Apply);
     EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr("There is no position"));
+}
+
+TEST_F(ProbeHistoryTest, SeveralPositionsOfALinePlotAreOnTheAxisThatIsProbed)
+{
+    open("lines");
+    auto& probeAt = launch<ProbeAtDialog>();
+    click(probeAt, "atProbe_PositionAreaLinePlotXYAxisY1_TXRadioButton");
+    click(probeAt, "atProbe_Several_PushButton");
+    auto& dialog = ProbePositionsDialog::getInstance(parent);
+    auto& axis = find<QComboBox>(dialog, "probePositions_axis_comboBox");
+    EXPECT_EQ(axis.currentText(), QStringLiteral("Y1"));
+    choose(dialog, "probePositions_axis_comboBox", "X1");
+    auto& positions = find<QPlainTextEdit>(dialog, "probePositions_plainTextEdit");
+    positions.setPlainText(QStringLiteral("1.5\n# far away\n1e9\n  2\n"));
+    click(dialog, QDialogButtonBox::Apply);
+    ASSERT_EQ(history().rowCount(), 2);
+    EXPECT_EQ(text(0, ProbeHistory::ItemColumn), "X1");
+    EXPECT_EQ(text(0, ProbeHistory::XColumn), "1.5");
+    EXPECT_EQ(text(1, ProbeHistory::XColumn), "2");
+    EXPECT_THAT(frontEnd.messages, testing::ElementsAre("1 of 3 positions are outside of the data."));
+    ASSERT_TRUE(probeLineAt('X', 1.5));
+    EXPECT_EQ(history().record(0).values, history().record(2).values) << "as a single probe finds them";
+
+    for (auto const& [wrong, message] :
+         {std::pair{"1\n2 3", "Line 2, \"2 3\", is no position on an axis"}, {"1,5", "comma within a number"}}) {
+        positions.setPlainText(QLatin1String(wrong));
+        click(dialog, QDialogButtonBox::Apply);
+        EXPECT_THAT(frontEnd.messages.back(), testing::HasSubstr(message));
+        EXPECT_EQ(history().rowCount(), 3);
+    }
+    open("polar");
+    EXPECT_EQ(axis.count(), 2) << "theta and R";
+    positions.setPlainText(QStringLiteral("10"));
+    click(dialog, QDialogButtonBox::Apply);
+    EXPECT_EQ(VtxUtilProbeLineGetAxis(), 'T');
+    EXPECT_EQ(VtxUtilProbeLineGetPosition(), 10.0);
+    open("fe2d");
+    EXPECT_TRUE(axis.isHidden());
 }
 
 } // namespace
