@@ -140,6 +140,7 @@ void ProbeWidget::Impl::takeProbe(bool isNearestPoint, bool probeSucceeded)
 {
     if (probeSucceeded) {
         m_tabsFilled.fill(false);
+        m_probedDataSet = VtxUtilDataSetGetUniqueID();
     } else if (m_probeSucceeded && !m_isReprobing) {
         fillOtherTabs();
     }
@@ -212,8 +213,12 @@ void ProbeWidget::Impl::updateTab(int page)
         return;
     }
     bool& isFilled = m_tabsFilled[static_cast<std::size_t>(page)];
-    if (!m_probeSucceeded && !isFilled) {
+    bool const isPresent = isOfPresentData();
+    if (!isFilled && !(m_probeSucceeded && isPresent)) {
         emptyTab(page); // what it shows is of another probe than the name above the tabs
+    }
+    if (!isPresent) {
+        return;
     }
     switch (page) {
     case FieldProbeDialogPage_NodalValues:
@@ -241,11 +246,18 @@ void ProbeWidget::Impl::updateTab(int page)
     isFilled = isFilled || m_probeSucceeded;
 }
 
+/// Whether names, zones and cells that the host now tells are of the data that were probed: frames may show different
+/// ones.
+bool ProbeWidget::Impl::isOfPresentData() const
+{
+    return m_probedDataSet == VtxUtilDataSetGetUniqueID();
+}
+
 /// Once a probe has failed, nothing is read of the one before it: the tabs that were not looked at must have it by
 /// then.
 void ProbeWidget::Impl::fillOtherTabs()
 {
-    if (!dataSetAndFrameAreAvailable() || !isFieldPlot(VtxUtilFrameGetPlotType())) {
+    if (!dataSetAndFrameAreAvailable() || !isFieldPlot(VtxUtilFrameGetPlotType()) || !isOfPresentData()) {
         return;
     }
     for (std::size_t page = 0; page < m_tabsFilled.size(); ++page) {
@@ -393,7 +405,7 @@ void ProbeWidget::Impl::updateLineProbe()
 void ProbeWidget::Impl::updateLoadVariablesButtons()
 {
     bool canLoad = false;
-    if (m_probeSucceeded && VtxUtilProbeFieldGetCZType() == ProbeSource_Zone) {
+    if (m_probeSucceeded && isOfPresentData() && VtxUtilProbeFieldGetCZType() == ProbeSource_Zone) {
         long const zone = VtxUtilProbeFieldGetZone();
         for (long variable = 1; variable <= VtxUtilDataSetGetNumVars() && !canLoad; ++variable) {
             canLoad = !VtxUtilDataValueIsLoaded(zone, variable);
@@ -503,6 +515,9 @@ void ProbeWidget::Impl::followStateChanges()
         setStackedWidgetPage();
     }
     m_probeSucceeded = isProbeStillValid();
+    if (frameChanged) {
+        updateLoadVariablesButtons();
+    }
     if (needsReprobe && hasInfo()) {
         reprobeAndUpdateUI();
     }

@@ -53,6 +53,7 @@ private:
     void updateCartesianPages();
     void updateTab(int page);
     void fillOtherTabs();
+    bool isOfPresentData() const;
     void emptyTab(int page);
     void updateProbedItemInfo();
     void updateVarValues();
@@ -87,6 +88,7 @@ private:
     bool m_probeSucceeded = false;
     std::array<bool, 4> m_tabsFilled{}; ///< with the probe that the name above them is of
     VtxProbeInfoHandle m_probeInfo = nullptr;
+    long m_probedDataSet = 0; ///< unique identifier
     bool m_isReprobing = false;
     Callback m_callback = nullptr;
     std::map<QObject*, common::TableCopyHandler*> m_copyHandlers;

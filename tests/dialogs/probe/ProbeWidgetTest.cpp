@@ -242,6 +242,52 @@ TEST_F(ProbeDialogsTest, AfterAFailedProbeAllTabsAreOfTheLastOneThatFoundSomethi
     EXPECT_EQ(VtxUtilProbeFieldGetZone(), 2) << "and so is what the host keeps";
 }
 
+TEST_F(ProbeDialogsTest, TabsNeverMixTheDataOfTwoFrames)
+{
+    open("fe2d");
+    auto& dialog = launch<ProbeDialog>();
+    long const first = VtxUtilFrameGetUniqueID();
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    showTab(dialog, FieldProbeDialogPage_NodalValues);
+    auto& values = table(dialog, "varValues_tableWidget");
+    auto& zone = table(dialog, "zoneInfo_tableWidget");
+    int const rows = values.rowCount();
+    std::string const shown = cell(values, 2, 0) + cell(values, 2, 1);
+
+    auto const activate = [](long frame) {
+        {
+            sdk::AppLock const lock;
+            ASSERT_TRUE(kernel::Kernel::instance().document().setActiveFrame(frame));
+        }
+        idle();
+    };
+    {
+        sdk::AppLock const lock;
+        ASSERT_NE(kernel::Kernel::instance().document().addFrame(), nullptr);
+    }
+    open("polyhedra");
+    long const second = VtxUtilFrameGetUniqueID();
+    ASSERT_NE(first, second);
+    setStyle({"PlotType"}, long{PlotType_Cartesian2D});
+    activate(first);
+    {
+        sdk::AppLock const lock;
+        ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Probe));
+    }
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    EXPECT_EQ(values.rowCount(), rows);
+    activate(second);
+    EXPECT_FALSE(probeAt(1e6, 1e6, 0.0));
+    EXPECT_EQ(find<QLabel>(dialog, "probedItemName_label").text(), QStringLiteral("Zone 2: Far end"));
+    EXPECT_EQ(values.rowCount(), rows);
+    EXPECT_EQ(cell(values, 2, 0) + cell(values, 2, 1), shown);
+    showTab(dialog, FieldProbeDialogPage_ZoneCellInfo);
+    EXPECT_EQ(zone.rowCount(), 0) << "the zone of that number in the other data";
+    activate(first);
+    ASSERT_TRUE(probeIndex(7, 1, 1, 2));
+    EXPECT_EQ(valueOf(zone, "Zone Type"), "FE-Triangle");
+}
+
 TEST_F(ProbeDialogsTest, ANameColumnThatTheUserWidenedStaysSo)
 {
     open("fe2d");
