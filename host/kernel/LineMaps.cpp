@@ -13,6 +13,8 @@ namespace vantrix::kernel {
 namespace {
 
 constexpr const char* countPath = "FrameSetup/NumLineMaps";
+constexpr const char* identityPath = "LineMap/Identity";
+constexpr const char* lastIdentityPath = "FrameSetup/LastLineMapIdentity";
 constexpr const char* colorPath = "LineMap/Lines/Color";
 
 /* Strong red, azure, green, orange, violet, dark cyan, magenta, dark grey: told apart on white, on paper and by most
@@ -56,6 +58,21 @@ void LineMaps::set(const char* path, const StyleData& value, long lineMap)
 long LineMaps::count() const
 {
     return number(countPath, -1);
+}
+
+long LineMaps::identity(long lineMap) const
+{
+    return number(identityPath, lineMap);
+}
+
+long LineMaps::numberOf(long identity) const
+{
+    for (long lineMap = 1; lineMap <= count(); ++lineMap) {
+        if (this->identity(lineMap) == identity) {
+            return lineMap;
+        }
+    }
+    return 0;
 }
 
 std::string LineMaps::name(long lineMap) const
@@ -102,10 +119,12 @@ void LineMaps::add(const std::vector<LineMapAssignment>& assignments)
         expectInData(assignment);
     }
     long lineMap = count();
+    long identity = number(lastIdentityPath, -1);
     long color = lineMap > 0 ? number(colorPath, lineMap) : lineColors.back();
     for (const LineMapAssignment& assignment : assignments) {
         ++lineMap;
         color = colorAfter(color);
+        set(identityPath, ++identity, lineMap);
         set("LineMap/Assignment/Zone", assignment.zone, lineMap);
         set("LineMap/Assignment/XAxisVar", assignment.xVariable, lineMap);
         set("LineMap/Assignment/YAxisVar", assignment.yVariable, lineMap);
@@ -116,6 +135,7 @@ void LineMaps::add(const std::vector<LineMapAssignment>& assignments)
         set("LineMap/Symbols/FillColor", color, lineMap);
         set("ActiveLineMaps", 1L, lineMap);
     }
+    set(lastIdentityPath, identity);
     set(countPath, lineMap);
 }
 

@@ -34,6 +34,11 @@ public:
     long count() const;
     bool has(long lineMap) const { return lineMap >= 1 && lineMap <= count(); }
 
+    /* What stays with a line map when its number changes and no other one ever has; 0 for one that was made before
+     * line maps had any. Its number again, 0 where there is none. */
+    long identity(long lineMap) const;
+    long numberOf(long identity) const;
+
     /* Its own name, or that of its Y variable; empty where it has neither. */
     std::string name(long lineMap) const;
 

@@ -140,9 +140,8 @@ LineProbeResult LineProbe::resultOf(const Map& from, long point) const
     result.point = point + 1;
     const Zone& zone = *m_dataSet->zone(from.zone);
     const auto [iMax, jMax, kMax] = zone.isOrdered() ? zone.dimensions() : std::array<long, 3>{zone.pointCount(), 1, 1};
-    const LineMapAssignment shown = m_lineMaps.assignment(from.number);
     result.picked = {point % iMax + 1, point / iMax % jMax + 1, point / iMax / jMax + 1, from.number,
-                     zone.identity(),  shown.xVariable,         shown.yVariable};
+                     m_lineMaps.identity(from.number)};
     result.pickedX = from.x->values->GetComponent(point, 0);
     result.pickedY = from.y->values->GetComponent(point, 0);
     result.position = result.pickedX;
@@ -150,31 +149,17 @@ LineProbeResult LineProbe::resultOf(const Map& from, long point) const
     return result;
 }
 
-bool LineProbe::shows(long number, const LineIndexRequest& request) const
-{
-    const LineMapAssignment shown = m_lineMaps.assignment(number);
-    const Zone* zone = m_dataSet->zone(shown.zone);
-    return zone && zone->identity() == request.zoneIdentity && shown.xVariable == request.xVariable &&
-           shown.yVariable == request.yVariable;
-}
-
-/* Line maps have no identity of their own: one that moved to another number is known by what it shows. */
 long LineProbe::lineMapOf(const LineIndexRequest& request) const
 {
-    const bool isThere = m_lineMaps.has(request.lineMap);
-    if (request.zoneIdentity == 0 || (isThere && shows(request.lineMap, request))) {
+    if (request.identity == 0) {
         return request.lineMap;
     }
-    for (long number = 1; number <= m_lineMaps.count(); ++number) {
-        if (shows(number, request)) {
-            return number;
-        }
+    const long number = m_lineMaps.numberOf(request.identity);
+    if (number == 0) {
+        throw DataError("The line map that was probed, then number " + std::to_string(request.lineMap) +
+                        ", is no longer in the plot.");
     }
-    if (m_dataSet->zoneNumber(request.zoneIdentity) == 0) {
-        throw DataError("The zone of the line map that was probed, then number " + std::to_string(request.lineMap) +
-                        ", is no longer in the data of the active frame.");
-    }
-    return request.lineMap; // which may have been given other data
+    return number;
 }
 
 LineProbeResult LineProbe::probe(const LineIndexRequest& request) const

@@ -27,10 +27,8 @@ struct LineIndexRequest
     long k = 1;
     long lineMap = 1;
 
-    /* What the line map showed, for one that is known again by it; 0 for the one that has the number. */
-    long zoneIdentity = 0;
-    long xVariable = 0;
-    long yVariable = 0;
+    /* Of the line map, see LineMaps; 0 for the one that has the number. */
+    long identity = 0;
 };
 
 /* A probe of the point of all line maps that is drawn closest to a place of the picture. */
@@ -96,7 +94,6 @@ private:
         bool isBlanked(long point) const;
     };
     Map map(long number) const;
-    bool shows(long number, const LineIndexRequest& request) const;
     long lineMapOf(const LineIndexRequest& request) const;
     std::vector<Map> shownMaps() const;
     LineProbeResult resultOf(const Map& map, long point) const;

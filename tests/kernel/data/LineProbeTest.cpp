@@ -85,9 +85,12 @@ TEST_F(ProbeTest, AProbedLineMapIsFollowedToAnotherNumberAndMissedWhenItsZoneIsG
         EXPECT_TRUE(VtxUtilProbeAtLineIndexX(Arguments().with("I", 7L).with("LineMap", map))) << lastError();
         return VtxUtilProbeInfoGet();
     };
-    ASSERT_NE(LineMaps(kernel().style(), *document().activeFrame()).assignment(2).zone, 1);
     VtxProbeInfoHandle first = probePoint(1);
     VtxProbeInfoHandle second = probePoint(2);
+    LineMaps maps(kernel().style(), *document().activeFrame());
+    maps.add({maps.assignment(2)});
+    const long twin = maps.count();
+    VtxProbeInfoHandle third = probePoint(twin);
     double y = 0.0, again = 0.0;
     ASSERT_TRUE(VtxUtilProbeLineGetPickedValues(nullptr, &y));
     VtxSetHandle zones = VtxUtilSetAlloc();
@@ -96,13 +99,19 @@ TEST_F(ProbeTest, AProbedLineMapIsFollowedToAnotherNumberAndMissedWhenItsZoneIsG
     VtxUtilSetDealloc(&zones);
 
     EXPECT_FALSE(VtxUtilProbePerform(first, nullptr));
-    EXPECT_THAT(lastError(), HasSubstr("no longer in the data"));
+    EXPECT_THAT(lastError(), HasSubstr("then number 1, is no longer in the plot"));
     ASSERT_TRUE(VtxUtilProbePerform(second, nullptr)) << lastError();
     EXPECT_EQ(VtxUtilProbeLineGetPickedMap(), 1);
     ASSERT_TRUE(VtxUtilProbeLineGetPickedValues(nullptr, &again));
     EXPECT_EQ(again, y);
-    VtxUtilProbeInfoDealloc(&first);
-    VtxUtilProbeInfoDealloc(&second);
+    ASSERT_TRUE(VtxUtilProbePerform(third, nullptr)) << lastError();
+    EXPECT_EQ(VtxUtilProbeLineGetPickedMap(), twin - 1) << "not the other line map that shows the same";
+    maps.remove({twin - 1});
+    maps.add({maps.assignment(1)});
+    EXPECT_FALSE(VtxUtilProbePerform(third, nullptr)) << "nor one that was added in its place";
+    for (VtxProbeInfoHandle* info : {&first, &second, &third}) {
+        VtxUtilProbeInfoDealloc(info);
+    }
 }
 
 TEST_F(ProbeTest, ThetaIsTheSameAFullCircleOn)
