@@ -47,6 +47,11 @@ bool VtxUtilViewX(VtxArgListHandle arguments);
  * axis, and where the step would take a value above the minimum down to it, or one below the maximum up to it. */
 double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice);
 
+/* How far labelled ticks of an axis are apart: while their spacing is chosen by the plot (`AutoGrid`) as it was drawn
+ * last, else, and where it was not drawn or the ticks are not evenly spaced, the style's `GRSpacing`. False when there
+ * is no such axis. */
+bool VtxUtilAxisGetTickSpacing(char axis, int axisNumber, double* spacing);
+
 /* Puts the size factors of a 3D plot and the dependency of its axes back to what suits its data. */
 bool VtxUtilReset3DScaleFactors(void);
 

@@ -24,6 +24,7 @@
 #include "kernel/Layout.h"
 #include "kernel/VariableMemory.h"
 #include "sdk/WaitState.h"
+#include "view/FramePlot.h"
 #include "view/PageRenderer.h"
 #include "view/WorkArea.h"
 
@@ -81,7 +82,11 @@ MainWindow::MainWindow(kernel::Kernel& kernel)
     , m_autoSave(new AutoSave(kernel.layout(), AutoSave::defaultFolder(), this))
     , m_textPlacement(new TextPlacement(this))
     , m_frontEnd(std::make_unique<WindowFrontEnd>(
-          WindowFrontEnd::Parts{*this, *m_statusLine, *m_helpWindow, [this] { m_workArea->fitPaper(); }}))
+          WindowFrontEnd::Parts{*this, *m_statusLine, *m_helpWindow, [this] { m_workArea->fitPaper(); },
+                                [this](long frameId, char axis, int axisNumber) {
+                                    const view::FramePlot* plot = m_workArea->renderer().plot(frameId);
+                                    return plot ? plot->hits.tickSpacing(axis, axisNumber) : 0.0;
+                                }}))
     , m_titleUpdater(mayConcernTitle, [this] { updateTitle(); })
     , m_memoryTidier(mayConcernMemory, [this] { m_kernel.variableMemory().tidy(); })
 {

@@ -98,4 +98,9 @@ void WindowFrontEnd::fitPaperToWorkArea()
     m_parts.fitPaper();
 }
 
+double WindowFrontEnd::drawnTickSpacing(long frameId, char axis, int axisNumber) const
+{
+    return m_parts.tickSpacing(frameId, axis, axisNumber);
+}
+
 } // namespace vantrix::app

@@ -21,6 +21,7 @@ public:
         StatusLine& statusLine;
         HelpWindow& helpWindow;
         std::function<void()> fitPaper;
+        std::function<double(long frameId, char axis, int axisNumber)> tickSpacing;
     };
 
     explicit WindowFrontEnd(Parts parts);
@@ -32,6 +33,7 @@ public:
     bool reportProgress(const std::string& task, double fraction) override;
     bool openHelp(const std::string& page) override;
     void fitPaperToWorkArea() override;
+    double drawnTickSpacing(long frameId, char axis, int axisNumber) const override;
 
 private:
     Parts m_parts;

@@ -3,6 +3,8 @@
 #include "kernel/AxisRangeRules.h"
 #include "kernel/DataError.h"
 #include "kernel/FieldValues.h"
+#include "kernel/FrontEnd.h"
+#include "kernel/Kernel.h"
 #include "kernel/LineMaps.h"
 #include "kernel/NiceNumbers.h"
 #include "kernel/StyleStore.h"
@@ -260,6 +262,15 @@ std::array<double, 3> AxisRanges::sizeFactors(const std::array<double, 3>& lengt
         }
     }
     return factors;
+}
+
+double AxisRanges::tickSpacing(AxisName axis) const
+{
+    const AxisPlace where = place(axis);
+    const bool isAutomatic = m_style.flag(m_frame.id(), where.entry(m_style, "AutoGrid"), where.offset);
+    const double drawn =
+        isAutomatic ? Kernel::instance().frontEnd().drawnTickSpacing(m_frame.id(), axis.kind, axis.number) : 0.0;
+    return drawn > 0.0 ? drawn : real(axis, "GRSpacing");
 }
 
 void AxisRanges::reset3DScaleFactors()

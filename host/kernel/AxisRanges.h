@@ -49,6 +49,9 @@ public:
     /* See VtxUtilAxisGetNextRangeValue(). */
     double nextValue(AxisName axis, double value, bool up, bool nice) const;
 
+    /* See VtxUtilAxisGetTickSpacing(). */
+    double tickSpacing(AxisName axis) const;
+
     /* See VtxUtilReset3DScaleFactors(). */
     void reset3DScaleFactors();
 

@@ -33,6 +33,10 @@ public:
 
     /* Zooms and moves the work area so that the paper fills it. */
     virtual void fitPaperToWorkArea() = 0;
+
+    /* How far labelled ticks of an axis (see VtxUtilAxis.h) of a frame's plot are apart as it was drawn last; 0 where
+     * it was not drawn or they are not evenly spaced. Whoever draws sends `StateChange_View` when one has changed. */
+    virtual double drawnTickSpacing(long /*frameId*/, char /*axis*/, int /*axisNumber*/) const { return 0.0; }
 };
 
 } // namespace vantrix::kernel

@@ -275,6 +275,9 @@ void AxisLinePainter::paint(const std::function<void()>& paintGround) const
 
 void AxisLinePainter::mark(char axis, int axisNumber) const
 {
+    if (m_canvas.hits) {
+        m_canvas.hits->addTicks(axis, axisNumber, m_ticks.spacing);
+    }
     const kernel::PickedObject line = axisObject(axis, AxisSubObject_AxisLine, axisNumber);
     if (m_parts.hasLine) {
         m_canvas.markLine(line, m_path.painterPath().toSubpathPolygons().value(0));

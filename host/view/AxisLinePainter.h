@@ -55,7 +55,8 @@ public:
      * the lines behind them; without it nothing is erased. */
     void paint(const std::function<void()>& paintGround = {}) const;
 
-    /* Tells the hit map where line, numbers and title of the axis are; see VtxUtilAxis.h for how axes are named. */
+    /* Tells the hit map where line, numbers and title of the axis are, and the spacing of its ticks; see VtxUtilAxis.h
+     * for how axes are named. */
     void mark(char axis, int axisNumber = 1) const;
 
     const AxisStyle& style() const { return m_style; }

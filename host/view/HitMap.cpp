@@ -53,6 +53,18 @@ void HitMap::begin(const QTransform& toInches)
 {
     m_toInches = toInches;
     m_shapes.clear();
+    m_tickSpacings.clear();
+}
+
+void HitMap::addTicks(char axis, int axisNumber, double spacing)
+{
+    m_tickSpacings.try_emplace({axis, axisNumber}, spacing);
+}
+
+double HitMap::tickSpacing(char axis, int axisNumber) const
+{
+    const auto found = m_tickSpacings.find({axis, axisNumber});
+    return found != m_tickSpacings.end() ? found->second : 0.0;
 }
 
 void HitMap::addArea(const kernel::PickedObject& object, const QPolygonF& outline)

@@ -5,7 +5,9 @@
 #include <QPolygonF>
 #include <QTransform>
 
+#include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace vantrix::view {
@@ -32,6 +34,15 @@ public:
      * box around several; none when it was not painted. */
     QPolygonF handles(const kernel::PickedObject& object) const;
 
+    /* How far ticks of an axis are apart where they are drawn first; 0 where they are not evenly spaced, or there are
+     * none. */
+    void addTicks(char axis, int axisNumber, double spacing);
+    double tickSpacing(char axis, int axisNumber) const;
+
+    /* By the axis and its number. */
+    using TickSpacings = std::map<std::pair<char, int>, double>;
+    const TickSpacings& tickSpacings() const { return m_tickSpacings; }
+
 private:
     struct Shape
     {
@@ -43,6 +54,7 @@ private:
 
     QTransform m_toInches;
     std::vector<Shape> m_shapes;
+    TickSpacings m_tickSpacings;
 };
 
 /* A part of an axis; see VtxUtilAxis.h for its character and number. */

@@ -87,6 +87,17 @@ struct WorkArea::Impl : kernel::PickSurface
         }
     }
 
+    /* On the next turn of the event loop: nothing changes while it is painted. */
+    void tellTickSpacings()
+    {
+        const kernel::Frame* frame = context.kernel.document().activeFrame();
+        const FramePlot* plot = frame ? context.renderer.plot(frame->id()) : nullptr;
+        if (plot && plot->hits.tickSpacings() != tickSpacings) {
+            tickSpacings = plot->hits.tickSpacings();
+            QTimer::singleShot(0, &widget, [this] { context.kernel.stateChanges().send(StateChange_View); });
+        }
+    }
+
     std::optional<kernel::PickedObject> objectAt(double x, double y) const override
     {
         const double height = context.page() ? paperStyle(*context.page()).size.height() : 0.0;
@@ -127,6 +138,7 @@ struct WorkArea::Impl : kernel::PickSurface
     std::unique_ptr<MouseTool> inserting; /* takes the place of the mode's tool */
     MouseTool* pressed = nullptr;         /* the one whose drag is under way */
     QTimer wheelTimer;
+    HitMap::TickSpacings tickSpacings; /* of the active frame, that listeners know */
 };
 
 WorkArea::WorkArea(kernel::Kernel& kernel, QWidget* parent)
@@ -284,6 +296,7 @@ void WorkArea::paintEvent(QPaintEvent* /*event*/)
     const KeptView::Place place{size(), devicePixelRatioF(), context.paper.origin(), context.paper.inch(), page->id};
     context.view.paint(painter, place, context.renderer.settings().redrawsAlways,
                        [&](QPainter& onto) { m_impl->paintPaper(onto, *page); });
+    m_impl->tellTickSpacings();
     m_impl->paintPicked(painter);
     (m_impl->pressed ? *m_impl->pressed : m_impl->tool()).paint(painter);
 }

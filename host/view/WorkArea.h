@@ -17,6 +17,8 @@ class PageRenderer;
 /*
  * The work area: the desk with the active page's paper and its frames, and the mouse over them.
  *
+ * When it has drawn ticks of the active frame's axes at another spacing than before it sends `StateChange_View`.
+ *
  * It listens to the kernel's state changes and repaints on the next turn of the event loop, once for any number of
  * changes. What the mouse does follows the kernel's mouse mode (MouseModes): all are handled here but text placement,
  * of which the place is told by textPlaceClicked(). Everywhere the wheel zooms the plot under the pointer, with Ctrl

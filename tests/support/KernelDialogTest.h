@@ -36,10 +36,12 @@ public:
         return true;
     }
     void fitPaperToWorkArea() override { ++fits; }
+    double drawnTickSpacing(long, char, int) const override { return drawnSpacing; }
 
     std::vector<std::string> messages;
     std::vector<std::string> helpPages;
     int fits = 0;
+    double drawnSpacing = 0.0; ///< of every axis
 };
 
 /// The kernel as new, a window for dialogs to belong to, and settings of its own. No test may change state without the

@@ -5,6 +5,7 @@
 #include "kernel/Kernel.h"
 #include "kernel/MouseModes.h"
 #include "kernel/ProbeService.h"
+#include "kernel/StateChanges.h"
 #include "kernel/UndoStack.h"
 #include "support/UserInput.h"
 #include "view/FramePlot.h"
@@ -96,6 +97,32 @@ TEST(WorkArea, ZoomsAFlatPlotByARubberBandAndFitsItAgain)
     shown.area.fitPlot();
     EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMin"), -4.0, 1e-6) << "where the plate begins";
     EXPECT_NEAR(sample.real("TwoDAxis/XDetail/RangeMax"), 9.0, 1e-6) << "where it ends";
+}
+
+TEST(WorkArea, TellsOfAnotherSpacingOfTicksOnceItIsDrawn)
+{
+    ShownSample sample("lines", PlotType_XYLine);
+    ShownWorkArea shown(sample);
+    QCoreApplication::processEvents();
+    const auto drawn = [&] { return shown.area.renderer().plot(sample.frame().id())->hits.tickSpacing('X', 1); };
+    const double before = drawn();
+    EXPECT_GT(before, 0.0);
+    EXPECT_EQ(shown.area.renderer().plot(sample.frame().id())->hits.tickSpacing('X', 2), 0.0) << "not shown";
+    int told = 0;
+    const auto count = [](VtxStateChangeHandle change, void* counter) {
+        *static_cast<int*>(counter) += change->kind == StateChange_View;
+    };
+    sample.kernel.stateChanges().addListener(count, &told);
+    sample.set("XYLineAxis/XDetail/RangeMax", 1000.0, 1);
+    const int byRange = told;
+    shown.area.repaint();
+    QCoreApplication::processEvents();
+    EXPECT_GT(drawn(), before);
+    EXPECT_EQ(told, byRange + 1);
+    shown.area.repaint();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(told, byRange + 1) << "nothing new was drawn";
+    sample.kernel.stateChanges().removeListener(count, &told);
 }
 
 TEST(WorkArea, ZoomsAndFitsTheRadiusOfAPolarPlot)

@@ -129,6 +129,14 @@ double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, boo
     return boundary::guarded(value, [&] { return ranges().nextValue({axis, axisNumber}, value, up, nice); });
 }
 
+bool VtxUtilAxisGetTickSpacing(char axis, int axisNumber, double* spacing)
+{
+    return boundary::guarded(false, [&] {
+        setIfNotNull(spacing, ranges().tickSpacing({axis, axisNumber}));
+        return true;
+    });
+}
+
 bool VtxUtilReset3DScaleFactors(void)
 {
     return change<&VtxUtilReset3DScaleFactors>([](AxisRanges& axes) { axes.reset3DScaleFactors(); });

@@ -31,9 +31,9 @@ void AxisEditTicksPage::createBindings()
 {
     auto& m = m_manager;
     auto* const spacing = m_form.axisEdit_TicksSpacing_1Text;
-    m_bindings.bindCheck(m_form.axisEdit_TicksAutoSpacing_ToggleButton, m.axis(&Axis::getAutoGrid));
+    m_bindings.bindCheck(m_form.axisEdit_TicksAutoSpacing_ToggleButton, m.autoSpacing());
     m_bindings.bindSpinBox(
-        spacing, m.axis(&Axis::getGrSpacing),
+        spacing, m.spacing(),
         boost::make_shared<SpinBoxIncDecCalculatorPercentage>(SpacingStepPercent, spacing->decimals()));
     m_bindings.bindField(m_form.axisEdit_TicksAnchor_1Text, m.axis(&Axis::getGrAnchor));
 

@@ -1,5 +1,6 @@
 #include "AxisDialogTest.h"
 
+#include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
 #include "sdk/StateChangeEventObservable.h"
 #include "ui/ColorButton.h"
@@ -224,6 +225,35 @@ INSTANTIATE_TEST_SUITE_P(
     [](testing::TestParamInfo<PlottedAxis> const& tested) {
         return std::string(tested.param.axes) + tested.param.detail;
     });
+
+TEST_F(AxisEditPagesTest, TheSpacingThatThePlotChoseIsShownAndKeptWhenItIsGivenByHand)
+{
+    setPlotType(PlotType_Cartesian2D);
+    auto const& dialog = launch<AxisEditDialog>();
+    click(dialog, "axisEdit_Pick2DYAxis_TXRadioButton");
+    showTab(dialog, "axisEdit_Ticks_Page");
+    auto const& spacing = find<QDoubleSpinBox>(dialog, "axisEdit_TicksSpacing_1Text");
+    double const stored = styleOf<double>({"TwoDAxis", "YDetail", "GRSpacing"});
+    EXPECT_EQ(spacing.value(), stored) << "nothing was drawn yet";
+    auto const draw = [this](double drawn) {
+        frontEnd.drawnSpacing = drawn;
+        vantrix::kernel::Kernel::instance().stateChanges().send(StateChange_View);
+        idle();
+    };
+    draw(0.05);
+    EXPECT_EQ(spacing.value(), 0.05);
+    EXPECT_FALSE(spacing.isEnabled());
+    draw(0.025);
+    EXPECT_EQ(spacing.value(), 0.025);
+    click(dialog, "axisEdit_TicksAutoSpacing_ToggleButton");
+    EXPECT_TRUE(spacing.isEnabled());
+    EXPECT_EQ(styleOf<double>({"TwoDAxis", "YDetail", "GRSpacing"}), 0.025);
+    draw(0.1);
+    EXPECT_EQ(spacing.value(), 0.025) << "given by hand now";
+    EXPECT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(styleOf<double>({"TwoDAxis", "YDetail", "GRSpacing"}), stored) << "one step";
+    EXPECT_TRUE(styleOf<bool>({"TwoDAxis", "YDetail", "AutoGrid"}));
+}
 
 TEST_F(AxisEditPagesTest, ControlsEditWhatTheirLabelsSay)
 {
