@@ -27,6 +27,7 @@ AxisEditDialog::AxisEditDialog(QWidget& parent)
     setHelpAction(
         new vantrix::dialogs::common::TabWidgetLaunchHelpAction(m_impl->helpPages(), m_impl->form().rangePage, this));
     addPersistentState(m_impl->newTabPersistence());
+    openBesidePlot();
     m_impl->restorePersistentState();
     connect(m_impl->form().rangePage, &QTabWidget::currentChanged, this, &AxisEditDialog::rangePage_currentChanged);
     connect(&m_impl->polarAxes(), &QButtonGroup::buttonClicked, this, &AxisEditDialog::polarAxisClicked);
