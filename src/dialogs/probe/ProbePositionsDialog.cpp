@@ -207,8 +207,8 @@ ProbePositionsDialog::ProbePositionsDialog(QWidget& parent)
     createForm();
     m_impl->bindings.apply(ProbeAtDialogManager::threeDRelevance(), {m_impl->isInVolume});
     m_impl->updateAfterStateChange = std::make_unique<OnIdleAfterStateChangeActionPerformer>(
-        &ProbeAtDialogManager::stateChangeRequiresUpdate, [this] { update(); });
-    update();
+        &ProbeAtDialogManager::stateChangeRequiresUpdate, [this] { followPlot(); });
+    followPlot();
     resize(380, 320);
     openBesidePlot();
     setHelpAction(new vantrix::dialogs::common::LaunchHelpAction(QStringLiteral("probe_history.html"), this));
@@ -248,11 +248,11 @@ void ProbePositionsDialog::createForm()
 
 void ProbePositionsDialog::launch()
 {
-    update();
+    followPlot();
     QtDialogAbstract::launch();
 }
 
-void ProbePositionsDialog::update()
+void ProbePositionsDialog::followPlot()
 {
     bool const isLine = ProbeAtDialogManager::isLinePlot();
     bool const isPolar = ProbeAtDialogManager::isPolarPlot();
@@ -269,7 +269,7 @@ void ProbePositionsDialog::update()
 
 void ProbePositionsDialog::setLineAxis(LineProbeAxis_e axis, int number)
 {
-    update();
+    followPlot();
     int const row = m_impl->axis->findData(axisId(axis, number));
     if (row >= 0) {
         m_impl->axis->setCurrentIndex(row);

@@ -39,7 +39,7 @@ public:
 private:
     explicit ProbePositionsDialog(QWidget& parent);
     void createForm();
-    void update();
+    void followPlot();
     void probe();
 
     class Impl;
