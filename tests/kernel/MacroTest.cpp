@@ -3,6 +3,7 @@
 #include "KernelFixture.h"
 #include "kernel/DataError.h"
 #include "kernel/Layout.h"
+#include "kernel/SilentFrontEnd.h"
 #include "kernel/macro/Commands.h"
 #include "kernel/macro/Identifiers.h"
 #include "toolbox/ArgList.h"
@@ -84,6 +85,16 @@ protected:
     {
         std::ofstream(m_file) << text;
         return VtxUtilMacroRun(m_file.c_str());
+    }
+
+    /* Does the commands of a line as one step, as whoever calls the functions does. */
+    static void doLine(const std::string& line)
+    {
+        const LockScope lock;
+        for (const MacroCommand& command : parseMacroLine(line)) {
+            const Command& about = *commandNamed(command.name);
+            ASSERT_TRUE(about.run(command, about)) << line << ": " << kernel().lastError();
+        }
     }
 
     static SetValueReturnCode_e setByInterface(const char* path, double value)
@@ -226,6 +237,89 @@ TEST_F(MacroTest, AStepOfStyleIsCalledByWhatItChanges)
     EXPECT_EQ(nameAfter("PolarAxis/RDetail/GRSpacing"), "GR Spacing");
 }
 
+TEST_F(MacroTest, EveryStepOfUndoHasAName)
+{
+    std::ofstream(m_folder / "t.ply") << "ply\nformat ascii 1.0\nelement vertex 3\nproperty float x\nproperty float y\n"
+                                         "property float z\nelement face 1\nproperty list uchar int vertex_indices\n"
+                                         "end_header\n0 0 0\n1 0 0\n0 1 0\n3 0 1 2\n";
+    const std::string flow = "DataReadSample Name=flow3d; ";
+    const std::string plate = "DataReadSample Name=fe2d; ";
+    const std::string lines = "DataReadSample Name=lines; ";
+    const std::string frames = "FrameCreate Left=1 Top=1 Width=2 Height=2; ";
+    const std::string traces = flow + "StreamtraceAdd StreamType=2 X1=-3 Y1=-1 Z1=2.5; ";
+    const std::string text = "TextSet Text=a; ";
+    const std::string line = "GeometrySet Points=\"0 0; 10 20\"; ";
+    const std::string polar = lines + "FrameSetPlotType PlotType=5; StyleSet Path=\"PolarAxis/ThetaDetail/RangeMax\" "
+                                      "Value=2.0; ";
+    const std::pair<std::string, std::string> steps[] = {
+        {"", "StyleSet Path=FrameName Value=mine"},
+        {"", "DataRead Files=[\"" + (m_folder / "t.ply").string() + "\"]"},
+        {"", "DataReadSample Name=fe2d"},
+        {plate + "CreateRectangularZone IMax=2 JMax=2 KMax=1 XMin=0 YMin=0 ZMin=0 XMax=1 YMax=1 ZMax=0 DataType=1; ",
+         "DataSetDeleteZone Zones={2}"},
+        {"", "CreateCircularZone IMax=3 JMax=4 KMax=1 XOrigin=0 YOrigin=0 Radius=1 ZMin=0 ZMax=0 DataType=1"},
+        {"", "CreateRectangularZone IMax=2 JMax=2 KMax=1 XMin=0 YMin=0 ZMin=0 XMax=1 YMax=1 ZMax=0 DataType=1"},
+        {"", "FrameCreate Left=1 Top=1 Width=2 Height=2"},
+        {plate + frames, "FrameAttachDataSet Number=1"},
+        {plate, "FrameCreateOnSameData"},
+        {"", "FrameSetRect Frame=1 Left=1 Top=1 Width=2 Height=2"},
+        {frames, "FrameDelete Frame=1"},
+        {frames, "FramePop Frame=1"},
+        {frames, "FramePush Frame=2"},
+        {plate, "FrameSetPlotType PlotType=3"},
+        {"", "FrameSetBackgroundColor Color=0"},
+        {"", "PageCreate"},
+        {"PageCreate; ", "PageDelete Page=1"},
+        {lines, "LineMapCreate Zone=1 XVariable=1 YVariable=2"},
+        {lines, "LineMapDelete LineMaps={1}"},
+        {"", "TextSet Text=a"},
+        {text, "TextSetHeight TextID=1 Height=20"},
+        {text, "TextDelete TextID=1"},
+        {"", "GeometrySet Points=\"0 0; 10 20\""},
+        {line, "GeometryDelete GeometryID=1"},
+        {flow, "StreamtraceAdd StreamType=2 X1=-3 Y1=-1 Z1=2.5"},
+        {traces, "StreamtraceDeleteRange First=1 Last=1"},
+        {traces, "StreamtraceDeleteAll"},
+        {lines + "ViewAxisNiceFit Axis=Y AxisNum=1; ", "ViewAxisFit Axis=Y AxisNum=1"},
+        {lines + "ViewAxisFit Axis=Y AxisNum=1; ", "ViewAxisNiceFit Axis=Y AxisNum=1"},
+        {polar, "ViewAxisFitToEntireCircle Axis=T AxisNum=1"},
+        {lines + "ViewAxisFit Axis=Y AxisNum=1; ", "ViewAxisMakeCurValsNice Axis=Y AxisNum=1"},
+        {lines + "ViewAxisFit Axis=Y AxisNum=1; ", "View ViewOP=0"},
+        {flow + "StyleSet Path=\"GlobalThreeD/AxisScale/X\" Value=3.0; ", "Reset3DScaleFactors"},
+        {text + "PickText TextID=1; ", "PickDelete"},
+    };
+    std::set<std::string> done{"DataValueLoad",
+                               "FrameActivate",
+                               "PageActivate",
+                               "ProbeAtFieldPosition",
+                               "ProbeAtFieldIndex",
+                               "ProbeAtLineIndex",
+                               "ProbeAtLinePosition",
+                               "MouseSetMode",
+                               "PickClear",
+                               "PickFrame",
+                               "PickZone",
+                               "PickText",
+                               "PickGeometry",
+                               "PickLineMap",
+                               "PickStreamtrace",
+                               "PickAxis",
+                               "PickLegend",
+                               "PickAtPosition"}; // are no steps of undo
+    for (const auto& [before, step] : steps) {
+        kernel().reset();
+        doLine(before);
+        const std::string state = kernel().layout().text();
+        doLine(step);
+        EXPECT_TRUE(kernel().layout().text() != state) << step << " after " << before << " was to change something";
+        EXPECT_NE(kernel().undoStack().undoName(), "") << step;
+        done.insert(parseMacroLine(step).front().name);
+    }
+    for (const Command& command : commands()) {
+        EXPECT_TRUE(command.isStepOfItsOwn || done.contains(command.name)) << command.name;
+    }
+}
+
 TEST_F(MacroTest, RecordsNothingThatTheHostDoesItself)
 {
     ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
@@ -327,6 +421,38 @@ TEST_F(MacroTest, RecordsStreamtracesByTheirNumbers)
                                    "StreamtraceDeleteRange First=2 Last=3; PickStreamtrace Streamtrace=2"));
     expectReplayed(lines);
     EXPECT_EQ(VtxUtilPickListGetStreamtrace(1), 2);
+}
+
+TEST_F(MacroTest, StreamtracesThatWereStoppedLeaveTheRestOfTheirStep)
+{
+    class Impatient : public SilentFrontEnd
+    {
+    public:
+        bool reportProgress(const std::string& task, double /*fraction*/) override
+        {
+            return task != "Tracing streamtraces";
+        }
+    } impatient;
+    doLine("DataReadSample Name=flow3d; StyleSet Path=\"StreamtraceLayers/Show\" Value=1");
+    ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
+    kernel().setFrontEnd(&impatient);
+    {
+        const LockScope lock;
+        setByInterface("FrameLayout/Width", 4.0);
+        EXPECT_FALSE(call(&VtxUtilStreamtraceAddX, [](ArgList& list) {
+            list.appendArbParam("StreamType", Streamtrace_VolumeLine);
+            for (const auto& [name, value] : {std::pair{"X1", -3.0}, {"Y1", -1.0}, {"Z1", 2.5}}) {
+                list.appendDouble(name, value);
+            }
+        }));
+    }
+    kernel().setFrontEnd(nullptr);
+    EXPECT_TRUE(kernel().isLastErrorCancellation()) << kernel().lastError();
+    EXPECT_EQ(VtxUtilStreamtraceGetCount(), 0);
+    EXPECT_EQ(value("FrameLayout/Width"), StyleData(4.0));
+    EXPECT_THAT(recorded(), ElementsAre("StyleSet Path=\"FrameLayout/Width\" Value=4.0"));
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(value("FrameLayout/Width"), StyleData(9.0));
 }
 
 TEST_F(MacroTest, RecordsAxesAndProbesHoweverTheyAreAskedFor)

@@ -15,6 +15,8 @@ using vantrix::kernel::boundary::style;
 
 namespace {
 
+const char* const fitAxis = "Fit Axis";
+
 const Frame& expectFrame()
 {
     if (const Frame* frame = Kernel::instance().document().activeFrame()) {
@@ -34,11 +36,13 @@ AxisPlace placeOf(AxisName axis)
     return AxisPlace::find(frame, plotTypeOf(style(), frame), axis);
 }
 
-/* Does something to the axes of the active frame for the function that was called with `arguments`. */
+/* Does something to the axes of the active frame, as a step of that name, for the function that was called with
+ * `arguments`. */
 template<auto Function, class Change, class... Arguments>
-bool change(Change&& how, const Arguments&... arguments)
+bool change(const char* stepName, Change&& how, const Arguments&... arguments)
 {
     const auto run = [&] {
+        boundary::nameStep(stepName);
         AxisRanges axes = ranges();
         how(axes);
         return true;
@@ -69,12 +73,18 @@ void expectKnownNames(VtxArgListHandle arguments)
 
 bool VtxUtilViewAxisFit(char axis, int axisNumber)
 {
-    return change<&VtxUtilViewAxisFit>([&](AxisRanges& axes) { axes.fit({axis, axisNumber}); }, axis, axisNumber);
+    return change<&VtxUtilViewAxisFit>(
+        fitAxis,
+        [&](AxisRanges& axes) {
+            axes.fit({axis, axisNumber});
+        },
+        axis, axisNumber);
 }
 
 bool VtxUtilViewAxisNiceFit(char axis, int axisNumber)
 {
     return change<&VtxUtilViewAxisNiceFit>(
+        fitAxis,
         [&](AxisRanges& axes) {
             axes.niceFit({axis, axisNumber});
         },
@@ -84,6 +94,7 @@ bool VtxUtilViewAxisNiceFit(char axis, int axisNumber)
 bool VtxUtilViewAxisFitToEntireCircle(char axis, int axisNumber)
 {
     return change<&VtxUtilViewAxisFitToEntireCircle>(
+        "Fit to Entire Circle",
         [&](AxisRanges& axes) {
             axes.fitToEntireCircle({axis, axisNumber});
         },
@@ -93,6 +104,7 @@ bool VtxUtilViewAxisFitToEntireCircle(char axis, int axisNumber)
 bool VtxUtilViewAxisMakeCurValsNice(char axis, int axisNumber)
 {
     return change<&VtxUtilViewAxisMakeCurValsNice>(
+        "Nice Axis Range",
         [&](AxisRanges& axes) {
             axes.makeNice({axis, axisNumber});
         },
@@ -121,7 +133,9 @@ bool VtxUtilViewX(VtxArgListHandle arguments)
             throw DataError("\"ViewOP\" is " + std::to_string(operation) + "; it has to be a ViewOp_e, 0 to 2.");
         }
     };
-    return change<&VtxUtilViewX>(view, arguments);
+    const long* operation = arguments ? arguments->findAs<long>("ViewOP") : nullptr;
+    const bool isOfOneAxis = operation && *operation == ViewOp_AxisFit;
+    return change<&VtxUtilViewX>(isOfOneAxis ? fitAxis : "Fit Plot", view, arguments);
 }
 
 double VtxUtilAxisGetNextRangeValue(char axis, int axisNumber, double value, bool up, bool nice)
@@ -139,7 +153,8 @@ bool VtxUtilAxisGetTickSpacing(char axis, int axisNumber, double* spacing)
 
 bool VtxUtilReset3DScaleFactors(void)
 {
-    return change<&VtxUtilReset3DScaleFactors>([](AxisRanges& axes) { axes.reset3DScaleFactors(); });
+    return change<&VtxUtilReset3DScaleFactors>("Reset Size Factors",
+                                               [](AxisRanges& axes) { axes.reset3DScaleFactors(); });
 }
 
 bool VtxUtilQueryIsXYDependentAllowedForFrame(long frameId)

@@ -94,6 +94,7 @@ long VtxUtilDataSetGetNumZones(void)
 bool VtxUtilDataSetDeleteZone(VtxSetHandle zones)
 {
     const auto remove = [&] {
+        boundary::nameStep("Delete Zone");
         ZoneActions(Kernel::instance()).remove(zones ? zones->members : std::set<long>());
         return true;
     };
@@ -252,6 +253,7 @@ bool VtxUtilCreateCircularZone(long iMax, long jMax, long kMax, double xOrigin, 
                                double zMin, double zMax, FieldDataType_e dataType)
 {
     const auto create = [&] {
+        boundary::nameStep("Create Circular Zone");
         ZoneActions(Kernel::instance())
             .create(CircularZone{iMax, jMax, kMax, xOrigin, yOrigin, radius, zMin, zMax, dataType});
         return true;
@@ -264,6 +266,7 @@ bool VtxUtilCreateRectangularZone(long iMax, long jMax, long kMax, double xMin, 
                                   double yMax, double zMax, FieldDataType_e dataType)
 {
     const auto create = [&] {
+        boundary::nameStep("Create Rectangular Zone");
         ZoneActions(Kernel::instance())
             .create(RectangularZone{iMax, jMax, kMax, xMin, yMin, zMin, xMax, yMax, zMax, dataType});
         return true;

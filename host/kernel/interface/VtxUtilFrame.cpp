@@ -75,6 +75,7 @@ bool VtxUtilContourOkToTurnOnRGBColoring(void)
 bool VtxUtilFrameSetPlotType(PlotType_e plotType)
 {
     const auto set = [&] {
+        boundary::nameStep("Plot Type");
         return report(style().set(style().entry("PlotType"), -1, -1, static_cast<long>(plotType))) ==
                SetValueReturnCode_Ok;
     };
@@ -84,6 +85,7 @@ bool VtxUtilFrameSetPlotType(PlotType_e plotType)
 SetValueReturnCode_e VtxUtilFrameSetBackgroundColor(long color)
 {
     const auto set = [&] {
+        boundary::nameStep("Background Color");
         const SetValueReturnCode_e code =
             report(style().set(style().entry("FrameLayout/BackgroundColor"), -1, -1, color));
         if (code == SetValueReturnCode_Ok) {

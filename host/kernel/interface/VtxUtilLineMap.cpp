@@ -92,6 +92,7 @@ bool VtxUtilLineMapGetAssignment(long lineMap, long* zone, long* xVariable, long
 bool VtxUtilLineMapCreate(long zone, long xVariable, long yVariable)
 {
     const auto add = [&] {
+        boundary::nameStep("Add Line Map");
         expectLineMaps().add({{.zone = zone, .xVariable = xVariable, .yVariable = yVariable}});
         return true;
     };
@@ -101,6 +102,7 @@ bool VtxUtilLineMapCreate(long zone, long xVariable, long yVariable)
 bool VtxUtilLineMapDelete(VtxSetHandle lineMaps)
 {
     const auto remove = [&] {
+        boundary::nameStep("Delete Line Maps");
         expectLineMaps().remove(lineMaps ? lineMaps->members : std::set<long>());
         return true;
     };

@@ -88,6 +88,14 @@ bool readData(const MacroCommand& command, const Command& about)
     return VtxUtilDataRead(names.data(), static_cast<long>(names.size()));
 }
 
+/* Whether an argument says what is given a value, not which. */
+bool saysWhat(const MacroCommand& command, const std::string& argument)
+{
+    return command.name == "StyleSet" ? argument != "Value" : isIdentifier(argument);
+}
+
+} // namespace
+
 const std::vector<Command>& commands()
 {
     static const std::vector<Command> table{
@@ -156,14 +164,6 @@ const std::vector<Command>& commands()
     };
     return table;
 }
-
-/* Whether an argument says what is given a value, not which. */
-bool saysWhat(const MacroCommand& command, const std::string& argument)
-{
-    return command.name == "StyleSet" ? argument != "Value" : isIdentifier(argument);
-}
-
-} // namespace
 
 const Command* commandNamed(std::string_view name)
 {

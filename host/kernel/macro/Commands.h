@@ -27,6 +27,9 @@ struct Command
     bool takesList = false;
 };
 
+/* All commands that there are. */
+const std::vector<Command>& commands();
+
 /* Null when there is no command of that name. */
 const Command* commandNamed(std::string_view name);
 
