@@ -6,6 +6,7 @@
 #include "kernel/UndoStack.h"
 
 #include <algorithm>
+#include <map>
 
 namespace vantrix::kernel {
 
@@ -15,39 +16,20 @@ struct Document::Structure
     std::vector<std::shared_ptr<Page>> pages;
     std::vector<Page> contents; /* of each page */
     std::size_t activePage = 0;
-};
 
-/* Pages or frames were added, deleted or reordered. */
-class Document::StructureChange : public UndoableChange
-{
-public:
-    StructureChange(Document& document, Structure before, Structure after, std::vector<StateChange_e> undone,
-                    std::vector<StateChange_e> done)
-        : m_document(document)
-        , m_before(std::move(before))
-        , m_after(std::move(after))
-        , m_undone(std::move(undone))
-        , m_done(std::move(done))
-    {}
-
-    void undo() override { apply(m_before, m_undone); }
-    void redo() override { apply(m_after, m_done); }
-    std::size_t memory() const override { return 1024; }
-
-private:
-    void apply(const Structure& structure, const std::vector<StateChange_e>& kinds)
+    /* What its frames show, by identifier. */
+    std::map<long, const DataSet*> dataSets() const
     {
-        m_document.setStructure(structure);
-        for (const StateChange_e kind : kinds) {
-            m_document.m_changes.send(kind);
+        std::map<long, const DataSet*> found;
+        for (const Page& page : contents) {
+            for (const auto& frame : page.frames) {
+                if (frame->dataSet()) {
+                    found[frame->dataSet()->id()] = frame->dataSet().get();
+                }
+            }
         }
+        return found;
     }
-
-    Document& m_document;
-    Structure m_before;
-    Structure m_after;
-    std::vector<StateChange_e> m_undone;
-    std::vector<StateChange_e> m_done;
 };
 
 namespace {
@@ -71,7 +53,7 @@ StateChange_e opposite(StateChange_e kind)
 /* Bytes of the arrays that `mine` has and `other` has not. */
 std::size_t memoryAlone(const DataSet* mine, const DataSet* other)
 {
-    if (!mine) {
+    if (!mine || mine == other) {
         return 0;
     }
     std::size_t bytes = mine->zones.size() * sizeof(void*) + mine->variables.size() * sizeof(Variable);
@@ -94,6 +76,65 @@ std::size_t memoryAlone(const DataSet* mine, const DataSet* other)
 
 } // namespace
 
+/* Pages or frames were added, deleted or reordered. */
+class Document::StructureChange : public UndoableChange
+{
+public:
+    StructureChange(Document& document, Structure before, Structure after, std::vector<StateChange_e> undone,
+                    std::vector<StateChange_e> done)
+        : m_document(document)
+        , m_before(std::move(before))
+        , m_after(std::move(after))
+        , m_undone(std::move(undone))
+        , m_done(std::move(done))
+    {}
+
+    void undo() override { apply(m_before, m_undone); }
+    void redo() override { apply(m_after, m_done); }
+
+    std::size_t memory(bool isDone) const override
+    {
+        constexpr std::size_t lists = 1024;
+        return lists + (isDone ? memoryOfData(m_before, m_after) : memoryOfData(m_after, m_before));
+    }
+
+    void forEachDataSet(const std::function<void(const DataSet&)>& visit) const override
+    {
+        for (const Structure* structure : {&m_before, &m_after}) {
+            for (const auto& [id, dataSet] : structure->dataSets()) {
+                visit(*dataSet);
+            }
+        }
+    }
+
+private:
+    /* Bytes of the data that frames of one structure show, and those of the other do not. */
+    static std::size_t memoryOfData(const Structure& mine, const Structure& other)
+    {
+        const auto others = other.dataSets();
+        std::size_t bytes = 0;
+        for (const auto& [id, dataSet] : mine.dataSets()) {
+            const auto same = others.find(id);
+            bytes += memoryAlone(dataSet, same == others.end() ? nullptr : same->second);
+        }
+        return bytes;
+    }
+
+    void apply(const Structure& structure, const std::vector<StateChange_e>& kinds)
+    {
+        m_document.setStructure(structure);
+        for (const StateChange_e kind : kinds) {
+            m_document.m_changes.send(kind);
+        }
+    }
+
+    Document& m_document;
+    Structure m_before;
+    Structure m_after;
+    std::vector<StateChange_e> m_undone;
+    std::vector<StateChange_e> m_done;
+};
+
 /* Another page or frame is active. */
 class Document::ActiveChange : public UndoableChange
 {
@@ -106,7 +147,7 @@ public:
 
     void undo() override { m_document.activate(m_page, m_frame); }
     void redo() override {}
-    std::size_t memory() const override { return 0; }
+    std::size_t memory(bool /*isDone*/) const override { return 0; }
     bool isTransient() const override { return true; }
 
 private:
@@ -144,7 +185,10 @@ public:
         }
     }
 
-    std::size_t memory() const override { return memoryAlone(m_before.get(), m_after.get()); }
+    std::size_t memory(bool isDone) const override
+    {
+        return isDone ? memoryAlone(m_before.get(), m_after.get()) : memoryAlone(m_after.get(), m_before.get());
+    }
 
     void forEachDataSet(const std::function<void(const DataSet&)>& visit) const override
     {

@@ -56,7 +56,7 @@ public:
         m_list.m_kernel.stateChanges().send(m_before.empty() ? StateChange_PickListCleared : StateChange_PickListGroup);
     }
     void redo() override {}
-    std::size_t memory() const override { return 0; }
+    std::size_t memory(bool /*isDone*/) const override { return 0; }
     bool isTransient() const override { return true; }
 
 private:

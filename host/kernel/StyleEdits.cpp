@@ -1,5 +1,9 @@
 #include "kernel/StyleEdits.h"
 
+#include "kernel/StyleStore.h"
+
+#include <algorithm>
+
 namespace vantrix::kernel {
 
 StyleEdits::StyleEdits(StyleScopes& scopes)
@@ -32,10 +36,15 @@ void StyleEdits::redo()
     announce();
 }
 
-std::size_t StyleEdits::memory() const
+std::size_t StyleEdits::memory(bool /*isDone*/) const
 {
     constexpr std::size_t mapNode = 48;
     return m_edits.size() * (sizeof(Edit) + sizeof(Place) + mapNode);
+}
+
+bool StyleEdits::isOfDocument() const
+{
+    return std::ranges::any_of(m_edits, [](const Edit& edit) { return edit.scopeId != StyleStore::processScope; });
 }
 
 /* Once for each entry of a scope, however many objects it was set for. */

@@ -19,7 +19,8 @@ public:
 
     void undo() override;
     void redo() override;
-    std::size_t memory() const override;
+    std::size_t memory(bool isDone) const override;
+    bool isOfDocument() const override;
 
 private:
     using Place = std::tuple<long, long, std::size_t>;

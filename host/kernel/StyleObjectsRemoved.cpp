@@ -25,7 +25,7 @@ void StyleObjectsRemoved::redo()
     m_scopes.announceObjects(m_offset);
 }
 
-std::size_t StyleObjectsRemoved::memory() const
+std::size_t StyleObjectsRemoved::memory(bool /*isDone*/) const
 {
     return sizeof(StyleValues) + m_before.memory();
 }

@@ -17,7 +17,7 @@ public:
 
     void undo() override;
     void redo() override;
-    std::size_t memory() const override;
+    std::size_t memory(bool isDone) const override;
 
 private:
     StyleScopes& m_scopes;

@@ -27,28 +27,31 @@ private:
 
 } // namespace
 
-void UndoStack::countMemory(Step& step)
+void UndoStack::countMemory(Step& step, bool isDone)
 {
     m_memory -= step.memory;
     step.memory = 0;
     for (const auto& change : step.changes) {
-        step.memory += change->memory();
+        step.memory += change->memory(isDone);
     }
     m_memory += step.memory;
 }
 
-void UndoStack::forgetRedo()
+/* Drops all but so many of the steps that are undone, or redone, first. */
+void UndoStack::dropFarthest(std::deque<Step>& steps, std::size_t kept)
 {
-    for (const Step& step : m_redo) {
-        m_memory -= step.memory;
+    while (steps.size() > kept) {
+        m_memory -= steps.front().memory;
+        steps.pop_front();
+        ++m_revision;
     }
-    m_redo.clear();
 }
 
 void UndoStack::beginStep()
 {
     if (!m_current) {
         m_current = std::make_unique<Step>();
+        m_mark = 0;
     }
 }
 
@@ -62,21 +65,29 @@ void UndoStack::endStep()
     if (step->changes.empty()) {
         return;
     }
-    forgetRedo();
-    step->state = ++m_lastState;
-    countMemory(*step);
+    dropFarthest(m_redo, 0);
+    const bool isOfDocument = std::ranges::any_of(step->changes, [](const auto& each) { return each->isOfDocument(); });
+    step->state = isOfDocument ? ++m_lastState : state();
+    countMemory(*step, true);
     m_undo.push_back(std::move(*step));
     ++m_revision;
     trim();
 }
 
-void UndoStack::rollBackStep()
+std::size_t UndoStack::mark()
+{
+    m_mark = m_current ? m_current->changes.size() : 0;
+    return m_mark;
+}
+
+void UndoStack::rollBackStep(std::size_t mark)
 {
     if (!m_current || m_replaying) {
         return;
     }
+    m_mark = std::min(m_mark, mark);
     const FlagScope replaying(m_replaying);
-    while (!m_current->changes.empty()) {
+    while (m_current->changes.size() > mark) {
         const std::unique_ptr<UndoableChange> change = std::move(m_current->changes.back());
         m_current->changes.pop_back();
         change->undo();
@@ -106,7 +117,7 @@ void UndoStack::record(std::unique_ptr<UndoableChange> change)
 
 UndoableChange* UndoStack::lastOfStep() const
 {
-    return m_current && !m_current->changes.empty() && !m_replaying ? m_current->changes.back().get() : nullptr;
+    return m_current && m_current->changes.size() > m_mark && !m_replaying ? m_current->changes.back().get() : nullptr;
 }
 
 std::string UndoStack::undoName() const
@@ -149,6 +160,8 @@ bool UndoStack::replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo
             }
         }
     }
+    countMemory(to.back(), !isUndo);
+    trim();
     ++m_revision;
     m_changes.send(StateChange_HistoryStep);
     return true;
@@ -175,6 +188,7 @@ void UndoStack::clear()
     m_memory = 0;
     if (m_current) {
         m_current->changes.clear();
+        m_mark = 0;
     }
     m_oldestState = ++m_lastState;
     ++m_revision;
@@ -192,14 +206,31 @@ void UndoStack::trim()
         return;
     }
     // What a step keeps becomes less when variables leave the memory.
-    std::ranges::for_each(m_undo, [this](Step& step) { countMemory(step); });
-    std::ranges::for_each(m_redo, [this](Step& step) { countMemory(step); });
-    while (m_memory > m_memoryBound && !m_undo.empty()) {
-        m_memory -= m_undo.front().memory;
-        m_oldestState = m_undo.front().state;
-        m_undo.pop_front();
-        ++m_revision;
+    std::ranges::for_each(m_undo, [this](Step& step) { countMemory(step, true); });
+    std::ranges::for_each(m_redo, [this](Step& step) { countMemory(step, false); });
+    std::size_t keptMemory = 0;
+    const auto keepNext = [&](const std::deque<Step>& steps, std::size_t& kept) {
+        const Step* next = kept < steps.size() ? &steps[steps.size() - 1 - kept] : nullptr;
+        if (!next || keptMemory + next->memory > m_memoryBound) {
+            return false;
+        }
+        keptMemory += next->memory;
+        ++kept;
+        return true;
+    };
+    std::size_t done = 0;
+    std::size_t undone = 0;
+    bool fitsDone = true;
+    bool fitsUndone = true;
+    while (fitsDone || fitsUndone) {
+        fitsDone = fitsDone && keepNext(m_undo, done);
+        fitsUndone = fitsUndone && keepNext(m_redo, undone);
     }
+    if (done < m_undo.size()) {
+        m_oldestState = m_undo[m_undo.size() - 1 - done].state;
+    }
+    dropFarthest(m_undo, done);
+    dropFarthest(m_redo, undone);
 }
 
 } // namespace vantrix::kernel

@@ -21,8 +21,9 @@ public:
     virtual void undo() = 0;
     virtual void redo() = 0;
 
-    /* Bytes that only this change keeps in memory. */
-    virtual std::size_t memory() const = 0;
+    /* Bytes that only this change keeps in memory: while it is done, of what was before it; while it is undone, of what
+     * it made. */
+    virtual std::size_t memory(bool isDone) const = 0;
 
     /* Calls `visit` for each data set that the change keeps. */
     virtual void forEachDataSet(const std::function<void(const DataSet&)>& /*visit*/) const {}
@@ -30,13 +31,17 @@ public:
     /* Whether the change is taken back with a step that fails, but is no part of a step that is done: what is active or
      * picked. */
     virtual bool isTransient() const { return false; }
+
+    /* Whether it changes what layouts hold, and not a setting of the program alone. */
+    virtual bool isOfDocument() const { return true; }
 };
 
 class StateChanges;
 
 /*
  * Steps that can be undone and redone. Changes recorded between beginStep() and endStep() are one step; a step without
- * changes leaves no trace. The oldest steps are dropped when all together keep more than the memory bound.
+ * changes leaves no trace. When all together keep more than the memory bound, those nearest to the present that fit in
+ * it stay.
  */
 class UndoStack
 {
@@ -48,8 +53,12 @@ public:
     void beginStep();
     void endStep();
 
-    /* Undoes the changes recorded in the step under way so far, last one first; the step goes on, empty. */
-    void rollBackStep();
+    /* A place in the step under way to roll back to; what is recorded from now on is merged with nothing before. */
+    std::size_t mark();
+
+    /* Undoes the changes recorded in the step under way since the mark, without one all of them, last one first; the
+     * step goes on. */
+    void rollBackStep(std::size_t mark = 0);
 
     bool isInStep() const { return m_current != nullptr; }
 
@@ -80,7 +89,8 @@ public:
 
     void clear();
 
-    /* A number of the present state: the same again after undo and redo back to it, another one for every other. */
+    /* A number of what layouts hold at present: the same again after undo and redo back to it, another one for every
+     * other state. */
     unsigned long state() const { return m_undo.empty() ? m_oldestState : m_undo.back().state; }
     void setMemoryBound(std::size_t bytes);
 
@@ -96,8 +106,8 @@ private:
         std::size_t memory = 0; /* what its changes kept when it was counted last */
     };
 
-    void countMemory(Step& step);
-    void forgetRedo();
+    void countMemory(Step& step, bool isDone);
+    void dropFarthest(std::deque<Step>& steps, std::size_t kept);
     void trim();
     bool replay(std::deque<Step>& from, std::deque<Step>& to, bool isUndo);
 
@@ -111,6 +121,7 @@ private:
     unsigned long m_revision = 0;
     unsigned long m_lastState = 1;
     unsigned long m_oldestState = 1; /* before the oldest step */
+    std::size_t m_mark = 0;          /* of the step under way; see mark() */
     bool m_replaying = false;        /* changes made by an undo are not recorded again */
 };
 

@@ -65,6 +65,16 @@ TEST_F(LayoutTest, KnowsWhetherItIsModified)
     set("FrameLayout/Width", 6.5);
     VtxUtilUndo();
     EXPECT_TRUE(layout.isModified()) << "the saved state cannot be reached any more";
+    layout.save(path("a.vxlay"));
+    set("Interface/ShowToolTips", 0L);
+    EXPECT_FALSE(layout.isModified()) << "a setting of the program is none of the layout";
+    set("FrameLayout/Width", 7.5);
+    EXPECT_TRUE(layout.isModified());
+    VtxUtilUndo();
+    EXPECT_FALSE(layout.isModified());
+    VtxUtilUndo();
+    EXPECT_EQ(value("Interface/ShowToolTips"), StyleData(1L)) << "it is a step of undo all the same";
+    EXPECT_FALSE(layout.isModified());
 }
 
 TEST_F(LayoutTest, KeepsAndReportsWhatItDoesNotKnow)

@@ -6,29 +6,34 @@ namespace vantrix::kernel {
 
 namespace {
 
-/* Writes what is done to it into a log. */
+/* Writes what is done to it into a log, and keeps so many bytes while it is done or undone. */
 class LoggedChange : public UndoableChange
 {
 public:
-    LoggedChange(std::string& log, char name, std::size_t bytes = 0)
+    LoggedChange(std::string& log, char name, std::size_t doneBytes = 0, std::size_t undoneBytes = 0)
         : m_log(log)
         , m_name(name)
-        , m_bytes(bytes)
+        , m_doneBytes(doneBytes)
+        , m_undoneBytes(undoneBytes)
     {}
     void undo() override { m_log += std::string("-") + m_name; }
     void redo() override { m_log += std::string("+") + m_name; }
-    std::size_t memory() const override { return m_bytes; }
+    std::size_t memory(bool isDone) const override { return isDone ? m_doneBytes : m_undoneBytes; }
 
 private:
     std::string& m_log;
     char m_name;
-    std::size_t m_bytes;
+    std::size_t m_doneBytes;
+    std::size_t m_undoneBytes;
 };
 
 class UndoStackTest : public testing::Test
 {
 protected:
-    void record(char name, std::size_t bytes = 0) { m_undo.record(std::make_unique<LoggedChange>(m_log, name, bytes)); }
+    void record(char name, std::size_t doneBytes = 0, std::size_t undoneBytes = 0)
+    {
+        m_undo.record(std::make_unique<LoggedChange>(m_log, name, doneBytes, undoneBytes));
+    }
 
     std::string m_log;
     StateChanges m_changes;
@@ -74,6 +79,42 @@ TEST_F(UndoStackTest, RollingBackEmptiesTheStepThatIsUnderWay)
     EXPECT_TRUE(m_undo.isInStep());
     m_undo.endStep();
     EXPECT_FALSE(m_undo.canUndo());
+}
+
+TEST_F(UndoStackTest, RollingBackToAMarkLeavesWhatWasBefore)
+{
+    m_undo.beginStep();
+    record('a');
+    const std::size_t mark = m_undo.mark();
+    EXPECT_EQ(m_undo.lastOfStep(), nullptr) << "nothing is merged across a mark";
+    record('b');
+    record('c');
+    EXPECT_NE(m_undo.lastOfStep(), nullptr);
+    m_undo.rollBackStep(mark);
+    EXPECT_EQ(m_log, "-c-b");
+    m_undo.endStep();
+    m_undo.undo();
+    EXPECT_EQ(m_log, "-c-b-a");
+}
+
+TEST_F(UndoStackTest, WhatUndoneStepsKeepCountsAndTheFarthestGo)
+{
+    m_undo.setMemoryBound(100);
+    record('a', 0, 40);
+    record('b', 0, 80);
+    record('c', 0, 70);
+    record('d', 0, 10);
+    m_undo.undo();
+    m_undo.undo();
+    EXPECT_EQ(m_undo.undo(), true) << "80 + 70 + 10 do not fit";
+    EXPECT_TRUE(m_undo.canUndo());
+    EXPECT_TRUE(m_undo.redo());
+    EXPECT_FALSE(m_undo.canRedo()) << "the steps behind it were dropped";
+    EXPECT_EQ(m_log, "-d-c-b+b");
+    m_undo.undo();
+    m_undo.undo();
+    EXPECT_TRUE(m_undo.redo());
+    EXPECT_FALSE(m_undo.canRedo()) << "40 + 80 do not fit";
 }
 
 TEST_F(UndoStackTest, OldestStepsGoWhenTheMemoryBoundIsPassed)
@@ -128,6 +169,51 @@ TEST_F(UndoTest, SetsOfOneValueInAStepAreOneChangeAndTheLockNests)
     ASSERT_TRUE(VtxUtilRedo());
     EXPECT_EQ(value("FrameLayout/Width"), StyleData(6.0));
     EXPECT_EQ(value("FrameName"), StyleData(std::string("one")));
+}
+
+TEST_F(UndoTest, DataOfDeletedFramesAndPagesAndOfUndoneStepsCount)
+{
+    constexpr std::size_t bound = 1000000;
+    UndoStack& undo = kernel().undoStack();
+    const auto create = [] {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilCreateRectangularZone(50, 50, 50, 0, 0, 0, 1, 1, 1, FieldDataType_Double)); // 3 MB
+    };
+    const auto step = [](const std::function<bool()>& work) {
+        const LockScope lock;
+        ASSERT_TRUE(work());
+    };
+    const auto keptDataSets = [&] {
+        std::set<const DataSet*> kept;
+        undo.forEachDataSet([&](const DataSet& dataSet) { kept.insert(&dataSet); });
+        return kept.size();
+    };
+    const std::pair<std::function<bool()>, std::function<bool()>> deletions[] = {
+        {[] { return VtxUtilFrameCreate(1, 1, 2, 2); }, [] { return VtxUtilFrameDelete(VtxUtilFrameGetUniqueID()); }},
+        {[] { return VtxUtilPageCreate(); }, [] { return VtxUtilPageDelete(VtxUtilPageGetCount()); }}};
+    for (const auto& [make, remove] : deletions) {
+        kernel().reset();
+        step(make);
+        create();
+        undo.setMemoryBound(bound);
+        EXPECT_TRUE(undo.canUndo()) << "the data are in the plot";
+        step(remove);
+        EXPECT_FALSE(undo.canUndo()) << "the deleted frame alone keeps the data";
+        EXPECT_EQ(keptDataSets(), 0u);
+        undo.setMemoryBound(std::size_t{2} << 30);
+    }
+    kernel().reset();
+    step(deletions[0].first);
+    create();
+    step(deletions[0].second);
+    EXPECT_EQ(keptDataSets(), 1u) << "to be unloaded";
+    undo.setMemoryBound(100 * bound);
+    ASSERT_TRUE(undo.undo());
+    ASSERT_TRUE(undo.undo());
+    EXPECT_TRUE(undo.canRedo());
+    undo.setMemoryBound(bound);
+    EXPECT_FALSE(undo.canRedo()) << "the undone step alone keeps the data";
+    undo.setMemoryBound(std::size_t{2} << 30);
 }
 
 TEST_F(UndoTest, RollingBackTellsWhatItTookBack)

@@ -101,15 +101,15 @@ private:
     const VtxArgList& m_list;
 };
 
-/* What is traced at once can be stopped, and is then not added. */
-void trace(const Frame& frame)
+/* What is traced at once can be stopped, and is then not added: what was done since the mark is taken back. */
+void trace(const Frame& frame, std::size_t mark)
 {
     Kernel& kernel = Kernel::instance();
     const Progress progress(kernel.frontEnd(), "Tracing streamtraces");
     try {
         kernel.streamtracePaths().of(frame, progress.report());
     } catch (...) {
-        kernel.undoStack().rollBackStep();
+        kernel.undoStack().rollBackStep(mark);
         throw;
     }
 }
@@ -144,11 +144,12 @@ bool VtxUtilStreamtraceAddX(VtxArgListHandle arguments)
         boundary::nameStep("Add Streamtraces");
         const Arguments given(*arguments);
         const StreamtracePlacement placement(kernel);
+        const std::size_t before = kernel.undoStack().mark();
         kernel.streamtraces().add(*kernel.document().activeFrame(),
                                   placement.place({given.integer("StreamType"), given.integer("StreamDirection"),
                                                    given.integer("DistributionRegion"), given.integer("NumPts"),
                                                    given.place('1'), given.place('2')}));
-        trace(*activeFrame());
+        trace(*activeFrame(), before);
         return true;
     };
     return boundary::change<&VtxUtilStreamtraceAddX>(false, add, arguments);
