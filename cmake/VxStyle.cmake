@@ -1,7 +1,9 @@
 # What is written from the style descriptions, into the build folder.
 
 set(VX_STYLE_GENERATOR ${PROJECT_SOURCE_DIR}/tools/generate_style.py)
-set(VX_STYLE_ENUMERATIONS ${PROJECT_SOURCE_DIR}/host/api/VtxEnumerations.h)
+set(VX_STYLE_ENUMERATIONS
+    ${PROJECT_SOURCE_DIR}/host/api/VtxEnumerations.h ${PROJECT_SOURCE_DIR}/host/api/VtxUtilGeometry.h
+    ${PROJECT_SOURCE_DIR}/host/api/VtxUtilStreamtrace.h)
 file(GLOB VX_STYLE_DEPENDS CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/style/*.toml ${VX_STYLE_GENERATOR} ${PROJECT_SOURCE_DIR}/tools/vxstyle/*.py)
 list(APPEND VX_STYLE_DEPENDS ${VX_STYLE_ENUMERATIONS})

@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Writes what is made from the style descriptions in style/*.toml.
 
-    generate_style.py vocabulary --style DIR --enumerations FILE --output FILE.cpp
-    generate_style.py reference  --style DIR --enumerations FILE --output FILE.md
-    generate_style.py sets       --style DIR --enumerations FILE --output DIR
-    generate_style.py walk       --style DIR --enumerations FILE --output FILE.h
+    generate_style.py vocabulary --style DIR --enumerations FILE... --output FILE.cpp
+    generate_style.py reference  --style DIR --enumerations FILE... --output FILE.md
+    generate_style.py sets       --style DIR --enumerations FILE... --output DIR
+    generate_style.py walk       --style DIR --enumerations FILE... --output FILE.h
 
 A wrong description ends the program with status 1 and one line for each fault: file, node, key, what is wrong, what would
 be right. A file that would not change is left alone, so that nothing is built again for it.
@@ -37,7 +37,7 @@ def main(arguments: list[str]) -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("what", choices=sorted(WRITERS))
     parser.add_argument("--style", type=Path, required=True, help="folder of the descriptions")
-    parser.add_argument("--enumerations", type=Path, required=True, help="header with the enumerations")
+    parser.add_argument("--enumerations", type=Path, nargs="+", required=True, help="headers with the enumerations")
     parser.add_argument("--output", type=Path, required=True)
     options = parser.parse_args(arguments)
     try:

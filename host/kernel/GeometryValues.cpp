@@ -11,8 +11,8 @@ namespace {
 using GeometryMember = ObjectValues<Geometry>;
 
 constexpr std::array geometryValues{
-    GeometryMember::between<&Geometry::type>("GeomType", GeomType_Line, GeomType_Ellipse),
-    GeometryMember::between<&Geometry::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D),
+    GeometryMember::between<&Geometry::type>("GeomType", GeomType_Line, GeomType_Ellipse).of("GeomType_e"),
+    GeometryMember::between<&Geometry::coordSys>("PositionCoordSys", CoordSys_Grid, CoordSys_Grid3D).of("CoordSys_e"),
     GeometryMember::any<&Geometry::x>("XPos"),
     GeometryMember::any<&Geometry::y>("YPos"),
     GeometryMember::any<&Geometry::z>("ZPos"),
@@ -23,12 +23,15 @@ constexpr std::array geometryValues{
     GeometryMember::color<&Geometry::color>("Color"),
     GeometryMember::flag<&Geometry::isFilled>("IsFilled"),
     GeometryMember::color<&Geometry::fillColor>("FillColor"),
-    GeometryMember::between<&Geometry::linePattern>("LinePattern", LinePattern_Solid, LinePattern_DashDotDot),
+    GeometryMember::between<&Geometry::linePattern>("LinePattern", LinePattern_Solid, LinePattern_DashDotDot)
+        .of("LinePattern_e"),
     GeometryMember::positive<&Geometry::patternLength>("PatternLength"),
     GeometryMember::positive<&Geometry::lineThickness>("LineThickness"),
     GeometryMember::between<&Geometry::arrowheadAttachment>("ArrowheadAttachment", ArrowheadAttachment_None,
-                                                            ArrowheadAttachment_Both),
-    GeometryMember::between<&Geometry::arrowheadStyle>("ArrowheadStyle", ArrowheadStyle_Plain, ArrowheadStyle_Hollow),
+                                                            ArrowheadAttachment_Both)
+        .of("ArrowheadAttachment_e"),
+    GeometryMember::between<&Geometry::arrowheadStyle>("ArrowheadStyle", ArrowheadStyle_Plain, ArrowheadStyle_Hollow)
+        .of("ArrowheadStyle_e"),
     GeometryMember::positive<&Geometry::arrowheadSize>("ArrowheadSize"),
     GeometryMember::between<&Geometry::arrowheadAngle>("ArrowheadAngle", 1.0, 90.0),
     GeometryMember::any<&Geometry::macroFunctionCommand>("MacroFunctionCommand"),

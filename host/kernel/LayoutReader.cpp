@@ -41,7 +41,7 @@ void LayoutReader::read(std::istream& stream, const std::filesystem::path& folde
     std::string text;
     try {
         for (; std::getline(stream, text); ++m_line) {
-            readLine(text);
+            readLine(m_line == 1 ? std::string(withoutByteOrderMark(text)) : text);
         }
         finishDataSet();
         if (!m_hasHead) {
@@ -224,11 +224,7 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
                               command.find("Object") ? command.integer("Object") : -1,
                               command.find("Object2") ? command.integer("Object2") : -1,
                               {}};
-    const std::optional<StyleData> value = StyleActions::value(entry, command);
-    if (!value) {
-        throw DataError(stylePathText(entry) + " is " + styleTypeText(about.type) + '.');
-    }
-    stored.value = *value;
+    stored.value = StyleActions::value(entry, command);
     const DataSet* data = m_frame ? m_frame->dataSet().get() : nullptr;
     const long zones = data ? data->zoneCount() : 0;
     if (styleIndex(about, stored.offset1, stored.offset2, zones) < 0) {

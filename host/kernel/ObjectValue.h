@@ -39,6 +39,10 @@ struct ObjectValue
     ObjectData (*get)(const Object& object);
     void (*set)(Object& object, const ObjectData& value);
     ObjectValueRange range = {};
+    const char* enumeration = nullptr; /* "TextAnchor_e" */
+
+    /* The same as a value of an enumeration. */
+    constexpr ObjectValue of(const char* type) const { return {name, get, set, range, type}; }
 
     /* Sets a value of the right type within range. Throws DataError, and changes nothing, otherwise. */
     void assign(Object& object, const ObjectData& value) const

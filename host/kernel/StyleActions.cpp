@@ -2,6 +2,7 @@
 
 #include "kernel/ApplicationLock.h"
 #include "kernel/DataError.h"
+#include "kernel/Enumerators.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleCheck.h"
 #include "kernel/StylePath.h"
@@ -16,19 +17,13 @@ namespace vantrix::kernel {
 
 namespace {
 
-std::span<const StyleEnumerator> enumeratorsOf(long entry)
-{
-    const StyleEntry& about = styleDescription(entry);
-    return about.type == StyleType::Enumeration ? styleEnumeration(about.enumeration).enumerators
-                                                : std::span<const StyleEnumerator>();
-}
-
 MacroValue macroValue(long entry, const StyleData& value)
 {
     if (const long* number = std::get_if<long>(&value)) {
-        const auto names = enumeratorsOf(entry);
-        const auto name = std::ranges::find(names, *number, &StyleEnumerator::value);
-        return name != names.end() ? MacroValue(std::string(name->name)) : MacroValue(*number);
+        const StyleEntry& about = styleDescription(entry);
+        const bool isEnumeration = about.type == StyleType::Enumeration;
+        const char* name = isEnumeration ? enumeratorName(styleEnumeration(about.enumeration), *number) : nullptr;
+        return name ? MacroValue(std::string(name)) : MacroValue(*number);
     }
     if (const double* number = std::get_if<double>(&value)) {
         return *number;
@@ -103,28 +98,37 @@ MacroCommand StyleActions::command(long entry, const std::vector<long>& objects,
     return command;
 }
 
-std::optional<StyleData> StyleActions::value(long entry, const MacroCommand& command)
+StyleData StyleActions::value(long entry, const MacroCommand& command)
 {
     const MacroValue* given = command.find("Value");
     const long* number = given ? std::get_if<long>(given) : nullptr;
     const auto* text = given ? std::get_if<std::string>(given) : nullptr;
-    switch (styleDescription(entry).type) {
+    const StyleEntry& about = styleDescription(entry);
+    switch (about.type) {
+    case StyleType::Enumeration:
+        if (const auto found =
+                text ? enumeratorValue(styleEnumeration(about.enumeration), *text) : std::optional<long>()) {
+            return *found;
+        }
+        [[fallthrough]];
     case StyleType::Flag:
     case StyleType::Integer:
-        return number ? std::optional<StyleData>(*number) : std::nullopt;
-    case StyleType::Enumeration:
-        if (text) {
-            const auto names = enumeratorsOf(entry);
-            const auto name = std::ranges::find(names, *text, &StyleEnumerator::name);
-            return name != names.end() ? std::optional<StyleData>(name->value) : std::nullopt;
+        if (number) {
+            return *number;
         }
-        return number ? std::optional<StyleData>(*number) : std::nullopt;
+        break;
     case StyleType::Double:
         return command.real("Value");
     case StyleType::String:
-        return text ? std::optional<StyleData>(*text) : std::nullopt;
+        if (text) {
+            return *text;
+        }
+        break;
     }
-    return std::nullopt;
+    throw DataError(
+        stylePathText(entry) + " is " + styleTypeText(about.type) + ", not " + (given ? macroText(*given) : "empty") +
+        (about.type == StyleType::Enumeration ? ": " + enumeratorsText(styleEnumeration(about.enumeration)) : "") +
+        '.');
 }
 
 bool StyleActions::run(const MacroCommand& command)
@@ -138,13 +142,8 @@ bool StyleActions::run(const MacroCommand& command)
         const auto* many = std::get_if<std::set<long>>(object);
         objects = many ? std::vector<long>(many->begin(), many->end()) : std::vector{command.integer("Object")};
     }
-    const std::optional<StyleData> given = value(entry, command);
-    if (!given) {
-        throw DataError(stylePathText(entry) + " is " + styleTypeText(styleDescription(entry).type) + ", not " +
-                        (command.find("Value") ? macroText(*command.find("Value")) : "empty") + '.');
-    }
     const SetValueReturnCode_e code =
-        set(entry, objects, command.find("Object2") ? command.integer("Object2") : -1, *given);
+        set(entry, objects, command.find("Object2") ? command.integer("Object2") : -1, value(entry, command));
     if (code != SetValueReturnCode_Ok && code != SetValueReturnCode_Adjusted) {
         throw DataError(Kernel::instance().style().lastError());
     }

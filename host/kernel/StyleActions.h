@@ -2,7 +2,6 @@
 
 #include "kernel/StyleStore.h"
 
-#include <optional>
 #include <vector>
 
 namespace vantrix::kernel {
@@ -24,8 +23,9 @@ public:
     static MacroCommand command(long entry, const std::vector<long>& objects, long object2, const StyleData& value);
     static bool run(const MacroCommand& command);
 
-    /* The value of an argument of a macro as one of an entry; none when it is of another type. */
-    static std::optional<StyleData> value(long entry, const MacroCommand& command);
+    /* The value of an argument of a macro as one of an entry. Throws DataError, which names the enumerators of an
+     * enumeration, when it is of another type. */
+    static StyleData value(long entry, const MacroCommand& command);
 };
 
 } // namespace vantrix::kernel

@@ -1,5 +1,6 @@
 #include "kernel/StyleCheck.h"
 
+#include "kernel/Enumerators.h"
 #include "kernel/NumberText.h"
 #include "kernel/StylePath.h"
 
@@ -28,17 +29,6 @@ std::string rangeText(const StyleEntry& entry)
     return entry.unit[0] != '\0' ? text + ' ' + entry.unit : text;
 }
 
-std::string enumeratorsText(const StyleEntry& entry)
-{
-    std::string text = "it has to be one of ";
-    const char* separator = "";
-    for (const StyleEnumerator& enumerator : styleEnumeration(entry.enumeration).enumerators) {
-        text += separator + std::to_string(enumerator.value) + ' ' + enumerator.name;
-        separator = ", ";
-    }
-    return text;
-}
-
 StyleRefusal outOfRange(long entry, const std::string& value, const std::string& right)
 {
     return {SetValueReturnCode_OutOfRange, stylePathText(entry) + " cannot be " + value + ": " + right + '.'};
@@ -53,9 +43,9 @@ StyleRefusal checkInteger(long entry, const StyleEntry& about, long value)
         }
         break;
     case StyleType::Enumeration: {
-        const auto enumerators = styleEnumeration(about.enumeration).enumerators;
-        if (std::none_of(enumerators.begin(), enumerators.end(), [value](auto& one) { return one.value == value; })) {
-            return outOfRange(entry, std::to_string(value), enumeratorsText(about));
+        const StyleEnumeration& enumeration = styleEnumeration(about.enumeration);
+        if (!enumeratorName(enumeration, value)) {
+            return outOfRange(entry, std::to_string(value), enumeratorsText(enumeration));
         }
         break;
     }

@@ -90,6 +90,9 @@ inline const StyleEntry& styleDescription(long entry)
     return styleVocabulary()[static_cast<std::size_t>(entry)];
 }
 
+/* All enumerations of the interface, in alphabetic order. */
+std::span<const StyleEnumeration> interfaceEnumerations();
+
 const StyleOffset& styleOffset(int index);
 const StyleEnumeration& styleEnumeration(int index);
 

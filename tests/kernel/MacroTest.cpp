@@ -93,7 +93,7 @@ protected:
         const LockScope lock;
         for (const MacroCommand& command : parseMacroLine(line)) {
             const Command& about = *commandNamed(command.name);
-            ASSERT_TRUE(about.run(command, about)) << line << ": " << kernel().lastError();
+            ASSERT_TRUE(about.run(checked(command, about), about)) << line << ": " << kernel().lastError();
         }
     }
 
@@ -416,9 +416,10 @@ TEST_F(MacroTest, RecordsStreamtracesByTheirNumbers)
         ASSERT_TRUE(VtxUtilPickStreamtrace(2));
     }
     const std::vector<std::string> lines = recorded();
-    EXPECT_THAT(lines, ElementsAre("DataReadSample Name=flow3d",
-                                   "StreamtraceAdd StreamType=2 X1=-3.0 Y1=-1.0 Z1=2.5 X2=-3.0 Y2=1.0 Z2=2.5 NumPts=4",
-                                   "StreamtraceDeleteRange First=2 Last=3; PickStreamtrace Streamtrace=2"));
+    EXPECT_THAT(
+        lines, ElementsAre("DataReadSample Name=flow3d",
+                           "StreamtraceAdd StreamType=VolumeLine X1=-3.0 Y1=-1.0 Z1=2.5 X2=-3.0 Y2=1.0 Z2=2.5 NumPts=4",
+                           "StreamtraceDeleteRange First=2 Last=3; PickStreamtrace Streamtrace=2"));
     expectReplayed(lines);
     EXPECT_EQ(VtxUtilPickListGetStreamtrace(1), 2);
 }
@@ -479,9 +480,9 @@ TEST_F(MacroTest, RecordsAxesAndProbesHoweverTheyAreAskedFor)
         }));
     }
     const std::vector<std::string> lines = recorded();
-    EXPECT_THAT(lines, ElementsAre("ViewAxisNiceFit Axis=Y AxisNum=1; View ViewOP=2 Axis=X; "
+    EXPECT_THAT(lines, ElementsAre("ViewAxisNiceFit Axis=Y AxisNum=1; View ViewOP=AxisFit Axis=X; "
                                    "ProbeAtLineIndex I=2 J=1 K=1 LineMap=1; ProbeAtLineIndex I=2 J=1 K=1 LineMap=1; "
-                                   "MouseSetMode Mode=5"));
+                                   "MouseSetMode Mode=Probe"));
     {
         const LockScope lock;
         call(&VtxUtilProbeInstallCallbackX, [](ArgList& list) { list.appendArbParam("CallbackFunction", 0); });
@@ -490,6 +491,35 @@ TEST_F(MacroTest, RecordsAxesAndProbesHoweverTheyAreAskedFor)
     show("lines");
     ASSERT_TRUE(play(lines.front())) << kernel().lastError();
     EXPECT_EQ(VtxUtilProbeLineGetPoint(), 2);
+}
+
+TEST_F(MacroTest, EnumeratorsAreWrittenByNameAndReadByNumberToo)
+{
+    ASSERT_TRUE(VtxUtilMacroRecordStart(m_file.c_str()));
+    doLine("CreateRectangularZone IMax=2 JMax=2 KMax=1 XMin=0 YMin=0 ZMin=0 XMax=1 YMax=1 ZMax=0 DataType=1; "
+           "TextSet Text=a Anchor=4 BoxType=1; GeometrySet GeomType=3 Width=5");
+    doLine(
+        "FrameSetPlotType PlotType=5; PickAxis Axis=T AxisNumber=1 Part=2; PickLegend Legend=7; MouseSetMode Mode=2");
+    const std::vector<std::string> lines = recorded();
+    EXPECT_THAT(lines,
+                ElementsAre("CreateRectangularZone IMax=2 JMax=2 KMax=1 XMin=0.0 YMin=0.0 ZMin=0.0 XMax=1.0 "
+                            "YMax=1.0 ZMax=0.0 DataType=Float; TextSet Text=a Anchor=MiddleCenter BoxType=Filled; "
+                            "GeometrySet GeomType=Circle Width=5",
+                            "FrameSetPlotType PlotType=PolarLine; PickAxis Axis=T AxisNumber=1 Part=Title; "
+                            "PickLegend Legend=LineLegend; MouseSetMode Mode=Zoom"));
+    expectReplayed(lines);
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Zoom);
+}
+
+TEST_F(MacroTest, AFileMayBeginWithAByteOrderMark)
+{
+    ASSERT_TRUE(play("\xEF\xBB\xBFMacro Version=1\nPageCreate\n")) << kernel().lastError();
+    EXPECT_EQ(VtxUtilPageGetCount(), 2);
+    EXPECT_FALSE(play("PageCreate\n\xEF\xBB\xBFPageCreate\n")) << "only the file, not a line";
+    const std::string layout = (m_folder / "marked.vxlay").string();
+    std::ofstream(layout) << "\xEF\xBB\xBFLayout Version=1\nPage\nPage\nPage\n";
+    ASSERT_TRUE(VtxUtilLayoutOpen(layout.c_str())) << kernel().lastError();
+    EXPECT_EQ(VtxUtilPageGetCount(), 3);
 }
 
 TEST_F(MacroTest, RefusesToRecordWhereItCannot)
@@ -524,6 +554,11 @@ TEST_F(MacroTest, AFileThatIsNotUnderstoodDoesNothing)
         {"PageCreate\nFrameCreate Left=1 Depth=2\n", "line 2: FrameCreate has no \"Depth\""},
         {"PageCreate\n\n\"x\"\n", "line 3: column 1"},
         {"PageCreate; Undo\n", "line 1: \"Undo\" has to stand alone"},
+        {"PageCreate\nTextSet Words=a\n", "line 2: TextSet has no \"Words\"; it has TextID, Text, PositionCoordSys"},
+        {"PageCreate\nView ViewOp=Fit\n", "line 2: View has no \"ViewOp\"; it has ViewOP"},
+        {"PageCreate\nProbeAtFieldIndex I=1 Zones=1\n", "line 2: ProbeAtFieldIndex has no \"Zones\""},
+        {"PageCreate\nMouseSetMode Mode=Fly\n", "\"Mode\" cannot be Fly: it has to be one of 1 Selector, 2 Zoom"},
+        {"PageCreate\nGeometrySet GeomType=Star\n", "\"GeomType\" cannot be Star: it has to be one of 0 Line"},
         {"Macro Version=99\nPageCreate\n", "line 1: the macro has version 99"},
     };
     for (const auto& [text, cause] : bad) {
@@ -545,6 +580,7 @@ TEST_F(MacroTest, StopsAtTheLineThatFailsWithNothingHalfDone)
         {"StyleSet Path=\"No/Such\" Value=1", "No/Such"},
         {"StyleSet Path=\"FrameLayout/Width\" Value=-1", "FrameLayout"},
         {"StyleSet Path=\"FrameLayout/ShowBorder\" Value=\"yes\"", "ShowBorder"},
+        {"StyleSet Path=PlotType Value=Cubist", "not Cubist: it has to be one of 1 Cartesian3D"},
         {"DataSetDeleteZone Zones={1}", "no data set"},
         {"TextSetHeight TextID=1 Height=2", "no text 1 in the frame, which has 0"},
         {"TextDelete TextID=\"1 of page 2\"", "\"TextID\" has to be a position"},

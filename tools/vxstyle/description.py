@@ -386,7 +386,7 @@ class _Loader:
         self.style.entries.append(Entry(full, member, place.scope, found, place.file))
 
 
-def load(folder: Path, enumerations: Path) -> Style:
+def load(folder: Path, enumerations: list[Path]) -> Style:
     """Reads all descriptions of a folder; raises DescriptionError with every fault found."""
     loader = _Loader(read_enumerations(enumerations))
     files = sorted(folder.glob("*.toml"))

@@ -17,8 +17,9 @@ class Enumeration:
         return self.name.removesuffix("_e") + "_"
 
 
-def read_enumerations(header: Path) -> dict[str, Enumeration]:
-    text = re.sub(r"/\*.*?\*/", "", header.read_text(encoding="utf-8"), flags=re.DOTALL)
+def read_enumerations(headers: list[Path]) -> dict[str, Enumeration]:
+    texts = (header.read_text(encoding="utf-8") for header in headers)
+    text = re.sub(r"/\*.*?\*/", "", "\n".join(texts), flags=re.DOTALL)
     result = {}
     for body, name in re.findall(r"typedef\s+enum\s*\{(.*?)\}\s*(\w+)\s*;", text, flags=re.DOTALL):
         prefix = name.removesuffix("_e") + "_"

@@ -63,11 +63,11 @@ def write_entry(style: Style, entry: Entry, names: dict[str, int], offsets: dict
 
 def write(style: Style) -> str:
     names = sorted({name for entry in style.entries for name in entry.path})
-    used = sorted({entry.member.type for entry in style.entries} & style.enumerations.keys())
     offsets = list(style.offsets.values())
     numbers = {name: i for i, name in enumerate(names)}
     offset_numbers = {offset.name: i + 1 for i, offset in enumerate(offsets)}
-    enum_numbers = {name: i for i, name in enumerate(used)}
+    enums = sorted(style.enumerations)
+    enum_numbers = {name: i for i, name in enumerate(enums)}
     lines = [
         "/* Written from style/ by tools/generate_style.py. Do not edit. */",
         '#include "kernel/StyleVocabulary.h"',
@@ -85,13 +85,13 @@ def write(style: Style) -> str:
         "};",
         "",
     ]
-    for name in used:
+    for name in enums:
         enumeration = style.enumerations[name]
         lines.append(f"constexpr StyleEnumerator {name}numerators[] = {{")
         lines += [f"    {{{quoted(key)}, {value}}}," for key, value in enumeration.enumerators.items()]
         lines += ["};", ""]
     lines.append("constexpr StyleEnumeration enumerations[] = {")
-    lines += [f"    {{{quoted(name)}, {name}numerators}}," for name in used] or ['    {"", {}},']
+    lines += [f"    {{{quoted(name)}, {name}numerators}}," for name in enums] or ['    {"", {}},']
     lines += ["};", "", "constexpr StyleOffset offsets[] = {", '    {StyleOffset::Kind::None, 0, ""},']
     for offset in offsets:
         kind = "Numbered" if offset.limit else "Zone"
@@ -116,6 +116,11 @@ def write(style: Style) -> str:
         "const StyleOffset& styleOffset(int index)",
         "{",
         "    return offsets[index];",
+        "}",
+        "",
+        "std::span<const StyleEnumeration> interfaceEnumerations()",
+        "{",
+        "    return enumerations;",
         "}",
         "",
         "const StyleEnumeration& styleEnumeration(int index)",

@@ -109,10 +109,10 @@ MacroCommand describe(const Command& about, const Arguments&... arguments)
     [[maybe_unused]] std::size_t next = 0;
     [[maybe_unused]] const auto describeOne = [&](const auto& value) {
         if constexpr (std::is_same_v<std::decay_t<decltype(value)>, VtxArgListHandle>) {
-            describeList(command, *value);
+            describeList(command, about, *value);
         } else {
-            const char* name = about.parameters.at(next++);
-            command.add(name, toMacro(name, value));
+            const Parameter& parameter = about.parameters.at(next++);
+            command.add(std::string(parameter.name), toMacro(parameter, value));
         }
     };
     (describeOne(arguments), ...);

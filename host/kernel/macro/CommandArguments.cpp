@@ -1,5 +1,9 @@
 #include "kernel/macro/CommandArguments.h"
 
+#include "kernel/Enumerators.h"
+
+#include <algorithm>
+
 namespace vantrix::kernel {
 
 namespace {
@@ -29,12 +33,21 @@ VtxArgList::Value listValue(const MacroCommand& command, const std::string& name
 
 } // namespace
 
-void describeList(MacroCommand& command, const VtxArgList& list)
+MacroValue enumeratorToMacro(const Parameter& parameter, long number)
+{
+    const char* name =
+        parameter.enumeration ? enumeratorName(enumerationNamed(parameter.enumeration), number) : nullptr;
+    return name ? MacroValue(std::string(name)) : MacroValue(number);
+}
+
+void describeList(MacroCommand& command, const Command& about, const VtxArgList& list)
 {
     for (const auto& [name, value] : list.arguments) {
+        const auto known = std::ranges::find(about.parameters, std::string_view(name), &Parameter::name);
+        const Parameter parameter = known != about.parameters.end() ? *known : Parameter(name, nullptr);
         if (const long* number = std::get_if<long>(&value)) {
-            command.add(name,
-                        name == axisArgument ? toMacro(name, static_cast<char>(*number)) : toMacro(name, *number));
+            command.add(name, name == axisArgument ? toMacro(parameter, static_cast<char>(*number))
+                                                   : toMacro(parameter, *number));
         } else if (const double* real = std::get_if<double>(&value)) {
             command.add(name, *real);
         } else if (const auto* text = std::get_if<std::string>(&value)) {

@@ -2,6 +2,7 @@
 
 #include "kernel/DataError.h"
 #include "kernel/interface/ArgumentList.h"
+#include "kernel/macro/Commands.h"
 #include "kernel/macro/Identifiers.h"
 #include "kernel/macro/MacroCommand.h"
 
@@ -11,8 +12,11 @@
 /* How arguments of the interface's functions are written in a macro and read from it, by their types. */
 namespace vantrix::kernel {
 
+/* By name where it is an enumerator, else the number. */
+MacroValue enumeratorToMacro(const Parameter& parameter, long number);
+
 template<class Type>
-MacroValue toMacro(std::string_view name, Type value)
+MacroValue toMacro(const Parameter& parameter, Type value)
 {
     if constexpr (std::is_same_v<Type, double>) {
         return value;
@@ -24,7 +28,8 @@ MacroValue toMacro(std::string_view name, Type value)
         return value ? value->members : std::set<long>();
     } else {
         const long number = static_cast<long>(value);
-        return isIdentifier(name) ? placeOfIdentifier(name, number) : MacroValue(number);
+        return isIdentifier(parameter.name) ? placeOfIdentifier(parameter.name, number)
+                                            : enumeratorToMacro(parameter, number);
     }
 }
 
@@ -109,7 +114,7 @@ inline constexpr std::string_view axisArgument = "Axis";
 
 /* The named values of an argument list, each an argument of the command. Pointers, which receive something, are left
  * out. */
-void describeList(MacroCommand& command, const VtxArgList& list);
+void describeList(MacroCommand& command, const Command& about, const VtxArgList& list);
 
 /* An argument list for the function that is the command. */
 VtxArgList listFromMacro(const MacroCommand& command);

@@ -1,9 +1,13 @@
 #include "kernel/macro/Commands.h"
 
 #include "api/VtxUtil.h"
+#include "kernel/DataError.h"
 #include "kernel/Document.h"
+#include "kernel/Enumerators.h"
+#include "kernel/GeometryValues.h"
 #include "kernel/Kernel.h"
 #include "kernel/StyleActions.h"
+#include "kernel/TextValues.h"
 #include "kernel/interface/Boundary.h"
 #include "kernel/macro/CommandArguments.h"
 
@@ -15,7 +19,7 @@ namespace vantrix::kernel {
 
 namespace {
 
-using Parameters = std::vector<const char*>;
+using Parameters = std::vector<Parameter>;
 
 template<auto Function>
 struct Caller;
@@ -25,7 +29,6 @@ struct Caller<Function>
 {
     static bool run(const MacroCommand& command, const Command& about)
     {
-        checkArguments(command, about);
         return call(command, about.parameters, std::index_sequence_for<Arguments...>());
     }
 
@@ -33,7 +36,8 @@ struct Caller<Function>
     static bool call([[maybe_unused]] const MacroCommand& command, [[maybe_unused]] const Parameters& names,
                      std::index_sequence<Index...> /*unused*/)
     {
-        [[maybe_unused]] std::tuple<FromMacro<Arguments>...> arguments{FromMacro<Arguments>(command, names[Index])...};
+        [[maybe_unused]] std::tuple<FromMacro<Arguments>...> arguments{
+            FromMacro<Arguments>(command, names[Index].name)...};
         return boundary::isSuccess(Function(std::get<Index>(arguments).get()...));
     }
 };
@@ -60,22 +64,29 @@ bool runWithList(const MacroCommand& command, const Command& /*about*/)
 }
 
 template<auto Function>
-Command listCommand(const char* name)
+Command listCommand(const char* name, Parameters parameters)
 {
-    Command about{name, reinterpret_cast<const void*>(Function), {}, &runWithList<Function>};
-    about.takesList = true;
-    return about;
+    return {name, reinterpret_cast<const void*>(Function), std::move(parameters), &runWithList<Function>};
 }
 
-bool setStyle(const MacroCommand& command, const Command& about)
+/* The values of an object of a frame, and which one it is. */
+template<class Object>
+Parameters valuesOf()
 {
-    checkArguments(command, about);
+    Parameters parameters{ObjectTraits<Object>::handleArgument};
+    for (const ObjectValue<Object>& value : ObjectTraits<Object>::values()) {
+        parameters.push_back({value.name, value.enumeration});
+    }
+    return parameters;
+}
+
+bool setStyle(const MacroCommand& command, const Command& /*about*/)
+{
     return StyleActions::run(command);
 }
 
-bool readData(const MacroCommand& command, const Command& about)
+bool readData(const MacroCommand& command, const Command& /*about*/)
 {
-    checkArguments(command, about);
     const MacroValue* value = command.find("Files");
     const auto* files = value ? std::get_if<std::vector<std::string>>(value) : nullptr;
     if (!files) {
@@ -108,9 +119,11 @@ const std::vector<Command>& commands()
         command<&VtxUtilDataSetDeleteZone>("DataSetDeleteZone", {"Zones"}),
         command<&VtxUtilDataValueLoad>("DataValueLoad", {"Zone", "Variables"}),
         command<&VtxUtilCreateCircularZone>(
-            "CreateCircularZone", {"IMax", "JMax", "KMax", "XOrigin", "YOrigin", "Radius", "ZMin", "ZMax", "DataType"}),
-        command<&VtxUtilCreateRectangularZone>("CreateRectangularZone", {"IMax", "JMax", "KMax", "XMin", "YMin", "ZMin",
-                                                                         "XMax", "YMax", "ZMax", "DataType"}),
+            "CreateCircularZone",
+            {"IMax", "JMax", "KMax", "XOrigin", "YOrigin", "Radius", "ZMin", "ZMax", {"DataType", "FieldDataType_e"}}),
+        command<&VtxUtilCreateRectangularZone>(
+            "CreateRectangularZone",
+            {"IMax", "JMax", "KMax", "XMin", "YMin", "ZMin", "XMax", "YMax", "ZMax", {"DataType", "FieldDataType_e"}}),
         command<&VtxUtilFrameCreate>("FrameCreate", {"Left", "Top", "Width", "Height"}),
         command<&VtxUtilFrameAttachDataSet>("FrameAttachDataSet", {"Number"}),
         command<&VtxUtilFrameCreateOnSameData>("FrameCreateOnSameData"),
@@ -119,32 +132,49 @@ const std::vector<Command>& commands()
         command<&VtxUtilFrameActivate>("FrameActivate", {frameArgument}),
         command<&VtxUtilFramePop>("FramePop", {frameArgument}),
         command<&VtxUtilFramePush>("FramePush", {frameArgument}),
-        command<&VtxUtilFrameSetPlotType>("FrameSetPlotType", {"PlotType"}),
+        command<&VtxUtilFrameSetPlotType>("FrameSetPlotType", {{"PlotType", "PlotType_e"}}),
         command<&VtxUtilFrameSetBackgroundColor>("FrameSetBackgroundColor", {"Color"}),
         command<&VtxUtilPageCreate>("PageCreate"),
         command<&VtxUtilPageDelete>("PageDelete", {"Page"}),
         command<&VtxUtilPageActivate>("PageActivate", {"Page"}),
         command<&VtxUtilLineMapCreate>("LineMapCreate", {"Zone", "XVariable", "YVariable"}),
         command<&VtxUtilLineMapDelete>("LineMapDelete", {"LineMaps"}),
-        listCommand<&VtxUtilTextSetX>("TextSet"),
+        listCommand<&VtxUtilTextSetX>("TextSet", valuesOf<Text>()),
         command<&VtxUtilTextSetHeight>("TextSetHeight", {textArgument, "Height"}),
         command<&VtxUtilTextDelete>("TextDelete", {textArgument}),
-        listCommand<&VtxUtilGeometrySetX>("GeometrySet"),
+        listCommand<&VtxUtilGeometrySetX>("GeometrySet", valuesOf<Geometry>()),
         command<&VtxUtilGeometryDelete>("GeometryDelete", {geometryArgument}),
-        listCommand<&VtxUtilStreamtraceAddX>("StreamtraceAdd"),
+        listCommand<&VtxUtilStreamtraceAddX>("StreamtraceAdd", {"X1",
+                                                                "Y1",
+                                                                "Z1",
+                                                                "X2",
+                                                                "Y2",
+                                                                "Z2",
+                                                                "Zone",
+                                                                "I1",
+                                                                "J1",
+                                                                "K1",
+                                                                "I2",
+                                                                "J2",
+                                                                "K2",
+                                                                "NumPts",
+                                                                {"StreamType", "Streamtrace_e"},
+                                                                {"StreamDirection", "StreamDir_e"},
+                                                                {"DistributionRegion", "DistributionRegion_e"}}),
         command<&VtxUtilStreamtraceDeleteRange>("StreamtraceDeleteRange", {"First", "Last"}),
         command<&VtxUtilStreamtraceDeleteAll>("StreamtraceDeleteAll"),
         command<&VtxUtilViewAxisFit>("ViewAxisFit", {"Axis", "AxisNum"}),
         command<&VtxUtilViewAxisNiceFit>("ViewAxisNiceFit", {"Axis", "AxisNum"}),
         command<&VtxUtilViewAxisFitToEntireCircle>("ViewAxisFitToEntireCircle", {"Axis", "AxisNum"}),
         command<&VtxUtilViewAxisMakeCurValsNice>("ViewAxisMakeCurValsNice", {"Axis", "AxisNum"}),
-        listCommand<&VtxUtilViewX>("View"),
+        listCommand<&VtxUtilViewX>("View", {{"ViewOP", "ViewOp_e"}, "Axis", "AxisNum", "ConsiderBlanking"}),
         command<&VtxUtilReset3DScaleFactors>("Reset3DScaleFactors"),
-        listCommand<&VtxUtilProbeAtFieldPositionX>("ProbeAtFieldPosition"),
-        listCommand<&VtxUtilProbeAtFieldIndexX>("ProbeAtFieldIndex"),
-        listCommand<&VtxUtilProbeAtLinePositionX>("ProbeAtLinePosition"),
-        listCommand<&VtxUtilProbeAtLineIndexX>("ProbeAtLineIndex"),
-        command<&VtxUtilMouseSetMode>("MouseSetMode", {"Mode"}),
+        listCommand<&VtxUtilProbeAtFieldPositionX>("ProbeAtFieldPosition",
+                                                   {"X", "Y", "Z", "SearchVolume", "NearestPoint"}),
+        listCommand<&VtxUtilProbeAtFieldIndexX>("ProbeAtFieldIndex", {"I", "J", "K", "Zone"}),
+        listCommand<&VtxUtilProbeAtLinePositionX>("ProbeAtLinePosition", {"Axis", "AxisNum", "Position"}),
+        listCommand<&VtxUtilProbeAtLineIndexX>("ProbeAtLineIndex", {"I", "J", "K", "LineMap"}),
+        command<&VtxUtilMouseSetMode>("MouseSetMode", {{"Mode", "MouseMode_e"}}),
         command<&VtxUtilPickClear>("PickClear"),
         command<&VtxUtilPickFrame>("PickFrame", {frameArgument}),
         command<&VtxUtilPickZone>("PickZone", {"Zone"}),
@@ -152,8 +182,8 @@ const std::vector<Command>& commands()
         command<&VtxUtilPickGeometry>("PickGeometry", {geometryArgument}),
         command<&VtxUtilPickLineMap>("PickLineMap", {"LineMap"}),
         command<&VtxUtilPickStreamtrace>("PickStreamtrace", {"Streamtrace"}),
-        command<&VtxUtilPickAxis>("PickAxis", {"Axis", "AxisNumber", "Part"}),
-        command<&VtxUtilPickLegend>("PickLegend", {"Legend"}),
+        command<&VtxUtilPickAxis>("PickAxis", {"Axis", "AxisNumber", {"Part", "AxisSubObject_e"}}),
+        command<&VtxUtilPickLegend>("PickLegend", {{"Legend", "PickObject_e"}}),
         command<&VtxUtilPickAtPosition>("PickAtPosition", {"X", "Y", "Collect"}),
         command<&VtxUtilPickDelete>("PickDelete"),
         stepOfItsOwn<&VtxUtilUndo>("Undo"),
@@ -197,18 +227,30 @@ bool replaces(const MacroCommand& later, const MacroCommand& earlier)
            std::ranges::equal(later.arguments, earlier.arguments, isSame);
 }
 
-void checkArguments(const MacroCommand& command, const Command& about)
+MacroCommand checked(MacroCommand command, const Command& about)
 {
-    for (const auto& [name, value] : command.arguments) {
-        if (std::ranges::find(about.parameters, std::string_view(name)) == about.parameters.end()) {
+    for (auto& [name, value] : command.arguments) {
+        const auto parameter = std::ranges::find(about.parameters, std::string_view(name), &Parameter::name);
+        if (parameter == about.parameters.end()) {
             std::string known;
-            for (const char* parameter : about.parameters) {
-                known += (known.empty() ? "" : ", ") + std::string(parameter);
+            for (const Parameter& each : about.parameters) {
+                known += (known.empty() ? "" : ", ") + std::string(each.name);
             }
             throw DataError(command.name + " has no \"" + name + "\"; it has " + (known.empty() ? "nothing" : known) +
                             '.');
         }
+        const auto* text = std::get_if<std::string>(&value);
+        if (text && parameter->enumeration) {
+            const StyleEnumeration& enumeration = enumerationNamed(parameter->enumeration);
+            const std::optional<long> number = enumeratorValue(enumeration, *text);
+            if (!number) {
+                throw DataError(command.name + ": \"" + name + "\" cannot be " + *text + ": " +
+                                enumeratorsText(enumeration) + '.');
+            }
+            value = *number;
+        }
     }
+    return command;
 }
 
 } // namespace vantrix::kernel

@@ -6,6 +6,23 @@ namespace vantrix::kernel {
 
 inline constexpr long macroVersion = 1;
 
+/* An argument of a command. */
+struct Parameter
+{
+    Parameter(const char* parameter)
+        : name(parameter)
+    {}
+    Parameter(std::string_view parameter, const char* type)
+        : name(parameter)
+        , enumeration(type)
+    {}
+
+    std::string_view name;
+
+    /* The type that its numbers are of ("PlotType_e"), which macros write by name; null for other arguments. */
+    const char* enumeration = nullptr;
+};
+
 /*
  * The commands of macros: a name, what its arguments are called, and the function of the interface that does it. This
  * table, in Commands.cpp, is the one place that tells how a call becomes a command and a command a call; a function
@@ -17,14 +34,11 @@ struct Command
 {
     const char* name;
     const void* function;
-    std::vector<const char*> parameters;
-    bool (*run)(const MacroCommand& command, const Command& about);
+    std::vector<Parameter> parameters;                              /* of a function in its order */
+    bool (*run)(const MacroCommand& command, const Command& about); /* the command being checked() */
 
     /* The way undo goes: not under the lock, and alone on its line. */
     bool isStepOfItsOwn = false;
-
-    /* Takes an argument list, whose names the function itself checks. */
-    bool takesList = false;
 };
 
 /* All commands that there are. */
@@ -41,7 +55,8 @@ const Command& commandOf(const void* function);
 bool isValue(const MacroCommand& command);
 bool replaces(const MacroCommand& later, const MacroCommand& earlier);
 
-/* Throws DataError, naming the argument and those that there are, for one that the command does not have. */
-void checkArguments(const MacroCommand& command, const Command& about);
+/* The command with numbers in place of enumerators. Throws DataError, naming what there is, for an argument that it
+ * does not have and a name that is no enumerator. */
+MacroCommand checked(MacroCommand command, const Command& about);
 
 } // namespace vantrix::kernel

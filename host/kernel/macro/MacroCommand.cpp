@@ -370,6 +370,12 @@ std::string macroText(const std::vector<MacroCommand>& step)
     return text;
 }
 
+std::string_view withoutByteOrderMark(std::string_view line)
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    return line.starts_with(mark) ? line.substr(mark.size()) : line;
+}
+
 std::vector<MacroCommand> parseMacroLine(std::string_view line)
 {
     return LineParser(line).commands();

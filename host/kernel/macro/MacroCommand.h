@@ -49,6 +49,9 @@ std::string macroText(const MacroValue& value);
 std::string macroText(const MacroCommand& command);
 std::string macroText(const std::vector<MacroCommand>& step);
 
+/* The first line of a file without the mark that some editors put before UTF-8 text. */
+std::string_view withoutByteOrderMark(std::string_view line);
+
 /* The commands of a line; none for one that is empty or a comment. Throws DataError that names the column, from 1, and
  * what was expected there. */
 std::vector<MacroCommand> parseMacroLine(std::string_view line);

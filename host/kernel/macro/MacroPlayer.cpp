@@ -10,6 +10,7 @@
 
 #include <fstream>
 #include <sstream>
+#include <utility>
 
 namespace vantrix::kernel {
 
@@ -17,9 +18,10 @@ namespace {
 
 const char* const taskName = "Playing macro";
 
-void checkLine(const std::vector<MacroCommand>& commands, long number)
+/* The commands of a line, checked(). */
+std::vector<MacroCommand> checkedLine(std::vector<MacroCommand> commands, long number)
 {
-    for (const MacroCommand& command : commands) {
+    for (MacroCommand& command : commands) {
         if (command.name == "Macro") {
             if (number != 1 || commands.size() != 1) {
                 throw DataError("\"Macro\" with the version stands alone on the first line.");
@@ -37,10 +39,9 @@ void checkLine(const std::vector<MacroCommand>& commands, long number)
         if (about->isStepOfItsOwn && commands.size() > 1) {
             throw DataError("\"" + command.name + "\" has to stand alone on its line.");
         }
-        if (!about->takesList) {
-            checkArguments(command, *about);
-        }
+        command = checked(std::move(command), *about);
     }
+    return commands;
 }
 
 DataError located(const std::string& name, long line, const std::string& cause)
@@ -56,8 +57,7 @@ std::vector<MacroPlayer::Line> MacroPlayer::read(std::istream& stream, const std
     std::string text;
     for (long number = 1; std::getline(stream, text); ++number) {
         try {
-            Line line{number, parseMacroLine(text)};
-            checkLine(line.commands, number);
+            Line line{number, checkedLine(parseMacroLine(number == 1 ? withoutByteOrderMark(text) : text), number)};
             if (!line.commands.empty() && line.commands.front().name != "Macro") {
                 lines.push_back(std::move(line));
             }

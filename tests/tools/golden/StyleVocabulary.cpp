@@ -27,8 +27,14 @@ constexpr StyleEnumerator LinePattern_enumerators[] = {
     {"Dashed", 1},
 };
 
+constexpr StyleEnumerator StateChange_enumerators[] = {
+    {"Style", 7},
+    {"View", 20},
+};
+
 constexpr StyleEnumeration enumerations[] = {
     {"LinePattern_e", LinePattern_enumerators},
+    {"StateChange_e", StateChange_enumerators},
 };
 
 constexpr StyleOffset offsets[] = {
@@ -64,6 +70,11 @@ std::span<const StyleEntry> styleVocabulary()
 const StyleOffset& styleOffset(int index)
 {
     return offsets[index];
+}
+
+std::span<const StyleEnumeration> interfaceEnumerations()
+{
+    return enumerations;
 }
 
 const StyleEnumeration& styleEnumeration(int index)
