@@ -4,6 +4,8 @@
 #include "kernel/DataReader.h"
 #include "kernel/SampleData.h"
 
+#include <map>
+
 namespace vantrix::kernel {
 
 namespace {
@@ -50,6 +52,55 @@ RectangularZone rectangularZone(const MacroCommand& command)
             command.real("YMin"),    command.real("ZMin"),
             command.real("XMax"),    command.real("YMax"),
             command.real("ZMax"),    static_cast<FieldDataType_e>(command.integer("DataType"))};
+}
+
+void readFiles(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress)
+{
+    const MacroValue* value = command.find("Files");
+    const auto* files = value ? std::get_if<std::vector<std::string>>(value) : nullptr;
+    if (!files) {
+        throw DataError("DataRead: \"Files\" has to be names of files in brackets.");
+    }
+    DataReader::read(*files, dataSet, progress);
+}
+
+void readSample(const MacroCommand& command, DataSet& dataSet, const ReportProgress& /*progress*/)
+{
+    SampleData::make(command.text("Name"), dataSet);
+}
+
+void addCircularZone(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress)
+{
+    addZone(circularZone(command), command, dataSet, progress);
+}
+
+void addRectangularZone(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress)
+{
+    addZone(rectangularZone(command), command, dataSet, progress);
+}
+
+void deleteNamedZones(const MacroCommand& command, DataSet& dataSet, const ReportProgress& /*progress*/)
+{
+    const MacroValue* value = command.find("Zones");
+    const auto* zones = value ? std::get_if<std::set<long>>(value) : nullptr;
+    if (!zones || zones->empty() || *zones->rbegin() > dataSet.zoneCount()) {
+        throw DataError("DataSetDeleteZone: \"Zones\" has to be a set of zones that are there.");
+    }
+    DataHistory::deleteZones(*zones, dataSet);
+}
+
+using Maker = void (*)(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress);
+
+const std::map<std::string_view, Maker>& makers()
+{
+    static const std::map<std::string_view, Maker> table{
+        {"DataRead", &readFiles},
+        {"DataReadSample", &readSample},
+        {"CreateCircularZone", &addCircularZone},
+        {"CreateRectangularZone", &addRectangularZone},
+        {"DataSetDeleteZone", &deleteNamedZones},
+    };
+    return table;
 }
 
 } // namespace
@@ -116,31 +167,18 @@ void DataHistory::deleteZones(const std::set<long>& zones, DataSet& dataSet)
     dataSet.zoneEnabled.resize(kept);
 }
 
+bool DataHistory::knows(std::string_view name)
+{
+    return makers().contains(name);
+}
+
 void DataHistory::apply(const MacroCommand& command, DataSet& dataSet, const ReportProgress& progress)
 {
-    if (command.name == "DataRead") {
-        const MacroValue* value = command.find("Files");
-        const auto* files = value ? std::get_if<std::vector<std::string>>(value) : nullptr;
-        if (!files) {
-            throw DataError("DataRead: \"Files\" has to be names of files in brackets.");
-        }
-        DataReader::read(*files, dataSet, progress);
-    } else if (command.name == "DataReadSample") {
-        SampleData::make(command.text("Name"), dataSet);
-    } else if (command.name == "CreateCircularZone") {
-        addZone(circularZone(command), command, dataSet, progress);
-    } else if (command.name == "CreateRectangularZone") {
-        addZone(rectangularZone(command), command, dataSet, progress);
-    } else if (command.name == "DataSetDeleteZone") {
-        const MacroValue* value = command.find("Zones");
-        const auto* zones = value ? std::get_if<std::set<long>>(value) : nullptr;
-        if (!zones || zones->empty() || *zones->rbegin() > dataSet.zoneCount()) {
-            throw DataError("DataSetDeleteZone: \"Zones\" has to be a set of zones that are there.");
-        }
-        deleteZones(*zones, dataSet);
-    } else {
+    const auto maker = makers().find(command.name);
+    if (maker == makers().end()) {
         throw DataError("\"" + command.name + "\" is not known as a way to make data.");
     }
+    maker->second(command, dataSet, progress);
     dataSet.history.push_back(std::make_shared<const MacroCommand>(command));
 }
 

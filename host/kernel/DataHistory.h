@@ -5,6 +5,7 @@
 #include "kernel/Progress.h"
 
 #include <set>
+#include <string_view>
 #include <vector>
 
 namespace vantrix::kernel {
@@ -21,6 +22,9 @@ public:
     static MacroCommand creating(const CircularZone& zone, const CoordinateVariables& coordinates);
     static MacroCommand creating(const RectangularZone& zone, const CoordinateVariables& coordinates);
     static MacroCommand deleting(const std::set<long>& zones);
+
+    /* Whether a command of that name makes data. */
+    static bool knows(std::string_view name);
 
     /* Does a command to a data set that nobody shows yet, and keeps it in the history. Throws DataError for one that
      * is not known or cannot be done, ActionCancelled when `progress` asked to stop. */

@@ -50,15 +50,30 @@ public:
         m_text += std::string(static_cast<std::size_t>(2 * depth), ' ') + line + '\n';
     }
 
-    /* Values of zones that the scope's data do not have any more mean nothing there, and are left out. */
+    /* Values of zones that the scope's data do not have any more mean nothing there, and are left out. Those that have
+     * arguments of the file are written though they are as by default. */
     void writeStyle(int depth, long scopeId, long zones)
     {
-        for (const StyleStore::Stored& stored : m_style.storedValues(scopeId)) {
-            const StyleEntry& about = styleDescription(stored.entry);
-            if (styleIndex(about, stored.offset1, stored.offset2, zones) < 0) {
-                continue;
+        const auto found = m_unknown.styleArguments.find(scopeId);
+        auto unknown = found != m_unknown.styleArguments.end() ? found->second : decltype(found->second)();
+        const auto writeOne = [&](const LayoutUnknown::StylePlace& place, const StyleData& value) {
+            const StyleEntry& about = styleDescription(place.entry);
+            if (styleIndex(about, place.offset1, place.offset2, zones) >= 0) {
+                MacroCommand command = StyleActions::command(place.entry, {place.offset1}, place.offset2, value);
+                const auto& more = unknown[place];
+                command.arguments.insert(command.arguments.end(), more.begin(), more.end());
+                write(depth, command);
             }
-            write(depth, StyleActions::command(stored.entry, {stored.offset1}, stored.offset2, stored.value));
+            unknown.erase(place);
+        };
+        for (const StyleStore::Stored& stored : m_style.storedValues(scopeId)) {
+            writeOne({stored.entry, stored.offset1, stored.offset2}, stored.value);
+        }
+        while (!unknown.empty()) {
+            const LayoutUnknown::StylePlace place = unknown.begin()->first;
+            StyleData value;
+            m_style.getOf(scopeId, place.entry, place.offset1, place.offset2, value);
+            writeOne(place, value);
         }
     }
 
@@ -77,9 +92,12 @@ public:
             write(1, command);
         }
         MacroCommand state{"DataState", {}};
-        addDisabled(state, "DisabledZones", dataSet.zones.size(),
+        const auto found = m_unknown.disabled.find(dataSet.id());
+        const LayoutUnknown::Disabled absent =
+            found != m_unknown.disabled.end() ? found->second : LayoutUnknown::Disabled();
+        addDisabled(state, "DisabledZones", absent.zones, dataSet.zones.size(),
                     [&](std::size_t i) { return dataSet.zoneEnabled[i]; });
-        addDisabled(state, "DisabledVariables", dataSet.variables.size(),
+        addDisabled(state, "DisabledVariables", absent.variables, dataSet.variables.size(),
                     [&](std::size_t i) { return dataSet.variables[i].enabled; });
         addUnknown(state, m_unknown.ofDataStates, dataSet.id());
         if (!state.arguments.empty()) {
@@ -129,10 +147,13 @@ private:
         }
     }
 
+    /* `absent` are numbers of the file that were behind the last one there is; by now some may be there, and enabled.
+     */
     template<class IsEnabled>
-    static void addDisabled(MacroCommand& state, const char* name, std::size_t count, const IsEnabled& isEnabled)
+    static void addDisabled(MacroCommand& state, const char* name, const std::set<long>& absent, std::size_t count,
+                            const IsEnabled& isEnabled)
     {
-        std::set<long> disabled;
+        std::set<long> disabled(absent.upper_bound(static_cast<long>(count)), absent.end());
         for (std::size_t i = 0; i < count; ++i) {
             if (!isEnabled(i)) {
                 disabled.insert(static_cast<long>(i) + 1);

@@ -12,6 +12,7 @@
 #include "kernel/macro/MacroCommand.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace vantrix::kernel {
@@ -19,6 +20,7 @@ namespace vantrix::kernel {
 namespace {
 
 constexpr long layoutVersion = 1;
+constexpr std::array<std::string_view, 4> styleArguments{"Path", "Object", "Object2", "Value"};
 
 bool flagOf(const MacroCommand& command, const char* name)
 {
@@ -30,6 +32,9 @@ const std::set<long>& setOf(const MacroCommand& command, const char* name)
     static const std::set<long> none;
     const MacroValue* value = command.find(name);
     const auto* numbers = value ? std::get_if<std::set<long>>(value) : nullptr;
+    if (value && !numbers) {
+        throw DataError('"' + std::string(name) + "\" has to be a set of numbers in braces, as in {1-3,7}.");
+    }
     return numbers ? *numbers : none;
 }
 
@@ -74,10 +79,11 @@ void LayoutReader::readLine(const std::string& text)
     if (commands.size() > 1) {
         throw DataError("one entry a line is expected.");
     }
-    readCommand(commands.front(), text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
+    const std::size_t begin = text.find_first_not_of(" \t");
+    readCommand(commands.front(), text.substr(begin), begin > 0);
 }
 
-void LayoutReader::readCommand(const MacroCommand& command, const std::string& text)
+void LayoutReader::readCommand(const MacroCommand& command, const std::string& text, bool isIndented)
 {
     if (!m_hasHead) {
         if (command.name != "Layout") {
@@ -95,7 +101,7 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
         beginPage(command);
     } else if (command.name == "Frame") {
         beginFrame(command);
-    } else if (m_dataSet) {
+    } else if (isOfDataSet(command, isIndented)) {
         addData(command);
     } else if (command.name == "StyleSet") {
         addStyle(command, text);
@@ -106,8 +112,16 @@ void LayoutReader::readCommand(const MacroCommand& command, const std::string& t
     } else if (command.name == "Streamtrace" && m_frame) {
         addObject<Streamtrace>(command);
     } else {
+        m_isInUnknown = true;
         keepUnknown(text);
     }
+}
+
+/* What is not known stands beside the data set, unless it is indented below it: then it could be a way to make data. */
+bool LayoutReader::isOfDataSet(const MacroCommand& command, bool isIndented) const
+{
+    const bool isKnown = command.name == "DataState" || DataHistory::knows(command.name);
+    return m_dataSet && (isKnown || (isIndented && !m_isInUnknown));
 }
 
 void LayoutReader::keepUnknown(const std::string& line)
@@ -136,20 +150,32 @@ void LayoutReader::beginDataSet(const MacroCommand& command)
     }
     m_dataSet = std::make_unique<DataSet>(m_document.newDataSet());
     keepUnknown(command, {"Id"}, unknown.arguments[m_dataSet->id()]);
+    m_isInUnknown = false;
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): its file names are changed
 void LayoutReader::addData(MacroCommand command)
 {
     if (command.name == "DataState") {
+        LayoutUnknown::Disabled& absent = unknown.disabled[m_dataSet->id()];
         for (const long zone : setOf(command, "DisabledZones")) {
             if (zone <= m_dataSet->zoneCount()) {
                 m_dataSet->zoneEnabled[static_cast<std::size_t>(zone - 1)] = false;
+            } else {
+                absent.zones.insert(zone);
             }
         }
         for (const long variable : setOf(command, "DisabledVariables")) {
             if (variable <= m_dataSet->variableCount()) {
                 m_dataSet->variables[static_cast<std::size_t>(variable - 1)].enabled = false;
+            } else {
+                absent.variables.insert(variable);
+            }
+        }
+        for (const auto& [name, numbers] :
+             {std::pair{"DisabledZones", absent.zones}, {"DisabledVariables", absent.variables}}) {
+            if (!numbers.empty()) {
+                unknown.texts.push_back(macroText(MacroCommand{command.name, {{name, numbers}}}));
             }
         }
         keepUnknown(command, {"DisabledZones", "DisabledVariables"}, unknown.ofDataStates[m_dataSet->id()]);
@@ -216,6 +242,7 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
     const StyleScope scope = m_frame ? StyleScope::Frame : StyleScope::Page;
     const bool isOfScope = entry >= 0 && styleDescription(entry).scope == scope;
     if (styles.empty() || !isOfScope) {
+        m_isInUnknown = true;
         keepUnknown(text);
         return;
     }
@@ -232,6 +259,12 @@ void LayoutReader::addStyle(const MacroCommand& command, const std::string& text
     }
     if (const StyleRefusal refusal = checkStyleValue(entry, stored.value); refusal.code != SetValueReturnCode_Ok) {
         throw DataError(refusal.text);
+    }
+    for (const MacroCommand::Argument& argument : command.arguments) {
+        if (std::ranges::find(styleArguments, argument.first) == styleArguments.end()) {
+            unknown.styleArguments[styles.back().scopeId][{entry, stored.offset1, stored.offset2}].push_back(argument);
+            unknown.texts.push_back(macroText(MacroCommand{command.name, {{"Path", stylePath(entry)}, argument}}));
+        }
     }
     styles.back().values.push_back(std::move(stored));
     styles.back().lines.push_back(m_line);

@@ -46,7 +46,8 @@ public:
 
 private:
     void readLine(const std::string& text);
-    void readCommand(const MacroCommand& command, const std::string& text);
+    void readCommand(const MacroCommand& command, const std::string& text, bool isIndented);
+    bool isOfDataSet(const MacroCommand& command, bool isIndented) const;
     void beginDataSet(const MacroCommand& command);
     void beginPage(const MacroCommand& command);
     void beginFrame(const MacroCommand& command);
@@ -69,6 +70,7 @@ private:
     bool m_hasHead = false;
     std::unique_ptr<DataSet> m_dataSet; /* being made */
     long m_dataSetId = 0;
+    bool m_isInUnknown = false; /* behind an entry beside the data set that is not known */
     std::map<long, std::shared_ptr<const DataSet>> m_dataSets;
     std::shared_ptr<Frame> m_frame;
 };

@@ -2,7 +2,9 @@
 
 #include "kernel/macro/MacroCommand.h"
 
+#include <compare>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -20,6 +22,26 @@ struct LayoutUnknown
 
     /* Arguments of the states of data sets, by the identifier of the data set. */
     std::map<long, std::vector<MacroCommand::Argument>> ofDataStates;
+
+    struct StylePlace
+    {
+        long entry;
+        long offset1;
+        long offset2;
+        auto operator<=>(const StylePlace&) const = default;
+    };
+
+    /* The same of the lines of style values, of each page and frame by its identifier. */
+    std::map<long, std::map<StylePlace, std::vector<MacroCommand::Argument>>> styleArguments;
+
+    struct Disabled
+    {
+        std::set<long> zones;
+        std::set<long> variables;
+    };
+
+    /* What is to take no part and is not there, of each data set by its identifier. */
+    std::map<long, Disabled> disabled;
 
     /* All of it for the user, in the order of the file. */
     std::vector<std::string> texts;

@@ -105,6 +105,36 @@ TEST_F(LayoutTest, KeepsAndReportsWhatItDoesNotKnow)
     EXPECT_THAT(m_frontEnd.status, HasSubstr("3 entries"));
 }
 
+TEST_F(LayoutTest, KeepsWhatIsUnknownOfStyleValuesAndBesideDataSets)
+{
+    const std::string future =
+        "Layout Version=1\nPalette Foo=1\nSwatch Red=2\nDataSet Id=1\n"
+        "  CreateRectangularZone IMax=2 JMax=2 KMax=1 XMin=0.0 YMin=0.0 ZMin=0.0 XMax=1.0 YMax=1.0 "
+        "ZMax=0.0 DataType=1 XVariable=1 YVariable=2 ZVariable=0\n"
+        "  DataState DisabledZones={1,7} DisabledVariables={9}\n"
+        "Page Active=1\n  Frame DataSet=1 Active=1\n"
+        "    StyleSet Path=\"FieldMap/Mesh/Color\" Object=1 Value=5 Foo=3\n"
+        "    StyleSet Path=PlotType Value=Cartesian2D Bar=word Foo=3\n"
+        "    StyleSet Path=\"FrameLayout/Width\" Value=9.0 Foo=4\n";
+    ASSERT_TRUE(open(future)) << kernel().lastError();
+    EXPECT_EQ(text(), future) << "a default value stands behind the others";
+    EXPECT_THAT(m_frontEnd.status, HasSubstr("8 entries"));
+    set("FrameLayout/Width", 3.5);
+    EXPECT_THAT(text(), HasSubstr("Value=3.5 Foo=4"));
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilCreateRectangularZone(2, 2, 1, 0, 0, 0, 1, 1, 0, FieldDataType_Double));
+    }
+    EXPECT_THAT(text(), HasSubstr("DataState DisabledZones={1,7} DisabledVariables={9}"));
+
+    const std::string beside =
+        "Layout Version=1\nDataSet Id=1\n  DataReadSample Name=fe2d\nPalette Foo=1\n  Swatch Red=2\n"
+        "StyleSet Path=PlotType Value=Sketch\nPage\nFrame DataSet=1\n";
+    ASSERT_TRUE(open(beside)) << kernel().lastError();
+    EXPECT_TRUE(VtxUtilDataSetIsAvailable());
+    EXPECT_THAT(text(), HasSubstr("Palette Foo=1\nSwatch Red=2\nStyleSet Path=PlotType Value=Sketch\n"));
+}
+
 TEST_F(LayoutTest, WhatCannotBeOpenedChangesNothing)
 {
     makeDocument();
@@ -122,7 +152,8 @@ TEST_F(LayoutTest, WhatCannotBeOpenedChangesNothing)
         {head + "Page\nFrame DataSet=1\n", "line 3: there is no data set 1"},
         {head + "DataSet Id=1\nDataRead Files=[\"none.vtu\"]\nPage\n", "none.vtu"},
         {head + "DataSet Id=1\nDataReadSample Name=none\nPage\n", "line 3"},
-        {head + "DataSet Id=1\nDataAnneal\nPage\n", "line 3: \"DataAnneal\""},
+        {head + "DataSet Id=1\n  DataAnneal\nPage\n", "line 3: \"DataAnneal\""},
+        {head + "DataSet Id=1\n  DataReadSample Name=fe2d\n  DataState DisabledZones=1\nPage\n", "set of numbers"},
         {head + "DataSet Id=1\nDataReadSample Name=fe2d\nDataSetDeleteZone Zones={7}\nPage\n", "line 4"},
         {head + "Page\nFrame\nStyleSet Path=\"FrameLayout/Width\" Value=-3\n", "line 4"},
         {head + "Page\nFrame\nStyleSet Path=\"FrameLayout/Width\" Value=\"wide\"\n", "line 4"},
