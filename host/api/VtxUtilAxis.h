@@ -37,8 +37,8 @@ bool VtxUtilViewAxisMakeCurValsNice(char axis, int axisNumber);
  *   "Axis"              long    the axis character; for `ViewOp_AxisFit`
  *   "AxisNum"           long    its number; for `ViewOp_AxisFit`, 1 when it is left out
  *   "ConsiderBlanking"  long    whether blanked data are left out of what is fitted to (optional, false)
- * `ViewOp_Fit` fits the plot to the frame, `ViewOp_DataFit` to the data alone, `ViewOp_AxisFit` is
- * VtxUtilViewAxisFit().
+ * `ViewOp_Fit` fits all axes to nice values about their data, `ViewOp_DataFit` to the data alone; both let the whole of
+ * a 3D plot be seen, from the direction it is seen from. `ViewOp_AxisFit` is VtxUtilViewAxisFit().
  */
 bool VtxUtilViewX(VtxArgListHandle arguments);
 

@@ -213,6 +213,11 @@ void AxisRanges::fitAll(bool isNice)
             }
         }
     }
+    if (m_plotType == PlotType_Cartesian3D) {
+        for (const char* coordinate : {"X", "Y", "Z"}) { // a viewer at the origin of the data sees the whole plot
+            setReal(m_style.entry((std::string("ThreeDView/ViewerPosition/") + coordinate).c_str()), 0.0);
+        }
+    }
 }
 
 double AxisRanges::nextValue(AxisName axis, double value, bool up, bool isNice) const

@@ -43,7 +43,7 @@ public:
      * over it. Its maximum stays where it can. */
     void raiseAboveZero(AxisName axis);
 
-    /* Fits every axis of the plot that shows data. */
+    /* Fits every axis of the plot that shows data, and lets the whole of a 3D plot be seen. */
     void fitAll(bool nice);
 
     /* See VtxUtilAxisGetNextRangeValue(). */

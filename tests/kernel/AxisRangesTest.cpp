@@ -284,6 +284,19 @@ TEST_F(AxisRangesTest, TheViewIsFittedByNamedArguments)
     }
 }
 
+TEST_F(AxisRangesTest, FittingThePlotShowsTheWholeOfA3DPlot)
+{
+    show("flow3d");
+    for (const ViewOp_e operation : {ViewOp_Fit, ViewOp_DataFit}) {
+        set("ThreeDView/ViewerPosition/Y", 12.5);
+        set("ThreeDView/PsiAngle", 20.0);
+        EXPECT_TRUE(view({{"ViewOP", operation}}));
+        EXPECT_EQ(value("ThreeDView/ViewerPosition/Y"), StyleData(0.0));
+        EXPECT_EQ(value("ThreeDView/PsiAngle"), StyleData(20.0)) << "the direction stays";
+    }
+    EXPECT_EQ(range("ThreeDAxis/XDetail"), variable(1));
+}
+
 TEST_F(AxisRangesTest, StepsOfARangeFieldFollowTheRange)
 {
     show("fe2d");
