@@ -1,4 +1,7 @@
 #include "LayoutFixture.h"
+#include "kernel/ProbeService.h"
+#include "kernel/StyleActions.h"
+#include "kernel/macro/MacroCommand.h"
 #include "toolbox/ArgList.h"
 #include "toolbox/Set.h"
 
@@ -60,7 +63,7 @@ private:
     void act()
     {
         static const char* const samples[] = {"flow3d", "fe2d", "lines", "mixed"};
-        switch (pick(30)) {
+        switch (pick(40)) {
         case 0:
             VtxUtilFrameCreate(inches(), inches(), inches(), inches());
             break;
@@ -137,6 +140,36 @@ private:
         case 22:
             VtxUtilPickDelete();
             break;
+        case 23:
+            VtxUtilCreateRectangularZone(2 + pick(3), 2 + pick(3), 1 + pick(2), 0.0, -inches(), 0.0, inches(), 1.0,
+                                         1.0 / 3.0, static_cast<FieldDataType_e>(1 + pick(6)));
+            break;
+        case 24:
+            loadSomeVariables();
+            break;
+        case 25:
+            VtxUtilFrameSetBackgroundColor(pick(70)); // some there are not
+            break;
+        case 26:
+            VtxUtilMouseSetMode(static_cast<MouseMode_e>(1 + pick(8)));
+            break;
+        case 27:
+            pickSomething();
+            break;
+        case 28:
+        case 29:
+            addSomeStreamtraces();
+            break;
+        case 30:
+            if (pick(3) == 0) {
+                VtxUtilStreamtraceDeleteAll();
+            } else {
+                VtxUtilStreamtraceDeleteRange(1 + pick(3), 1 + pick(4));
+            }
+            break;
+        case 31:
+            probeSomewhere();
+            break;
         default:
             setSomeStyle();
         }
@@ -148,6 +181,87 @@ private:
         VtxUtilSetAddMember(zones, VtxUtilDataSetGetNumZones());
         VtxUtilDataSetDeleteZone(zones);
         VtxUtilSetDealloc(&zones);
+    }
+
+    void loadSomeVariables()
+    {
+        vantrix::toolbox::Set variables;
+        variables.addMember(1 + pick(4));
+        VtxUtilDataValueLoad(1 + pick(2), variables.handle());
+    }
+
+    void pickSomething()
+    {
+        switch (pick(5)) {
+        case 0:
+            VtxUtilPickAxis("XYZTR"[pick(5)], static_cast<int>(1 + pick(2)), static_cast<AxisSubObject_e>(pick(3)));
+            break;
+        case 1:
+            VtxUtilPickLineMap(1 + pick(3));
+            break;
+        case 2:
+            VtxUtilPickLegend(pick(2) == 0 ? PickObject_ContourLegend : PickObject_LineLegend);
+            break;
+        case 3:
+            VtxUtilPickStreamtrace(1 + pick(3));
+            break;
+        default:
+            VtxUtilPickClear();
+        }
+    }
+
+    void addSomeStreamtraces()
+    {
+        ArgList list;
+        const PlotType_e plotType = VtxUtilFrameGetPlotType();
+        list.appendArbParam("StreamType",
+                            plotType == PlotType_Cartesian2D ? Streamtrace_TwoDLine : Streamtrace_VolumeLine);
+        if (pick(2) == 0) {
+            list.appendArbParam("StreamDirection", pick(4)); // one there is not
+        }
+        if (pick(2) == 0) {
+            list.appendArbParam("Zone", 1);
+            list.appendArbParam("I1", 1 + pick(5));
+            list.appendArbParam("J1", 1 + pick(5));
+        } else {
+            for (const char* name : {"X1", "Y1", "Z1", "X2", "Y2", "Z2"}) {
+                if (name[0] != 'Z' || plotType != PlotType_Cartesian2D) {
+                    list.appendDouble(name, inches() / 2.0);
+                }
+            }
+            list.appendArbParam("NumPts", 1 + pick(3));
+        }
+        if (VtxUtilStreamtraceAddX(list.handle()) && pick(2) == 0) {
+            VtxUtilPickStreamtrace(VtxUtilStreamtraceGetCount());
+        }
+    }
+
+    void probeSomewhere()
+    {
+        ArgList list;
+        switch (pick(4)) {
+        case 0:
+            for (const char* name : {"X", "Y", "Z"}) {
+                list.appendDouble(name, inches() / 2.0);
+            }
+            list.appendArbParam("NearestPoint", pick(2));
+            VtxUtilProbeAtFieldPositionX(list.handle());
+            return;
+        case 1:
+            list.appendArbParam("I", 1 + pick(8));
+            list.appendArbParam("Zone", 1 + pick(2));
+            VtxUtilProbeAtFieldIndexX(list.handle());
+            return;
+        case 2:
+            list.appendArbParam("Axis", "XY"[pick(2)]);
+            list.appendDouble("Position", inches());
+            VtxUtilProbeAtLinePositionX(list.handle());
+            return;
+        default:
+            list.appendArbParam("I", 1 + pick(8));
+            list.appendArbParam("LineMap", 1 + pick(2));
+            VtxUtilProbeAtLineIndexX(list.handle());
+        }
     }
 
     void setSomeText()
@@ -238,11 +352,42 @@ private:
 
 } // namespace
 
+namespace {
+
+/* What layouts do not hold: the settings of the program, the mouse mode, what is picked and where was probed. */
+std::string restOfState()
+{
+    const Kernel& kernel = Kernel::instance();
+    std::string state = "mouse " + std::to_string(VtxUtilMouseGetCurrentMode()) + '\n';
+    for (const StyleStore::Stored& setting : kernel.style().storedValues(StyleStore::processScope)) {
+        state +=
+            macroText(StyleActions::command(setting.entry, {setting.offset1}, setting.offset2, setting.value)) + '\n';
+    }
+    for (long i = 1; i <= VtxUtilPickListGetCount(); ++i) {
+        state += "picked " + std::to_string(VtxUtilPickListGetType(i));
+        for (const long number : {VtxUtilPickListGetZoneNumber(i), VtxUtilPickListGetLineMapNumber(i),
+                                  VtxUtilPickListGetStreamtrace(i), long{VtxUtilPickListGetAxisKind(i)},
+                                  long{VtxUtilPickListGetAxisNumber(i)}, long{VtxUtilPickListGetAxisSubObject(i)}}) {
+            state += ' ' + std::to_string(number);
+        }
+        state += '\n';
+    }
+    const FieldProbeResult* field = Kernel::instance().probes().fieldResult();
+    const LineProbeResult* line = Kernel::instance().probes().lineResult();
+    state +=
+        field ? "probed zone " + std::to_string(field->zone) + " point " + std::to_string(field->point) + '\n' : "";
+    state += line ? "probed " + std::to_string(VtxUtilProbeLineGetPoint()) + '\n' : "";
+    return state;
+}
+
+} // namespace
+
 TEST_F(LayoutTest, ARecordedSessionReplayedEndsInTheSameState)
 {
     std::string all;
     for (unsigned seed = 1; seed <= 8; ++seed) {
         kernel().reset();
+        kernel().mouseModes().set(MouseMode_Selector);
         const std::string macro = path("random.vxmac");
         ASSERT_TRUE(VtxUtilMacroRecordStart(macro.c_str()));
         RandomSession session(seed);
@@ -251,19 +396,16 @@ TEST_F(LayoutTest, ARecordedSessionReplayedEndsInTheSameState)
         }
         ASSERT_TRUE(VtxUtilMacroRecordStop());
         const std::string before = text();
-        const auto settings = style().storedValues(StyleStore::processScope);
+        const std::string rest = restOfState();
         const std::string recorded = content(macro);
         EXPECT_GT(std::count(recorded.begin(), recorded.end(), '\n'), 50) << "something happened";
         all += recorded;
 
         kernel().reset();
+        kernel().mouseModes().set(MouseMode_Selector);
         ASSERT_TRUE(VtxUtilMacroRun(macro.c_str())) << "seed " << seed << ": " << kernel().lastError();
         EXPECT_EQ(text(), before) << "seed " << seed;
-        const auto replayed = style().storedValues(StyleStore::processScope);
-        ASSERT_EQ(replayed.size(), settings.size());
-        for (std::size_t i = 0; i < settings.size(); ++i) {
-            EXPECT_EQ(replayed[i].value, settings[i].value);
-        }
+        EXPECT_EQ(restOfState(), rest) << "seed " << seed;
 
         ASSERT_TRUE(VtxUtilLayoutSave(path("random.vxlay").c_str()));
         ASSERT_TRUE(VtxUtilLayoutOpen(path("random.vxlay").c_str())) << "seed " << seed << ": " << kernel().lastError();
@@ -273,4 +415,9 @@ TEST_F(LayoutTest, ARecordedSessionReplayedEndsInTheSameState)
     EXPECT_THAT(all, HasSubstr("GeometryID="));
     EXPECT_THAT(all, HasSubstr("FrameAttachDataSet"));
     EXPECT_THAT(all, HasSubstr("PickDelete"));
+    for (const char* command : {"StreamtraceAdd", "StreamtraceDelete", "ProbeAtField", "ProbeAtLine",
+                                "CreateRectangularZone", "DataValueLoad", "FrameSetBackgroundColor", "MouseSetMode",
+                                "PickAxis", "PickLineMap", "PickLegend", "PickStreamtrace"}) {
+        EXPECT_NE(all.find(command), std::string::npos) << command;
+    }
 }
