@@ -3,13 +3,34 @@
 #include "kernel/Document.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
+#include "kernel/UndoStack.h"
 
 namespace vantrix::kernel {
 
-MouseModes::MouseModes(const Document& document, const StyleStore& style, StateChanges& changes)
+/* Another mode was set. */
+class MouseModes::Change : public UndoableChange
+{
+public:
+    explicit Change(MouseModes& modes)
+        : m_modes(modes)
+        , m_before(modes.m_mode)
+    {}
+
+    void undo() override { m_modes.put(m_before); }
+    void redo() override {}
+    std::size_t memory(bool /*isDone*/) const override { return 0; }
+    bool isTransient() const override { return true; }
+
+private:
+    MouseModes& m_modes;
+    MouseMode_e m_before;
+};
+
+MouseModes::MouseModes(const Document& document, const StyleStore& style, StateChanges& changes, UndoStack& undo)
     : m_document(document)
     , m_style(style)
     , m_changes(changes)
+    , m_undo(undo)
     , m_plotType(style.entry("PlotType"))
 {
     m_changes.addListener(&MouseModes::stateChanged, this);
@@ -52,16 +73,22 @@ bool MouseModes::set(MouseMode_e mode)
         return false;
     }
     if (mode != m_mode) {
-        m_mode = mode;
-        m_changes.send(StateChange_MouseMode);
+        m_undo.record(std::make_unique<Change>(*this));
+        put(mode);
     }
     return true;
+}
+
+void MouseModes::put(MouseMode_e mode)
+{
+    m_mode = mode;
+    m_changes.send(StateChange_MouseMode);
 }
 
 void MouseModes::stateChanged(VtxStateChangeHandle, void* modes)
 {
     auto* self = static_cast<MouseModes*>(modes);
-    if (!self->isValid(self->m_mode)) {
+    if (!self->m_undo.isRollingBack() && !self->isValid(self->m_mode)) {
         self->set(MouseMode_Selector);
     }
 }

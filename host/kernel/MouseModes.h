@@ -7,15 +7,16 @@ namespace vantrix::kernel {
 class Document;
 class StateChanges;
 class StyleStore;
+class UndoStack;
 
 /*
  * What the mouse does over the work area. When the plot changes so that the present mode is not valid any more, the
- * selector takes its place.
+ * selector takes its place. A mode that was set in a step is no part of it, but goes with a step that is rolled back.
  */
 class MouseModes
 {
 public:
-    MouseModes(const Document& document, const StyleStore& style, StateChanges& changes);
+    MouseModes(const Document& document, const StyleStore& style, StateChanges& changes, UndoStack& undo);
     ~MouseModes();
     MouseModes(const MouseModes&) = delete;
     MouseModes& operator=(const MouseModes&) = delete;
@@ -29,11 +30,14 @@ public:
     bool set(MouseMode_e mode);
 
 private:
+    class Change;
+    void put(MouseMode_e mode);
     static void stateChanged(VtxStateChangeHandle change, void* modes);
 
     const Document& m_document;
     const StyleStore& m_style;
     StateChanges& m_changes;
+    UndoStack& m_undo;
     long m_plotType;
     MouseMode_e m_mode = MouseMode_Selector;
 };

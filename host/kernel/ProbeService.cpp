@@ -8,6 +8,7 @@
 #include "kernel/MouseModes.h"
 #include "kernel/StateChanges.h"
 #include "kernel/StyleStore.h"
+#include "kernel/UndoStack.h"
 #include "kernel/macro/MacroRecorder.h"
 #include "kernel/macro/ProbeCommand.h"
 
@@ -40,6 +41,25 @@ ProbeService::ProbeService(Kernel& kernel)
 {
     m_kernel.stateChanges().addListener(&ProbeService::stateChanged, this);
 }
+
+/* Something was probed. */
+class ProbeService::Change : public UndoableChange
+{
+public:
+    explicit Change(ProbeService& probes)
+        : m_probes(probes)
+        , m_before(probes.m_found)
+    {}
+
+    void undo() override { m_probes.restore(m_before); }
+    void redo() override {}
+    std::size_t memory(bool /*isDone*/) const override { return 0; }
+    bool isTransient() const override { return true; }
+
+private:
+    ProbeService& m_probes;
+    Found m_before;
+};
 
 ProbeService::~ProbeService()
 {
@@ -99,6 +119,7 @@ bool ProbeService::perform(const ProbeRequest& request, VtxProbeFunction told)
     Result result = resultOf(asked, frame);
     const bool isFound = !std::holds_alternative<std::monostate>(result);
     if (isFound) {
+        m_kernel.undoStack().record(std::make_unique<Change>(*this));
         m_found = {asked,
                    static_cast<PlotType_e>(m_kernel.style().integer(frame.id(), m_kernel.style().entry("PlotType"))),
                    frame.id(), std::move(result)};

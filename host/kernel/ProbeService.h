@@ -19,7 +19,8 @@ using ProbeRequest =
 
 /*
  * Probes the active frame, keeps what was found last, and tells the installed function of it. What was found is about
- * the frame that was active then, and stays as it was when data or style change, or a probe finds nothing.
+ * the frame that was active then, and stays as it was when data or style change, or a probe finds nothing. A probe is
+ * no part of a step, but goes with a step that is rolled back.
  */
 class ProbeService
 {
@@ -82,6 +83,7 @@ public:
     void reset();
 
 private:
+    class Change;
     static void stateChanged(VtxStateChangeHandle change, void* service);
 
     void tellListeners() const;

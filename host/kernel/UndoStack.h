@@ -62,6 +62,9 @@ public:
 
     bool isInStep() const { return m_current != nullptr; }
 
+    /* Whether what is told at present is a step being taken back, which ends in a state that was there before. */
+    bool isRollingBack() const { return m_current && m_replaying; }
+
     /* Names the step under way; the first name given stays. */
     void nameStep(const std::string& name);
 

@@ -522,6 +522,16 @@ TEST_F(MacroTest, AFileMayBeginWithAByteOrderMark)
     EXPECT_EQ(VtxUtilPageGetCount(), 3);
 }
 
+TEST_F(MacroTest, ALineThatFailsLeavesNoProbeAndNoMouseMode)
+{
+    show("lines");
+    doLine("ProbeAtLineIndex I=2 LineMap=1; MouseSetMode Mode=Zoom");
+    EXPECT_FALSE(play("ProbeAtLineIndex I=5 LineMap=1; MouseSetMode Mode=Probe; PageDelete Page=9"));
+    EXPECT_THAT(kernel().lastError(), HasSubstr("no page 9"));
+    EXPECT_EQ(VtxUtilProbeLineGetPoint(), 2);
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Zoom);
+}
+
 TEST_F(MacroTest, RefusesToRecordWhereItCannot)
 {
     EXPECT_FALSE(VtxUtilMacroRecordStop()) << "nothing is recorded";

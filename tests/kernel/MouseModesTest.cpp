@@ -55,4 +55,28 @@ TEST_F(MouseModesTest, TheSelectorTakesOverWhenThePlotHasNoUseForTheModeAnyMore)
     EXPECT_EQ(kinds().back(), StateChange_MouseMode);
 }
 
+TEST_F(MouseModesTest, AModeGoesWithTheStepThatIsRolledBackAndStaysWithUndo)
+{
+    show("flow3d");
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Rotate));
+    }
+    {
+        const LockScope lock;
+        ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Probe));
+        set("PlotType", long{PlotType_Sketch});
+        EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Selector) << "nothing to probe";
+        VtxUtilLockRollBack();
+    }
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Rotate);
+    {
+        const LockScope lock;
+        set("FrameLayout/Width", 5.0);
+        ASSERT_TRUE(VtxUtilMouseSetMode(MouseMode_Zoom));
+    }
+    ASSERT_TRUE(VtxUtilUndo());
+    EXPECT_EQ(VtxUtilMouseGetCurrentMode(), MouseMode_Zoom);
+}
+
 } // namespace vantrix::kernel
