@@ -33,7 +33,10 @@ public:
 
     void undo() override { m_objects.show(m_frame, m_before, m_handle); }
     void redo() override { m_objects.show(m_frame, m_after, m_handle); }
-    std::size_t memory(bool /*isDone*/) const override { return sizeof(Object) + (m_before.size() + m_after.size()) * sizeof(void*); }
+    std::size_t memory(bool /*isDone*/) const override
+    {
+        return sizeof(Object) + (m_before.size() + m_after.size()) * sizeof(void*);
+    }
 
 private:
     FrameObjects& m_objects;
