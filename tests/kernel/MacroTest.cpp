@@ -522,6 +522,24 @@ TEST_F(MacroTest, AFileMayBeginWithAByteOrderMark)
     EXPECT_EQ(VtxUtilPageGetCount(), 3);
 }
 
+TEST_F(MacroTest, ValuesOfALineMayComeInAnyOrder)
+{
+    const std::string minimum = "StyleSet Path=\"XYLineAxis/XDetail/RangeMin\" Object=1 Value=";
+    const std::string maximum = "StyleSet Path=\"XYLineAxis/XDetail/RangeMax\" Object=1 Value=";
+    const auto range = [this] {
+        const long frame = kernel().document().activeFrame()->id();
+        return std::pair(style().real(frame, style().entry("XYLineAxis/XDetail/RangeMin"), 1),
+                         style().real(frame, style().entry("XYLineAxis/XDetail/RangeMax"), 1));
+    };
+    ASSERT_TRUE(play(minimum + "140; " + maximum + "240")) << "above the present range: " << kernel().lastError();
+    EXPECT_EQ(range(), std::pair(140.0, 240.0));
+    ASSERT_TRUE(play(maximum + "24; " + minimum + "14")) << "below it: " << kernel().lastError();
+    EXPECT_EQ(range(), std::pair(14.0, 24.0));
+    EXPECT_FALSE(play(minimum + "300; " + maximum + "200"));
+    EXPECT_THAT(kernel().lastError(), HasSubstr("X1"));
+    EXPECT_EQ(range(), std::pair(14.0, 24.0)) << "nothing half done";
+}
+
 TEST_F(MacroTest, ALineThatFailsLeavesNoProbeAndNoMouseMode)
 {
     show("lines");

@@ -149,7 +149,14 @@ void MacroPlayer::runAll(const std::vector<MacroCommand>& commands)
 bool MacroPlayer::runCommand(const MacroCommand& command)
 {
     const Command& about = *commandNamed(command.name);
-    return about.run(command, about);
+    try {
+        return about.run(command, about);
+    } catch (const ActionCancelled&) {
+        throw;
+    } catch (const DataError& error) {
+        m_kernel.setLastError(error.what());
+        return false;
+    }
 }
 
 } // namespace vantrix::kernel
