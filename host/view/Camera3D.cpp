@@ -64,6 +64,7 @@ Camera3D::Camera3D(const View3D& view, const Box3& box, double aspect, double ma
     // A corner that lies `away` from the middle of the picture and `near` the eye is inside of its part of it when
     //     width >= near / eyeDistance() + 2 |away| / part
     // What is largest for the corners on either side decides on width and middle.
+    double nearest = 0.0;
     std::array<double, 2> rightAndLeft{};
     std::array<double, 2> upAndDown{};
     const Point3 center = box.center();
@@ -72,10 +73,14 @@ Camera3D::Camera3D(const View3D& view, const Box3& box, double aspect, double ma
         const double near = m_view.isPerspective ? dot(from, m_toward) / eyeDistance() : 0.0;
         const double x = 2.0 * dot(from, m_right) / across;
         const double y = 2.0 * dot(from, m_up) / up;
+        nearest = std::max(nearest, near);
         rightAndLeft = {std::max(rightAndLeft[0], near + x), std::max(rightAndLeft[1], near - x)};
         upAndDown = {std::max(upAndDown[0], near + y), std::max(upAndDown[1], near - y)};
     }
-    const double needed = 0.5 * std::max(rightAndLeft[0] + rightAndLeft[1], upAndDown[0] + upAndDown[1]);
+    // The eye stays in front of the box, where it would see all of it from a corner, too.
+    constexpr double room = 1.05;
+    const double needed =
+        std::max({0.5 * (rightAndLeft[0] + rightAndLeft[1]), 0.5 * (upAndDown[0] + upAndDown[1]), room * nearest});
     m_view.width = needed > 0.0 ? needed : 1.0;
     const Point3 middle = plus(plus(center, 0.25 * across * (rightAndLeft[0] - rightAndLeft[1]), m_right),
                                0.25 * up * (upAndDown[0] - upAndDown[1]), m_up);
