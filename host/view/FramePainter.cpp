@@ -288,13 +288,13 @@ void FramePainter::paintPicture(const Canvas& canvas, const QRectF& area, Render
                                        [&](QPointF place, double depth) { return scene().isInFront(place, depth); });
         }
         m_paintedPoints = scene().surfacePointCount();
-        scene().release(settings.cache);
         ++m_renderCount;
         if (!isPlain) {
             const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
             m_fullTime = time.count();
         }
     }
+    scene().release(settings.cache); // also when it is the setting alone that changed
     canvas.painter.setRenderHint(QPainter::SmoothPixmapTransform, kept.image.size() != pixels);
     canvas.painter.drawImage(area, kept.image);
     labels.paint(kept.labels);
