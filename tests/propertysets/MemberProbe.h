@@ -38,6 +38,9 @@ public:
     bool change() override
     {
         for (auto const& value : otherValues()) {
+            if (static_cast<T>(value) == m_first) {
+                continue;
+            }
             try {
                 m_property->setValue(static_cast<T>(value));
                 return m_property->value() == static_cast<T>(value);
