@@ -56,17 +56,17 @@ void AxisEditAreaPage::createBindings()
 void AxisEditAreaPage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
-    m_bindings.apply(whileSet(m.gridArea(&GridArea::getIsfilled)),
+    m_bindings.apply(whileSet(m.gridArea(&GridArea::getIsfilled), "The area is not filled."),
                      {m_form.axisEdit_AreaFillColor_Label, m_form.axisEdit_AreaFillColor_ColorButton,
                       m_form.axisEdit_AreaLightSource_ToggleButton});
-    m_bindings.apply(whileSet(m.gridArea(&GridArea::getDrawborder)),
+    m_bindings.apply(whileSet(m.gridArea(&GridArea::getDrawborder), "The area has no border."),
                      {m_form.axisEdit_AreaBorderColor_Label, m_form.axisEdit_AreaBorderColor_ColorButton,
                       m_form.axisEdit_AreaBorderThickness_Label, m_form.axisEdit_AreaBorderThickness_ComboBox});
     m_bindings.apply(
-        whileSet(m.viewportStyle(&ViewportStyle::getIsFilled)),
+        whileSet(m.viewportStyle(&ViewportStyle::getIsFilled), "The viewport is not filled."),
         {m_form.axisEdit_ViewportStyleFillColor_Label, m_form.axisEdit_ViewportStyleFillColor_ColorButton});
     m_bindings.apply(
-        whileSet(m.viewportStyle(&ViewportStyle::getDrawBorder)),
+        whileSet(m.viewportStyle(&ViewportStyle::getDrawBorder), "The viewport has no border."),
         {m_form.axisEdit_ViewportStyleBorderColor_Label, m_form.axisEdit_ViewportStyleBorderColor_ColorButton,
          m_form.axisEdit_ViewportStyleBorderThickness_Label, m_form.axisEdit_ViewportStyleBorderThickness_ComboBox});
 

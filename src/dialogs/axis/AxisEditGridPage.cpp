@@ -64,9 +64,9 @@ void AxisEditGridPage::createBindings()
 void AxisEditGridPage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
-    auto const lines = whileSet(m.gridLines(&Lines::getShow));
-    auto const minorLines = whileSet(m.minorGridLines(&Lines::getShow));
-    auto const dots = whileSet(m.preciseGrid(&Dots::getInclude));
+    auto const lines = whileSet(m.gridLines(&Lines::getShow), "Gridlines are not shown.");
+    auto const minorLines = whileSet(m.minorGridLines(&Lines::getShow), "Minor gridlines are not shown.");
+    auto const dots = whileSet(m.preciseGrid(&Dots::getInclude), "There is no precise dot grid.");
 
     m_bindings.apply(lines, {m_form.axisEdit_GridDrawLast_ToggleButton, m_form.axisEdit_GridColor_Label,
                              m_form.axisEdit_GridColor_ColorButton, m_form.axisEdit_GridLinePattern_Label,

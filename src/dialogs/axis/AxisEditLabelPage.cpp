@@ -87,12 +87,13 @@ void AxisEditLabelPage::createBindings()
 void AxisEditLabelPage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
-    m_bindings.apply(whileEqual(m.labels(&Labels::getLabelAlignment), LabelAlignment_ByAngle),
+    m_bindings.apply(whileEqual(m.labels(&Labels::getLabelAlignment), LabelAlignment_ByAngle,
+                                "Labels are not turned by an angle of their own."),
                      {m_form.axisEdit_LabelAngle_Label, m_form.axisEdit_LabelAngle_1Text});
     auto const format = m.labels(&Labels::getNumberFormat);
     m_bindings.apply(whilePrecisionCounts(format),
                      {m_form.axisEdit_LabelPrecision_Label, m_form.axisEdit_LabelPrecision_SpinBox});
-    m_bindings.apply(whileEqual(format, NumberFormat_TimeDate),
+    m_bindings.apply(whileEqual(format, NumberFormat_TimeDate, "Numbers are not shown as time or date."),
                      {m_form.axisEdit_LabelTimeDate_Label, m_form.axisEdit_LabelTimeDate_1Text});
     m_bindings.show(m.gridBorderRelevance(), {m_form.axisEdit_LabelShowOnGridBorderMin_ToggleButton,
                                               m_form.axisEdit_LabelShowOnGridBorderMax_ToggleButton});

@@ -54,18 +54,19 @@ void AxisEditLinePage::createBindings()
 void AxisEditLinePage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
-    auto const line = whileSet(m.axisLine(&Line::getShow));
+    auto const line = whileSet(m.axisLine(&Line::getShow), "The axis line is not shown.");
     auto const alignment = m.axisLine(&Line::getAxisAlignment);
     m_bindings.apply(line,
                      {m_form.axisEdit_LineColor_Label, m_form.axisEdit_LineColor_ColorButton,
                       m_form.axisEdit_LineThickness_Label, m_form.axisEdit_LineThickness_ComboBox,
                       m_form.axisEdit_LineBothDirections_ToggleButton, m_form.axisEdit_LinePerpendicular_ToggleButton,
                       m_form.axisEdit_LineOppositeEdge_ToggleButton});
-    m_bindings.apply(whileEqual(alignment, AxisAlignment_OpposingAxisValue),
+    m_bindings.apply(whileEqual(alignment, AxisAlignment_OpposingAxisValue,
+                                "The axis is not aligned with a value of the opposing axis."),
                      {m_form.axisEdit_LineOpposingValue_Label, m_form.axisEdit_LineOpposingValue_1Text});
-    m_bindings.apply(whileEqual(alignment, AxisAlignment_Viewport),
+    m_bindings.apply(whileEqual(alignment, AxisAlignment_Viewport, "The axis is not aligned with the viewport."),
                      {m_form.axisEdit_LinePosition_Label, m_form.axisEdit_LinePosition_1Text});
-    m_bindings.apply(whileEqual(alignment, AxisAlignment_SpecificAngle),
+    m_bindings.apply(whileEqual(alignment, AxisAlignment_SpecificAngle, "The axis is not aligned with an angle."),
                      {m_form.axisEdit_LineAngle_Label, m_form.axisEdit_LineAngle_1Text});
 
     m_bindings.show(m.flatRelevance(), {m_form.axisEdit_LinePlacement_GroupBox});

@@ -62,11 +62,12 @@ void AxisEditTicksPage::createBindings()
 void AxisEditTicksPage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
-    auto const isSpacingGiven = boost::make_shared<InvertingRelevance const>(whileSet(m.axis(&Axis::getAutoGrid)));
+    auto const isSpacingGiven = boost::make_shared<InvertingRelevance const>(whileSet(m.axis(&Axis::getAutoGrid), {}),
+                                                                             "The plot chooses the spacing.");
     m_bindings.apply(isSpacingGiven, {m_form.axisEdit_TicksSpacing_Label, m_form.axisEdit_TicksSpacing_1Text,
                                       m_form.axisEdit_TicksAnchor_Label, m_form.axisEdit_TicksAnchor_1Text});
-    auto const hasMinorTicks =
-        boost::make_shared<InvertingRelevance const>(whileEqual(m.ticks(&Ticks::getNumminorticks), 0));
+    auto const hasMinorTicks = boost::make_shared<InvertingRelevance const>(
+        whileEqual(m.ticks(&Ticks::getNumminorticks), 0, {}), "There are no minor ticks.");
     m_bindings.apply(hasMinorTicks,
                      {m_form.axisEdit_MinorTicksLength_Label, m_form.axisEdit_MinorTicksLength_ComboBox,
                       m_form.axisEdit_MinorTicksThickness_Label, m_form.axisEdit_MinorTicksThickness_ComboBox});

@@ -55,8 +55,10 @@ void AxisEditTitlePage::bindRelevanciesToControls()
 {
     auto& m = m_manager;
     auto const mode = m.title(&Title::getTitleMode);
-    m_bindings.apply(whileEqual(mode, AxisTitleMode_Text), {m_form.axisEdit_TitleText_1Text});
-    m_bindings.apply(boost::make_shared<InvertingRelevance const>(whileEqual(mode, AxisTitleMode_None)),
+    m_bindings.apply(whileEqual(mode, AxisTitleMode_Text, "The title is no text of its own."),
+                     {m_form.axisEdit_TitleText_1Text});
+    m_bindings.apply(boost::make_shared<InvertingRelevance const>(whileEqual(mode, AxisTitleMode_None, {}),
+                                                                  "The axis has no title."),
                      {m_form.axisEdit_TitleShowOn_GroupBox, m_form.axisEdit_TitleText_GroupBox,
                       m_form.axisEdit_TitlePlacement_GroupBox});
     m_bindings.show(m.gridBorderRelevance(), {m_form.axisEdit_TitleShowOnGridBorderMin_ToggleButton,

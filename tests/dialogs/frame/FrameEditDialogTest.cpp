@@ -202,6 +202,8 @@ TEST_F(FrameEditDialogTest, WhatIsNotShownHasNothingToEdit)
             EXPECT_EQ(styleOf<bool>({"FrameLayout", each.key}), checked == each.storedWhenChecked) << each.key;
             for (char const* const control : each.controls) {
                 EXPECT_EQ(isEnabled(dialog, control), checked) << control;
+                EXPECT_EQ(find<QWidget>(dialog, control).toolTip().contains(QStringLiteral("shows no")), !checked)
+                    << control;
             }
         }
     }

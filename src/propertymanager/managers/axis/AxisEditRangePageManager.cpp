@@ -112,10 +112,11 @@ AxisEditRangePageManager::AxisEditRangePageManager(AxisEditProperties& propertie
     , m_xToYRatioLabel(std::string())
     , m_dependentAxesAllowed(boost::make_shared<StateChangeDependentRelevance const>(
           &isXYDependentAllowed, "Axes with a logarithmic scale, or more than one of a kind, are independent."))
-    , m_xyDependent(whileAxisModeIsOneOf({AxisMode_XYDependent, AxisMode_XYZDependent}))
-    , m_xyzDependent(whileAxisModeIsOneOf({AxisMode_XYZDependent}))
-    , m_ySizeRelevance(whileAxisModeIsOneOf({AxisMode_Independent}))
-    , m_zSizeRelevance(whileAxisModeIsOneOf({AxisMode_Independent, AxisMode_XYDependent}))
+    , m_xyDependent(whileAxisModeIsOneOf({AxisMode_XYDependent, AxisMode_XYZDependent}, "X and Y are independent."))
+    , m_xyzDependent(whileAxisModeIsOneOf({AxisMode_XYZDependent}, "Z is independent."))
+    , m_ySizeRelevance(whileAxisModeIsOneOf({AxisMode_Independent}, "The size of Y follows from that of X."))
+    , m_zSizeRelevance(
+          whileAxisModeIsOneOf({AxisMode_Independent, AxisMode_XYDependent}, "The size of Z follows from that of X."))
     , m_logScaleRelevance(whileAxis(
           [this] { return VtxUtilFrameGetPlotType() == PlotType_XYLine || this->properties().axisChar() == 'R'; }))
     , m_autoAdjustRelevance(whilePlotType({PlotType_XYLine, PlotType_Sketch, PlotType_Cartesian2D}))
@@ -129,12 +130,13 @@ AxisEditRangePageManager::AxisEditRangePageManager(AxisEditProperties& propertie
 }
 
 AxisEditRangePageManager::Relevance
-AxisEditRangePageManager::whileAxisModeIsOneOf(std::initializer_list<AxisMode_e> modes)
+AxisEditRangePageManager::whileAxisModeIsOneOf(std::initializer_list<AxisMode_e> modes, std::string reason)
 {
     auto const relevance = boost::make_shared<PropertyDependentRelevance<AxisMode_e>>(*m_axisMode, *modes.begin());
     for (AxisMode_e const mode : modes) {
         relevance->addRelevantValue(mode);
     }
+    relevance->setReason(std::move(reason));
     return relevance;
 }
 

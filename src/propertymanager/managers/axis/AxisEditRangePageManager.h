@@ -93,7 +93,7 @@ private:
     boost::shared_ptr<PropertyAbstract<bool>> preserveAxisScale() const;
     boost::shared_ptr<PropertyAbstract<bool>> clipData() const;
     bool fitThetaToVariable();
-    Relevance whileAxisModeIsOneOf(std::initializer_list<AxisMode_e> modes);
+    Relevance whileAxisModeIsOneOf(std::initializer_list<AxisMode_e> modes, std::string reason);
 
     boost::shared_ptr<UIStylePropertyAbstract<double>> m_min;
     boost::shared_ptr<UIStylePropertyAbstract<double>> m_max;

@@ -30,9 +30,10 @@ FrameEditPropertiesManager::FrameEditPropertiesManager()
     : m_properties(false, toolbox::StringList())
 {
     installDecorators();
-    m_showBorderRelevance = whileSet(m_properties.framelayoutShowBorder());
-    m_showHeaderRelevance = whileSet(m_properties.framelayoutShowHeader());
-    m_showBackgroundColorRelevance = whileSet(m_properties.framelayoutShowBackground());
+    m_showBorderRelevance = whileSet(m_properties.framelayoutShowBorder(), "The frame shows no border.");
+    m_showHeaderRelevance = whileSet(m_properties.framelayoutShowHeader(), "The frame shows no header.");
+    m_showBackgroundColorRelevance =
+        whileSet(m_properties.framelayoutShowBackground(), "The frame shows no background.");
 }
 
 void FrameEditPropertiesManager::installDecorators()

@@ -33,13 +33,15 @@ void PerformancePropertiesManager::setupRelevancies()
     m_isMacroRecordingNotActive = boost::make_shared<StateChangeDependentRelevance const>(
         &common::isMacroRecordingStateChange, [] { return !VtxUtilMacroIsRecordingActive(); },
         "While a macro is being recorded this stays as it is.");
-    m_isUsingApproximatePlots = whileEqual(m_properties.useapproximateplots(), true);
+    m_isUsingApproximatePlots = whileSet(m_properties.useapproximateplots(), "Approximate plots are not used.");
     m_areAllFramesAlwaysApproximated =
-        whileEqual(m_properties.plotapproximationmode(), PlotApproximationMode_AllAlwaysApproximated);
+        whileEqual(m_properties.plotapproximationmode(), PlotApproximationMode_AllAlwaysApproximated, {});
     m_isRenderTimeRelevant = RelevanceExpression(m_isUsingApproximatePlots)
-                                 .aand(boost::make_shared<InvertingRelevance>(m_areAllFramesAlwaysApproximated));
-    m_isUnloadingStrategyAuto = whileEqual(m_properties.unloadstrategy(), UnloadStrategy_Auto);
-    m_isShowingStatusLine = whileEqual(m_properties.showstatusline(), true);
+                                 .aand(boost::make_shared<InvertingRelevance>(m_areAllFramesAlwaysApproximated,
+                                                                              "All frames are always approximated."));
+    m_isUnloadingStrategyAuto =
+        whileEqual(m_properties.unloadstrategy(), UnloadStrategy_Auto, "Variables are not unloaded automatically.");
+    m_isShowingStatusLine = whileSet(m_properties.showstatusline(), "The status line is not shown.");
 }
 
 bool PerformancePropertiesManager::submit()
