@@ -16,7 +16,8 @@ public:
 
     /// Sets one of the values that the host accepts in place of the present one; false when it accepts none.
     virtual bool change() = 0;
-    /// Sets another value without asking the host whether it would accept it; only for a deferred member.
+    /// Sets another value without asking the host whether it would accept it; for a deferred member, or one that is to
+    /// refuse any.
     virtual void edit() = 0;
     /// Sets the value of a probe of the same type.
     virtual void take(MemberProbe const& other) = 0;
