@@ -23,7 +23,7 @@ struct RenderSettings
     bool approximates = true;
     PlotApproximationMode_e approximation = PlotApproximationMode_Automatic;
     double keptPoints = 0.25;      /* of an approximate plot, of the points of its surfaces; 0 to 1 */
-    double longestTime = 0.25;     /* seconds that rendering may take before a moving plot is approximated */
+    double longestTime = 0.05;     /* seconds that rendering may take before a moving plot is approximated */
     bool approximatesTexts = true; /* an approximate plot has its texts, too */
     GraphicsCache cache = GraphicsCache::All;
     bool exportsAnew = true;    /* exported pictures are rendered for themselves; else they take what the screen has */

@@ -89,7 +89,7 @@ TEST_F(SettingsTest, StyleOfTheProgramIsThereAgainInTheNextSession)
     };
     EXPECT_EQ(value("Interface/UseDisplayLists"), kernel::StyleData(0L));
     EXPECT_EQ(value("Interface/PercentageOfPointsToKeep"), kernel::StyleData(12.5));
-    EXPECT_EQ(value("Interface/MaxRenderTimeBeforeApprox"), kernel::StyleData(0.25)) << "out of range";
+    EXPECT_EQ(value("Interface/MaxRenderTimeBeforeApprox"), kernel::StyleData(0.05)) << "out of range";
     EXPECT_EQ(value("Paper/ShowGrid"), kernel::StyleData(1L)) << "style of a page";
     EXPECT_EQ(value("Paper/ShowRuler"), kernel::StyleData(1L));
     EXPECT_FALSE(VtxUtilUndo());
